@@ -1,0 +1,78 @@
+#include "bench/bare_loop.h"
+#include "engine/air.h"
+#include "engine/flight.h"
+#include "numbers/rounding.h"
+
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+using namespace parabolt;
+
+/// A driver's launch in mild weather: 691 steps.
+ShotState driver() {
+    ShotState shot;
+    shot.LaunchAngle = 9.5F;
+    shot.RPM = 3200;
+    shot.LaunchSpeedMs = store32(144 * 1609.344 / 3600);
+    shot.Temperature = 70;
+    shot.BaroPressure = 29.92F;
+    shot.RH = 50;
+    ComputeEnvironment(shot);
+    return shot;
+}
+
+bench::BareShot bare(const ShotState& shot) {
+    return {shot.LaunchSpeedMs, shot.LaunchAngle,  shot.RPM, shot.WindSpeedMs,
+            shot.AirDensity,    shot.AirViscosity, shot.CD1};
+}
+
+void bareLoop(benchmark::State& state) {
+    bench::BareShot shot = bare(driver());
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(shot);
+        benchmark::DoNotOptimize(bench::bareCarry(shot));
+    }
+}
+
+void carry(benchmark::State& state) {
+    ShotState shot = driver();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(shot);
+        benchmark::DoNotOptimize(SimulateCarry(shot));
+    }
+}
+
+/// With path and outcome, into a record that is new each time.
+void flight(benchmark::State& state) {
+    ShotState shot = driver();
+    std::size_t points = 0;
+    for (auto _ : state) {
+        RunRecord record;
+        benchmark::DoNotOptimize(shot);
+        benchmark::DoNotOptimize(SimulateFlight(shot, {}, record));
+        benchmark::DoNotOptimize(record.Path.data());
+        points = record.Path.size();
+    }
+    state.counters["steps"] = static_cast<double>(points - 1);
+}
+
+BENCHMARK(bareLoop);
+BENCHMARK(carry);
+BENCHMARK(flight);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    // A yardstick that flies another shot measures nothing.
+    const ShotState shot = driver();
+    if (bench::bareCarry(bare(shot)) != SimulateCarry(shot)) {
+        std::fputs("The bare loop and the engine disagree.\n", stderr);
+        return EXIT_FAILURE;
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return EXIT_SUCCESS;
+}

@@ -1,0 +1,223 @@
+// What a user waits for: a run, a study, a batch, drawing, windows, the start. Needs a display,
+// real or virtual; the window is painted into memory, as it is on the way to the screen.
+
+#include "bench/bare_loop.h"
+#include "clubs/frm_club_params.h"
+#include "engine/flight.h"
+#include "qt/club_editor_window.h"
+#include "qt/main_window.h"
+#include "qt/picture_painter.h"
+#include "qt/print_view_window.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPushButton>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cmath>
+#include <fstream>
+
+namespace {
+
+using namespace parabolt;
+
+/// Answers everything at once and shows nothing; time passes as fast as it is asked to.
+struct Silent : MessageBoxes, FileDialog, PreferencesStore, Desktop, EventLoop, Printer {
+    Timer* timer = nullptr;
+
+    void show(std::string_view) override {}
+    bool ask(std::string_view) override { return true; }
+    Answer askOrCancel(std::string_view) override { return Answer::Yes; }
+    void showOpen() override {}
+    void showSave() override {}
+    ReadResult read(const std::string&, const std::string&, const std::string&) override {
+        return Absent{};
+    }
+    WriteResult write(const std::string&, const std::string&, const std::string&,
+                      const std::string&) override {
+        return Written{};
+    }
+    void openHelp() override {}
+    void openWebPage(std::string_view) override {}
+    void openAddress(std::string_view) override {}
+    void yield() override { timer->Tick(); }
+    PageSize paper() override { return {}; }
+    std::optional<std::string> print(std::string_view, const std::function<void(Page&)>&) override {
+        return std::nullopt;
+    }
+};
+
+/// The main form with a number of data sets, each another wind so that no curve hides another.
+struct LoadedForm {
+    explicit LoadedForm(int dataSets) {
+        services.timer = &main.form.Timer1;
+        main.Form_Load();
+        main.plot.Form_Resize({20000, 12000, 300}, false);
+        main.form.optLaunch.select();
+        while (main.form.Runs.size() <= static_cast<std::size_t>(dataSets)) {
+            main.form.shot.WindSpeed = static_cast<double>(main.form.Runs.size()) - 12;
+            main.form.Command1.Click();
+        }
+    }
+    Silent services;
+    frmMain main{{services, services, services, services, services, "/"}};
+};
+
+void bareFlight(benchmark::State& state) {
+    const LoadedForm loaded(1);
+    const ShotState& shot = loaded.main.form.shot;
+    bench::BareShot bare{shot.LaunchSpeedMs, shot.LaunchAngle,  shot.RPM, shot.WindSpeedMs,
+                         shot.AirDensity,    shot.AirViscosity, shot.CD1};
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(bare);
+        benchmark::DoNotOptimize(bench::bareCarry(bare));
+    }
+}
+
+/// The computing of a spin study and its closing run, without the pauses.
+void spinStudy(benchmark::State& state) {
+    LoadedForm loaded(0);
+    for (auto _ : state) {
+        loaded.main.form.mnuStySpin.Click();
+        state.PauseTiming();
+        loaded.main.form.Command2.Click();
+        state.ResumeTiming();
+    }
+    state.counters["flights"] = loaded.main.form.shot.RPM / 100 + 3;
+}
+
+/// All flights that a spin study can make.
+void longestSpinStudy(benchmark::State& state) {
+    LoadedForm loaded(1);
+    ShotState shot = loaded.main.form.shot;
+    for (auto _ : state) {
+        for (int spin = 0; spin <= 22000; spin += 100) {
+            shot.RPM = static_cast<float>(spin);
+            benchmark::DoNotOptimize(SimulateCarry(shot));
+        }
+    }
+    state.counters["flights"] = 221;
+}
+
+/// The computing and drawing of a batch over the irons, without the pauses.
+void batch(benchmark::State& state) {
+    LoadedForm loaded(0);
+    loaded.main.form.optAuto.select();
+    loaded.main.form.optIron.select();
+    loaded.main.form.chkBatch.setChecked(true);
+    for (auto _ : state)
+        loaded.main.form.Command1.Click();
+    state.counters["flights"] = 12;
+}
+
+/// DrawCurves and the painting of the plot, at a density of the screen.
+void draw(benchmark::State& state) {
+    LoadedForm loaded(static_cast<int>(state.range(0)));
+    const auto density = static_cast<double>(state.range(1));
+    QImage image(QSize(1280, 520) * density, QImage::Format_RGB32);
+    image.setDevicePixelRatio(density);
+    for (auto _ : state) {
+        loaded.main.plot.DrawCurves();
+        QPainter painter(&image);
+        paintPlot(painter, loaded.main.form.screenPlot(), QRectF(0, 0, 1280, 520));
+    }
+    state.counters["points"] = static_cast<double>(loaded.main.form.Runs.back().Path.size()) *
+                               static_cast<double>(state.range(0));
+}
+
+/// From the click that makes the 24th data set to painted pixels of the whole window.
+void pressRun(benchmark::State& state) {
+    LoadedForm loaded(23);
+    MainWindow window(loaded.main);
+    window.resize(1920, 1030);
+    window.show();
+    QApplication::processEvents();
+    auto* run = window.findChild<QPushButton*>("Command1");
+    for (auto _ : state) {
+        run->click();
+        QApplication::processEvents();
+        state.PauseTiming();
+        loaded.main.form.Command2.Click();
+        while (loaded.main.form.Runs.size() < 24)
+            loaded.main.form.Command1.Click();
+        QApplication::processEvents();
+        state.ResumeTiming();
+    }
+}
+
+void openMainForm(benchmark::State& state) {
+    for (auto _ : state) {
+        LoadedForm loaded(0);
+        MainWindow window(loaded.main);
+        window.show();
+        QApplication::processEvents();
+    }
+}
+
+void openClubEditor(benchmark::State& state) {
+    LoadedForm loaded(0);
+    Silent& all = loaded.services;
+    for (auto _ : state) {
+        frmClubParams editor(loaded.main.form.clubs, {all, all, all, all, "/", [] {}});
+        ClubEditorWindow window(editor);
+        window.show();
+        QApplication::processEvents();
+    }
+}
+
+void openPrintView(benchmark::State& state) {
+    LoadedForm loaded(12);
+    for (auto _ : state) {
+        PrintView view(loaded.main.form.printPlot(), loaded.main.form.txtResult, loaded.services,
+                       loaded.services);
+        PrintViewWindow window(view);
+        window.show();
+        QApplication::processEvents();
+    }
+}
+
+BENCHMARK(bareFlight)->Unit(benchmark::kMicrosecond);
+BENCHMARK(spinStudy)->Unit(benchmark::kMicrosecond);
+BENCHMARK(longestSpinStudy)->Unit(benchmark::kMicrosecond);
+BENCHMARK(batch)->Unit(benchmark::kMicrosecond);
+BENCHMARK(draw)->ArgsProduct({{1, 12, 24}, {1, 2}})->Unit(benchmark::kMicrosecond);
+BENCHMARK(pressRun)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(openMainForm)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(openClubEditor)->Unit(benchmark::kMillisecond)->Iterations(10);
+BENCHMARK(openPrintView)->Unit(benchmark::kMillisecond)->Iterations(10);
+
+/// Resident memory of the process in MB.
+double residentMegabytes() {
+    std::ifstream status("/proc/self/statm");
+    double size = 0;
+    double resident = 0;
+    status >> size >> resident;
+    return resident * 4096 / 1e6;
+}
+
+/// Starts the form as the program does, splash aside, then fills it with 24 data sets.
+void measureStart(std::chrono::steady_clock::time_point begin) {
+    LoadedForm loaded(0);
+    MainWindow window(loaded.main);
+    window.resize(1920, 1030);
+    window.show();
+    QApplication::processEvents();
+    const std::chrono::duration<double, std::milli> start =
+        std::chrono::steady_clock::now() - begin;
+    while (loaded.main.form.Runs.size() <= 24)
+        loaded.main.form.Command1.Click();
+    QApplication::processEvents();
+    benchmark::AddCustomContext("start_ms", std::to_string(std::lround(start.count())));
+    benchmark::AddCustomContext("resident_mb", std::to_string(std::lround(residentMegabytes())));
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const auto begin = std::chrono::steady_clock::now();
+    const QApplication application(argc, argv);
+    measureStart(begin);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

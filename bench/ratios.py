@@ -1,0 +1,69 @@
+"""Prints what the benchmarks measured as one table, with ratios to the bare loop of the same run.
+
+Call: ratios.py ENGINE.json FORM.json [save]     "save" also writes bench/results.md
+
+The figures are the least of all repetitions: what else runs on the machine only ever adds time.
+"""
+import json
+import sys
+from pathlib import Path
+
+# Benchmark, what it is, target.
+ENGINE = [
+    ("bareLoop", "bare loop, one flight", ""),
+    ("carry", "`SimulateCarry`", "at most 1.10"),
+    ("flight", "`SimulateFlight`, with path and outcome", "at most 1.15"),
+]
+FORM = [
+    ("bareFlight", "bare loop, one flight", ""),
+    ("spinStudy", "spin study from the defaults, computing alone", ""),
+    ("longestSpinStudy", "221 flights, the longest spin study", ""),
+    ("batch", "batch over 12 irons, computing and drawing into shapes", ""),
+    ("draw/1/1", "drawing 1 data set, 1280 x 520", ""),
+    ("draw/12/1", "drawing 12 data sets", ""),
+    ("draw/24/1", "drawing 24 data sets", ""),
+    ("draw/1/2", "drawing 1 data set at twice the density", ""),
+    ("draw/12/2", "drawing 12 data sets at twice the density", ""),
+    ("draw/24/2", "drawing 24 data sets at twice the density", ""),
+    ("pressRun/iterations:20", "Run with 24 data sets, click to pixels", "below 16.7 ms"),
+    ("openMainForm/iterations:10", "opening the main form", ""),
+    ("openClubEditor/iterations:10", "opening the club editor", ""),
+    ("openPrintView/iterations:10", "opening the print view", ""),
+]
+MICROSECONDS = {"ns": 1e-3, "us": 1.0, "ms": 1e3}
+
+
+def rows(report, names):
+    """One line each: what, microseconds, time for a flight against the bare loop, target."""
+    least, flights = {}, {}
+    for run in report["benchmarks"]:
+        if run["run_type"] == "iteration":
+            time = run["cpu_time"] * MICROSECONDS[run["time_unit"]]
+            least[run["run_name"]] = min(time, least.get(run["run_name"], time))
+            flights[run["run_name"]] = run.get("flights", 1 if report is engine else 0)
+    yardstick = least[names[0][0]]
+    for key, what, target in names:
+        flown = 1 if key == names[0][0] else flights[key]
+        ratio = f"{least[key] / flown / yardstick:.3f}" if flown else ""
+        yield f"| {what} | {least[key]:.1f} | {ratio} | {target} |"
+
+
+engine, form = (json.loads(Path(path).read_text(encoding="utf-8")) for path in sys.argv[1:3])
+steps = next(run["steps"] for run in engine["benchmarks"] if "steps" in run)
+least_ns = min(run["cpu_time"] for run in engine["benchmarks"]
+               if run["run_name"] == "flight" and run["run_type"] == "iteration")
+head = ["| | us | each flight against the bare loop | target |", "|---|---|---|---|"]
+context = form["context"]
+lines = [
+    f"One flight of {steps:.0f} steps: {least_ns / steps:.1f} ns a step, {1e9 / least_ns:.0f} flights a second.",
+    "", *head, *rows(engine, ENGINE),
+    "", "In the form, on a virtual display:",
+    "", *head, *rows(form, FORM),
+    "", f"Start to a painted main form, splash aside: {context['start_ms']} ms (target: below 500).",
+    f"Resident memory with 24 data sets: {context['resident_mb']} MB (target: below 100).",
+]
+print("\n".join(lines))
+if sys.argv[3:] == ["save"]:
+    where = f"{context['num_cpus']} CPUs at {context['mhz_per_cpu']} MHz, {context['date'][:10]}"
+    text = ["# Speed", "", f"Measured by `scripts/bench save` on {where}.", "", *lines, ""]
+    Path(__file__).with_name("results.md").write_text("\n".join(text), encoding="utf-8")

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "engine/fault.h"
+#include "engine/shot_state.h"
+
+#include <optional>
+
+namespace parabolt {
+
+/// The ball in flight. Lives only while the flight runs.
+struct FlightState {
+    float x = 0;     ///< metres downrange
+    float y = 0;     ///< metres above the ground
+    float vx = 0;    ///< m/s over the ground
+    float vy = 0;    ///< m/s, positive upward
+    float w = 0;     ///< back spin, rad/s
+    float theta = 0; ///< flight-path angle over the ground, radians
+    float t = 0;     ///< seconds since the launch
+};
+
+/// What a record keeps of the form besides the shot.
+struct RunTags {
+    std::int16_t Mode = 0;
+    bool IsWood = false;
+};
+
+/// Flies the shot from the launch to the first step below the ground and completes the record of
+/// its run: `Path`, the outcome and the copies of the inputs; `CurveColor` stays. Expects the
+/// shot's derived quantities to be up to date. A fault ends the flight at once: the record keeps
+/// the path up to the last completed step and nothing else. More than 32767 steps are such a fault.
+std::optional<Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, RunRecord& record);
+
+/// The carry in yards of the same flight, equal to the last bit, without a record and without a
+/// limit on the steps; 0 after a fault and for a ball that never comes down.
+float SimulateCarry(const ShotState& shot);
+
+} // namespace parabolt

@@ -1,0 +1,60 @@
+#include "engine/landing.h"
+
+#include "engine/flight_step.h"
+
+namespace parabolt {
+namespace {
+
+constexpr double kMetresPerSecondPerMph = 0.44704;
+constexpr double kSecondsPerMinute = 60;
+
+// Two divisors that differ in the seventh digit: the shown spin and the roll keep their own.
+constexpr float kRadiansPerTurnShown = 6.28318F;
+constexpr double kRadiansPerTurnRoll = 6.28318;
+
+} // namespace
+
+float greenRoll(const FlightState& landing) {
+    const double horizontal = landing.vx / kMetresPerSecondPerMph;
+    const double descent = -double{landing.vy} / kMetresPerSecondPerMph;
+    const double spin = (landing.w * kSecondsPerMinute) / kRadiansPerTurnRoll;
+    return store32(
+        (horizontal * horizontal * 0.0013 + (landing.vx * 0.144) / kMetresPerSecondPerMph) -
+        (spin * 2.17e-05) * descent);
+}
+
+std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& shot,
+                                   const RunTags& tags, RunRecord& record) {
+    constexpr float kFeetPerYard = 3;
+    const FaultWatch watch;
+    record.CarryTime = landing.t;
+    record.ImpactSpin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown);
+    record.ImpactSpeed = store32(landing.vx / kMetresPerSecondPerMph);
+    record.GreenRoll = store32(double{greenRoll(landing)} * kFeetPerYard);
+    record.CarryDist = store32(double{landing.x} * kYardsPerMetre);
+    if (const auto fault = watch.fault())
+        return fault;
+
+    record.LaunchAngle = shot.LaunchAngle;
+    record.RPM = shot.RPM;
+    record.LaunchSpeed = shot.LaunchSpeed;
+    record.HeadSpeed = shot.HeadSpeed;
+    record.ClubNo = shot.ClubNo;
+    record.SpeedIncrement = shot.SpeedIncrement;
+    record.WindSpeed = store32(shot.WindSpeed);
+    record.Temperature = shot.Temperature;
+    record.BaroPressure = shot.BaroPressure;
+    record.RH = shot.RH;
+    record.h = shot.h;
+    record.COR = shot.COR;
+    record.HeadWeight = shot.HeadWeight;
+    record.AttackAngle = shot.AttackAngle;
+    record.LoftAngle = shot.LoftAngle;
+    record.CD1 = shot.CD1;
+    record.Bending = shot.Bending;
+    record.Mode = tags.Mode;
+    record.IsWood = tags.IsWood;
+    return std::nullopt;
+}
+
+} // namespace parabolt

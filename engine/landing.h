@@ -1,0 +1,17 @@
+#pragma once
+
+#include "engine/flight.h"
+
+namespace parabolt {
+
+/// Roll on the green in yards for the state at the landing; negative when the ball spins back. A
+/// closed formula: the run-out of the horizontal speed, less what the spin takes back with the
+/// speed of descent. The ground has no slope and no kind.
+float greenRoll(const FlightState& landing);
+
+/// Ends a recording flight: the outcome and the copies of the inputs into the record. `Path` and
+/// `CurveColor` stay. A store that overflows leaves the record as far as it has come.
+std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& shot,
+                                   const RunTags& tags, RunRecord& record);
+
+} // namespace parabolt

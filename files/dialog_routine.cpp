@@ -1,0 +1,109 @@
+#include "files/dialog_routine.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace parabolt {
+
+namespace {
+
+struct DialogRule {
+    DialogPurpose purpose;
+    void (FileDialog::*show)();
+    std::string_view title;
+    std::string_view filter;
+    std::array<std::string_view, 2> endings; ///< in lower case, without a dot; the second may lack
+    std::string_view refusal;
+};
+
+constexpr std::string_view kCannotOpen = "The file type is not correct!";
+constexpr std::string_view kCannotSave = "The file type is not support!";
+
+constexpr std::array<DialogRule, 5> kRules{{
+    {DialogPurpose::OpenParameters,
+     &FileDialog::showOpen,
+     "Open Parameters File",
+     "Parameter File(*.opt)|*.opt",
+     {"opt"},
+     kCannotOpen},
+    {DialogPurpose::SaveParameters,
+     &FileDialog::showSave,
+     "Save All Parameters To File",
+     "Parameters File(*.opt)|*.opt",
+     {"opt"},
+     kCannotSave},
+    {DialogPurpose::SaveResult,
+     &FileDialog::showSave,
+     "Save Result To A Text File",
+     "Text File(*.txt)|*.txt",
+     {"txt"},
+     kCannotSave},
+    {DialogPurpose::OpenClubs,
+     &FileDialog::showOpen,
+     "Open Clubs Parameter File",
+     "Clubs Parameter File(*.clb)|*.clb",
+     {"clb"},
+     kCannotOpen},
+    {DialogPurpose::SaveClubs,
+     &FileDialog::showSave,
+     "Save Clubs Parameter To File",
+     "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt",
+     {"clb", "txt"},
+     kCannotSave},
+}};
+
+constexpr std::string_view kAppName = "Parabolt";
+constexpr std::string_view kLastPath = "LastPath";
+constexpr std::size_t kEndingLength = 3;
+
+const DialogRule& ruleOf(DialogPurpose purpose) {
+    return *std::find_if(kRules.begin(), kRules.end(),
+                         [purpose](const DialogRule& rule) { return rule.purpose == purpose; });
+}
+
+std::string ending(const std::string& fileName) {
+    std::string last = fileName.substr(fileName.size() - std::min(fileName.size(), kEndingLength));
+    std::transform(last.begin(), last.end(), last.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
+    return last;
+}
+
+} // namespace
+
+DialogRoutine::DialogRoutine(FileDialog& dialog, PreferencesStore& preferences,
+                             MessageBoxes& messages, std::string applicationFolder)
+    : dialog_(dialog),
+      preferences_(preferences),
+      messages_(messages),
+      applicationFolder_(std::move(applicationFolder)) {}
+
+std::optional<Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work) {
+    const DialogRule& rule = ruleOf(purpose);
+    const Outcome<std::string> lastPath =
+        GetRegString(preferences_, kAppName, "startup", kLastPath, "");
+    if (const auto* failure = std::get_if<Failure>(&lastPath))
+        return *failure;
+    const std::string& folder = std::get<std::string>(lastPath);
+    dialog_.initialFolder = folder.empty() ? applicationFolder_ : folder;
+    dialog_.title = rule.title;
+    dialog_.filter = rule.filter;
+    (dialog_.*rule.show)();
+
+    if (const std::string fileName = dialog_.fileName; !fileName.empty()) {
+        const auto* const match =
+            std::find(rule.endings.begin(), rule.endings.end(), ending(fileName));
+        if (match == rule.endings.end())
+            messages_.show(rule.refusal);
+        else if (auto failure = work(fileName, *match))
+            return failure;
+    }
+    if (auto failure =
+            SaveRegString(preferences_, kAppName, "Startup", kLastPath, dialog_.finalFolder))
+        return failure;
+    dialog_.initialFolder.clear();
+    return std::nullopt;
+}
+
+} // namespace parabolt

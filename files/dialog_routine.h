@@ -1,0 +1,39 @@
+#pragma once
+
+#include "controls/services.h"
+#include "files/preferences.h"
+
+#include <functional>
+
+namespace parabolt {
+
+/// What a file dialog is shown for.
+enum class DialogPurpose { OpenParameters, SaveParameters, SaveResult, OpenClubs, SaveClubs };
+
+/// What all file dialogs of the program have in common: they start in the folder where the last one
+/// ended, and refuse names by their ending.
+class DialogRoutine {
+public:
+    /// Does what the dialog was shown for. Gets the file's name and the ending that it matched, one
+    /// of "opt", "clb" and "txt".
+    using Work =
+        std::function<std::optional<Failure>(const std::string& fileName, std::string_view ending)>;
+
+    /// `applicationFolder` is where dialogs start before one has ended.
+    DialogRoutine(FileDialog& dialog, PreferencesStore& preferences, MessageBoxes& messages,
+                  std::string applicationFolder);
+
+    /// Shows the dialog. A name with a right ending goes to `work`, any other is refused with a
+    /// message; a cancel does neither. In the end the dialog's folder is remembered. A failure, of
+    /// the work or of the preferences, ends the routine where it happens: what follows isn't done,
+    /// and what has been done stays done.
+    std::optional<Failure> run(DialogPurpose purpose, const Work& work);
+
+private:
+    FileDialog& dialog_;
+    PreferencesStore& preferences_;
+    MessageBoxes& messages_;
+    std::string applicationFolder_;
+};
+
+} // namespace parabolt

@@ -1,0 +1,150 @@
+#include "files/file_access.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <random>
+#include <system_error>
+
+namespace parabolt {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct Close {
+    void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, Close>;
+
+enum class Tail { Kept, Dropped };
+
+std::error_code lastError() {
+    return {errno, std::generic_category()};
+}
+
+Failure failure(const std::error_code& error) {
+    const bool badName = error == std::errc::filename_too_long ||
+                         error == std::errc::invalid_argument ||
+                         error == std::errc::illegal_byte_sequence;
+    const auto code = static_cast<std::uint32_t>(error.value());
+    return {badName ? kBadFileName : kFileFailureBase + code, error.message()};
+}
+
+std::optional<Failure> nameFailure(const std::string& fileName) {
+    if (fileName.find('\0') != std::string::npos)
+        return failure(std::make_error_code(std::errc::invalid_argument));
+    return std::nullopt;
+}
+
+/// Opens a file for reading and writing where it stands; creates it if there is none.
+File openOrCreate(const std::string& fileName) {
+    File file(std::fopen(fileName.c_str(), "r+b"));
+    if (file == nullptr && errno == ENOENT)
+        file.reset(std::fopen(fileName.c_str(), "w+b"));
+    return file;
+}
+
+/// Writes at the file's position and closes it. Only the close tells whether all has arrived.
+std::error_code writeAndClose(File file, const std::string& data) {
+    if (std::fwrite(data.data(), 1, data.size(), file.get()) != data.size())
+        return lastError();
+    return std::fclose(file.release()) == 0 ? std::error_code() : lastError();
+}
+
+std::error_code writeInPlace(const std::string& fileName, const std::string& data, Tail tail) {
+    File file =
+        tail == Tail::Kept ? openOrCreate(fileName) : File(std::fopen(fileName.c_str(), "wb"));
+    return file == nullptr ? lastError() : writeAndClose(std::move(file), data);
+}
+
+fs::path temporaryName(const fs::path& target) {
+    return target.parent_path() / (".parabolt-" + std::to_string(std::random_device()()) + ".tmp");
+}
+
+/// Makes the new file beside the old one. `old` is what is known of the old file.
+std::error_code writeTemporary(const fs::path& temporary, const fs::path& target,
+                               const fs::file_status& old, const std::string& data, Tail tail) {
+    std::error_code error;
+    const bool copy = fs::exists(old) && tail == Tail::Kept;
+    if (copy && !fs::copy_file(target, temporary, error))
+        return error;
+    File file(std::fopen(temporary.c_str(), copy ? "r+b" : "wbx"));
+    if (file == nullptr)
+        return lastError();
+    error = writeAndClose(std::move(file), data);
+    if (!error && fs::exists(old))
+        fs::permissions(temporary, old.permissions(), error);
+    return error;
+}
+
+bool takesPlaceOfOld(const fs::path& target, const fs::file_status& old) {
+    std::error_code ignored;
+    return !fs::exists(old) ||
+           (fs::is_regular_file(old) && fs::hard_link_count(target, ignored) == 1);
+}
+
+std::optional<Failure> write(const std::string& fileName, const std::string& data, Tail tail) {
+    if (auto bad = nameFailure(fileName))
+        return bad;
+    std::error_code error;
+    fs::path target = fs::canonical(fileName, error);
+    if (error)
+        target = fileName;
+    const fs::file_status old = fs::status(target, error);
+    if (fs::exists(old) && File(std::fopen(target.c_str(), "r+b")) == nullptr)
+        return failure(lastError());
+
+    bool inPlace = !takesPlaceOfOld(target, old);
+    error.clear();
+    if (!inPlace) {
+        const fs::path temporary = temporaryName(target);
+        error = writeTemporary(temporary, target, old, data, tail);
+        if (!error)
+            fs::rename(temporary, target, error);
+        if (error) {
+            std::error_code ignored;
+            fs::remove(temporary, ignored);
+        }
+        inPlace =
+            error == std::errc::permission_denied || error == std::errc::operation_not_permitted;
+    }
+    if (inPlace)
+        error = writeInPlace(target.string(), data, tail);
+    return error ? std::optional(failure(error)) : std::nullopt;
+}
+
+} // namespace
+
+Outcome<Bytes> readFileStart(const std::string& fileName, std::size_t most) {
+    if (auto bad = nameFailure(fileName))
+        return *bad;
+    std::error_code error;
+    const fs::file_status status = fs::status(fileName, error);
+    // A pipe or a terminal would let the reader wait without end.
+    if (fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status))
+        return failure(std::make_error_code(std::errc::not_supported));
+    const File file = openOrCreate(fileName);
+    if (file == nullptr)
+        return failure(lastError());
+    Bytes data(most);
+    data.resize(std::fread(data.data(), 1, most, file.get()));
+    if (std::ferror(file.get()) != 0)
+        return failure(lastError());
+    return data;
+}
+
+std::optional<Failure> writeFileStart(const std::string& fileName, const Bytes& data) {
+    return write(fileName, std::string(data.begin(), data.end()), Tail::Kept);
+}
+
+std::optional<Failure> replaceFile(const std::string& fileName, const std::string& content) {
+    return write(fileName, content, Tail::Dropped);
+}
+
+std::string_view readFailureMessage(const Failure& failure) {
+    return failure.number == kBadFileName ? "File not found!" : "File mismatch!";
+}
+
+} // namespace parabolt

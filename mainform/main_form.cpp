@@ -1,0 +1,32 @@
+#include "mainform/main_form.h"
+
+#include "numbers/rounding.h"
+#include "numbers/text_number.h"
+
+namespace parabolt {
+
+MainForm::MainForm() {
+    for (Control* hidden :
+         std::initializer_list<Control*>{&txtMode, &txtType, &Picture3, &Picture4})
+        hidden->setVisible(false);
+    for (Control* disabled :
+         std::initializer_list<Control*>{&txtMode, &txtType, &txtRun, &chkBatch})
+        disabled->setEnabled(false);
+    cmbClubNo.setItems({"1", "2", "3", "4", "5", "7", "9"});
+}
+
+int runNumber(const MainForm& form) {
+    return roundTo<int>(leadingNumber(form.txtRun.text())).value_or(0);
+}
+
+int operatingMode(const MainForm& form) {
+    return roundTo<int>(leadingNumber(form.txtMode.text())).value_or(0);
+}
+
+void showClubsInCaption(MainForm& form) {
+    form.caption = std::string(kApplicationTitle) + " - " + form.clubs.ClubsDescription;
+    if (form.onCaption)
+        form.onCaption();
+}
+
+} // namespace parabolt

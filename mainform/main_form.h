@@ -1,0 +1,157 @@
+#pragma once
+
+#include "clubs/club_tables.h"
+#include "controls/choices.h"
+#include "controls/focus.h"
+#include "controls/rich_text_box.h"
+#include "controls/simple_controls.h"
+#include "controls/text_box.h"
+#include "engine/shot_state.h"
+#include "plots/curves.h"
+
+#include <string>
+#include <vector>
+
+namespace parabolt {
+
+/// The application's title, in captions and message boxes.
+inline constexpr std::string_view kApplicationTitle = "Parabolt";
+
+/// The inventory of the main form `frmMain`: its controls under their given names, grouped by
+/// frame, and its state. It has no behaviour; the handler groups work on it.
+struct MainForm {
+    // State ------------------------------------------------------------------------------------
+    ShotState shot;
+    /// Data sets 1 to n, n being the number in `txtRun`. Element 0 stays empty.
+    std::vector<RunRecord> Runs{1};
+    ClubTables clubs;
+    bool blFormLoaded = false; ///< read by the splash: is there a main form already?
+    std::string caption{kApplicationTitle};
+    std::function<void()> onCaption; ///< set by the view
+
+    ControlSet controls;
+    Focus focus;
+
+    // Title ------------------------------------------------------------------------------------
+    Frame Frame3{controls, "Frame3", ""};
+    Label Label5{controls, "Label5", kApplicationTitle};
+    Label Label1{controls, "Label1", kApplicationTitle}; ///< over Label5, 15 twips right, 30 down
+
+    // Run and clear ----------------------------------------------------------------------------
+    Label Label4{controls, "Label4", "Data Sets"};
+    TextBox txtRun{controls, "txtRun", "0"}; ///< the run counter n
+    Label Label11{controls, "Label11", "Scale (Yard)"};
+    TextBox txtRange{controls, "txtRange", "300"};
+    Button Command1{controls, "Command1", "&Run"};
+    Button Command2{controls, "Command2", "&Clear"};
+
+    // Mode -------------------------------------------------------------------------------------
+    Frame Frame1{controls, "Frame1", "Mode"};
+    OptionGroup modeOptions;
+    OptionButton optActual{controls, modeOptions, "optActual", "Actual"};
+    OptionButton optManual{controls, modeOptions, "optManual", "Manual", true};
+    OptionButton optLaunch{controls, modeOptions, "optLaunch", "Launch"};
+    OptionButton optStandard{controls, modeOptions, "optStandard", "Default"};
+    OptionButton optAuto{controls, modeOptions, "optAuto", "Auto"};
+    TextBox txtMode{controls, "txtMode"}; ///< hidden; the mode, "0" to "4"
+
+    // Swing ------------------------------------------------------------------------------------
+    Frame Frame2{controls, "Frame2", "Swing Param."};
+    Label Label3{controls, "Label3", "Launch Angle(Deg.)"};
+    TextBox txtLaunchAngle{controls, "txtLaunchAngle", "9.5"};
+    Label Label2{controls, "Label2", "Ball Spin(rpm)"};
+    TextBox txtBallSpin{controls, "txtBallSpin", "3200"};
+    Label Label7{controls, "Label7", "Launch Speed(mph)"};
+    TextBox txtLaunchSpeed{controls, "txtLaunchSpeed", "144"};
+    Label Label8{controls, "Label8", "Club No."};
+    DropDownList cmbClubNo{controls, "cmbClubNo"};
+    Label Label9{controls, "Label9", "Head Speed(mph)"};
+    TextBox txtHeadSpeed{controls, "txtHeadSpeed"};
+    Label Label10{controls, "Label10", "Speed Increment"};
+    TextBox txtSpeedIncrement{controls, "txtSpeedIncrement", "1"};
+    CheckBox chkBatch{controls, "chkBatch", "Fill-in"};
+
+    // Club type --------------------------------------------------------------------------------
+    Frame Frame4{controls, "Frame4", "Club Type"};
+    OptionGroup typeOptions;
+    OptionButton optWood{controls, typeOptions, "optWood", "Wood", true};
+    OptionButton optIron{controls, typeOptions, "optIron", "Iron"};
+    TextBox txtType{controls, "txtType", "0"}; ///< hidden; the club type, "0" wood, "1" iron
+
+    // Club -------------------------------------------------------------------------------------
+    Frame Frame5{controls, "Frame5", "Club Parameter"};
+    Label Label6{controls, "Label6", "COR"};
+    TextBox txtCor{controls, "txtCor", "0.80"};
+    Label Label12{controls, "Label12", "Head(gm)"};
+    TextBox txtHeadWeight{controls, "txtHeadWeight", "225"};
+    Label Label14{controls, "Label14", "Loft Ang."};
+    TextBox txtLoftAngle{controls, "txtLoftAngle", "16"};
+    Label Label20{controls, "Label20", "Bend Ang."};
+    TextBox txtBending{controls, "txtBending", "0"};
+    Label Label13{controls, "Label13", "Att. Ang."};
+    TextBox txtAttackAngle{controls, "txtAttackAngle", "0"};
+
+    // Ball -------------------------------------------------------------------------------------
+    Frame Frame6{controls, "Frame6", "Golf Ball Properties "};
+    OptionGroup ballOptions;
+    OptionButton BallOpt1{controls, ballOptions, "BallOpt1", "Soft ball"};
+    OptionButton BallOpt2{controls, ballOptions, "BallOpt2", "Different dimple"};
+    OptionButton BallOpt3{controls, ballOptions, "BallOpt3", "Larger MOI"};
+    OptionButton BallOpt4{controls, ballOptions, "BallOpt4", "Default", true};
+
+    // Weather ----------------------------------------------------------------------------------
+    Frame Frame7{controls, "Frame7", "Environment"};
+    Label Label15{controls, "Label15", "Altitude(ft)"};
+    TextBox txtAltitude{controls, "txtAltitude", "0"};
+    Label Label16{controls, "Label16", "Wind(mph)"};
+    TextBox txtWind{controls, "txtWind", "0"};
+    Label Label17{controls, "Label17", "Pressure(In-Hg)"};
+    TextBox txtPressure{controls, "txtPressure", "29.92"};
+    Label Label18{controls, "Label18", "Temperature(F)"};
+    TextBox txtTemperature{controls, "txtTemperature", "70"};
+    Label Label19{controls, "Label19", "Humidity(%)"};
+    TextBox txtRelativeHumidity{controls, "txtRelativeHumidity", "50"};
+
+    // Results ----------------------------------------------------------------------------------
+    RichTextBox txtResult{controls, "txtResult"};
+    PictureBox Picture1{controls, "Picture1", kBlack, kWhite}; ///< the plot with axes and labels
+    PictureBox Picture2{controls, "Picture2", kBlack, kWhite}; ///< inside it, the curves
+    PictureBox Picture3{controls, "Picture3", kWhite, kBlack}; ///< hidden print twin of Picture1
+    PictureBox Picture4{controls, "Picture4", kWhite, kBlack}; ///< hidden print twin of Picture2
+    Label StatusBar1{controls, "StatusBar1", ""};
+    Timer Timer1{controls, "Timer1", 10};
+
+    // Menus ------------------------------------------------------------------------------------
+    MenuItem mnuFile{controls, "mnuFile", "&File"};
+    MenuItem mnuOpen{controls, "mnuOpen", "&Open Param."};
+    MenuItem mnuSave{controls, "mnuSave", "&Save Param."};
+    MenuItem mnuSResult{controls, "mnuSResult", "Save &Result"};
+    MenuItem mnuPrint{controls, "mnuPrint", "&Print"};
+    MenuItem mnuExit{controls, "mnuExit", "E&xit"};
+    MenuItem mnuDefault{controls, "mnuDefault", "&DefaultClub"};
+    MenuItem mnuStudies{controls, "mnuStudies", "&Studies"};
+    MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
+    MenuItem mnuStySpin{controls, "mnuStySpin", "Spin &Rate"};
+    MenuItem mnuReset{controls, "mnuReset", "&Reset"};
+    MenuItem Help{controls, "Help", "&Help"};
+    MenuItem mnuHelp{controls, "mnuHelp", "&Help"};
+    MenuItem mnuSkype{controls, "mnuSkype", "&Skype"};
+    MenuItem mnuAbout{controls, "mnuAbout", "&About"};
+
+    /// Hides what the user never sees and disables what starts disabled.
+    MainForm();
+
+    PlotCanvases screenPlot() { return {Picture1, Picture2}; }
+    PlotCanvases printPlot() { return {Picture3, Picture4}; }
+};
+
+/// The run counter n: the number of data sets and the index of the newest.
+int runNumber(const MainForm& form);
+
+/// The operating mode, 0 to 4, as a number.
+int operatingMode(const MainForm& form);
+
+/// Puts the title and the description of the club set into the form's caption.
+void showClubsInCaption(MainForm& form);
+
+} // namespace parabolt

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "mainform/club_choice.h"
+
+namespace parabolt {
+
+/// The five operating modes: what the user gives and what the impact model computes. The mode is
+/// the text of the hidden `txtMode`.
+class Modes {
+public:
+    Modes(MainForm& form, ClubChoice& clubs);
+
+    /// Mode 3: a press of Run shoots a whole club set.
+    void SetAutoMode();
+    /// Enables and disables the controls for the mode in `txtMode`. In mode 1 this also loads the
+    /// selected club into the fields. A text that is no mode changes nothing.
+    void txtMode_Change();
+
+    void EnableClubParameters();
+    void DisableClubParameters();
+
+private:
+    MainForm& form_;
+    ClubChoice& clubs_;
+};
+
+} // namespace parabolt

@@ -1,0 +1,143 @@
+#include "mainform/parameter_handlers.h"
+
+#include "files/file_access.h"
+#include "mainform/club_choice.h"
+#include "mainform/defaults.h"
+#include "numbers/rounding.h"
+#include "numbers/text_number.h"
+
+#include <utility>
+
+namespace parabolt {
+
+namespace {
+
+constexpr std::uint32_t kNoSuchClub = 380; ///< number of the failure
+
+void takeSwingAndClub(ShotState& shot, const ParameterRecord& record) {
+    shot.AttackAngle = record.AttackAngle;
+    shot.Bending = record.Bending;
+    shot.LoftAngle = record.LoftAngle;
+    shot.HeadWeight = record.HeadWeight;
+    shot.COR = record.COR;
+    shot.LaunchAngle = record.LaunchAngle;
+    shot.RPM = record.RPM;
+    shot.LaunchSpeed = record.LaunchSpeed;
+    shot.HeadSpeed = record.HeadSpeed;
+    shot.ClubNo = record.ClubNo;
+    shot.SpeedIncrement = record.SpeedIncrement;
+}
+
+std::optional<Failure> selectClub(MainForm& form, std::int16_t clubNo) {
+    DropDownList& list = form.cmbClubNo;
+    const int index = list.indexOf(std::to_string(clubNo));
+    if (index < 0)
+        return Failure{kNoSuchClub, "There is no club of this number."};
+    // The club counts as chosen even if it was before: in mode 1 its table values come in.
+    if (list.listIndex() == index)
+        list.Click();
+    else
+        list.select(index);
+    takeClubNumber(form);
+    return std::nullopt;
+}
+
+void takeWeather(MainForm& form, const ParameterRecord& record) {
+    ShotState& shot = form.shot;
+    if (record.RH == shot.RH && record.BaroPressure == shot.BaroPressure &&
+        record.Temperature == shot.Temperature && record.h == shot.h &&
+        static_cast<double>(record.WindSpeed) == shot.WindSpeed)
+        return;
+    shot.RH = record.RH;
+    shot.BaroPressure = record.BaroPressure;
+    shot.Temperature = record.Temperature;
+    shot.h = record.h;
+    shot.WindSpeed = record.WindSpeed;
+    showEnvironment(form);
+}
+
+void takeBall(MainForm& form, std::int16_t ballType) {
+    for (const BallOption& option : ballOptions()) {
+        if (option.BallType != ballType)
+            continue;
+        form.shot.Slope1 = option.Slope1;
+        form.shot.CD1 = option.CD1;
+        (form.*option.button).select();
+        form.shot.BallType = ballType;
+    }
+}
+
+} // namespace
+
+ParameterHandlers::ParameterHandlers(MainForm& form, FileDialog& dialog,
+                                     PreferencesStore& preferences, MessageBoxes& messages,
+                                     std::string applicationFolder)
+    : form_(form),
+      messages_(messages),
+      dialogs_(dialog, preferences, messages, std::move(applicationFolder)) {
+    form_.mnuOpen.Click.connect([this] { mnuOpen_Click(); });
+    form_.mnuSave.Click.connect([this] { mnuSave_Click(); });
+}
+
+void ParameterHandlers::mnuOpen_Click() {
+    const auto load = [this](const std::string& fileName,
+                             std::string_view) -> std::optional<Failure> {
+        const Outcome<Bytes> data = readFileStart(fileName, kParametersFileSize);
+        if (const auto* failure = std::get_if<Failure>(&data))
+            return *failure;
+        const ParameterRecord record = decodeParameters(std::get<Bytes>(data));
+        if (!messages_.ask("Do you want to replace the Club data, and Environment parameters?"))
+            return std::nullopt;
+        return applyParameters(form_, record);
+    };
+    if (const auto failure = dialogs_.run(DialogPurpose::OpenParameters, load))
+        messages_.show(readFailureMessage(*failure));
+}
+
+void ParameterHandlers::mnuSave_Click() {
+    const auto save = [this](const std::string& fileName, std::string_view) {
+        return writeFileStart(fileName, encodeParameters(collectParameters(form_)));
+    };
+    if (const auto failure = dialogs_.run(DialogPurpose::SaveParameters, save))
+        messages_.show(failure->description);
+}
+
+ParameterRecord collectParameters(const MainForm& form) {
+    const ShotState& shot = form.shot;
+    ParameterRecord record;
+    record.LaunchAngle = shot.LaunchAngle;
+    record.RPM = shot.RPM;
+    record.LaunchSpeed = shot.LaunchSpeed;
+    record.HeadSpeed = shot.HeadSpeed;
+    record.ClubNo = shot.ClubNo;
+    record.SpeedIncrement = shot.SpeedIncrement;
+    record.ClubType = roundTo<std::int16_t>(leadingNumber(form.txtType.text())).value_or(0);
+    record.COR = shot.COR;
+    record.HeadWeight = shot.HeadWeight;
+    record.AttackAngle = shot.AttackAngle;
+    record.Bending = shot.Bending;
+    record.LoftAngle = shot.LoftAngle;
+    for (const BallOption& option : ballOptions())
+        if ((form.*option.button).selected())
+            record.BallType = option.BallType;
+    record.WindSpeed = store32(shot.WindSpeed);
+    record.Temperature = shot.Temperature;
+    record.BaroPressure = shot.BaroPressure;
+    record.RH = shot.RH;
+    record.h = shot.h;
+    return record;
+}
+
+std::optional<Failure> applyParameters(MainForm& form, const ParameterRecord& record) {
+    takeSwingAndClub(form.shot, record);
+    form.txtType.setText(std::to_string(record.ClubType));
+    if (auto failure = selectClub(form, record.ClubNo))
+        return failure;
+    takeWeather(form, record);
+    takeBall(form, record.BallType);
+    showSwing(form);
+    showClub(form);
+    return std::nullopt;
+}
+
+} // namespace parabolt

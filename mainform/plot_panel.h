@@ -1,0 +1,29 @@
+#pragma once
+
+#include "controls/services.h"
+#include "mainform/main_form.h"
+
+namespace parabolt {
+
+/// The plot on the main form: keeps frame and curves in step with the form's size, its scale and
+/// its data sets.
+class PlotPanel {
+public:
+    PlotPanel(MainForm& form, MessageBoxes& messages) : form_(form), messages_(messages) {}
+
+    /// Lays out the form for a new outer size in twips. A size too small for it changes nothing.
+    void Form_Resize(const FormSize& size, bool minimized);
+
+    /// Erases the plot and draws its frame at the scale `sRange`.
+    void DrawPlotFrame();
+    /// Draws all data sets, and their legend, over the frame. A failure is shown.
+    void DrawCurves();
+    /// Gives the print twin the present geometry and draws it completely.
+    void PreparePrintPlots();
+
+private:
+    MainForm& form_;
+    MessageBoxes& messages_;
+};
+
+} // namespace parabolt

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "mainform/plot_panel.h"
+
+#include <span>
+#include <string_view>
+#include <variant>
+
+namespace parabolt {
+
+/// What the validator of one field knows.
+struct FieldRule {
+    TextBox MainForm::*field;
+    std::variant<float ShotState::*, double ShotState::*> variable;
+    double lowest;  ///< accepted itself
+    double highest; ///< accepted itself
+    std::string_view fallback;
+    std::string_view rangeMessage;
+    std::string_view numberMessage; ///< when the text is no number
+};
+
+std::span<const FieldRule> fieldRules();
+
+/// Judges what the user types: the way from the sixteen fields into the shot. A field is judged
+/// when it loses the focus and when Enter is released in it. A good value goes into its variable. A
+/// bad one raises one message, is replaced by the field's fallback and keeps the focus; the
+/// variable keeps its value until the field passes.
+class Validators {
+public:
+    Validators(MainForm& form, PlotPanel& plot, MessageBoxes& messages);
+
+    /// Judges a field now. A disabled field can't keep the focus; all else holds for it too.
+    void validate(TextBox MainForm::*field);
+
+private:
+    void validate(const FieldRule& rule);
+    void store(const FieldRule& rule, double value);
+
+    MainForm& form_;
+    PlotPanel& plot_;
+    MessageBoxes& messages_;
+};
+
+} // namespace parabolt

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <optional>
+
+namespace parabolt {
+
+/// Rounds a formula's 64-bit result to the 32-bit quantity that holds it. Every rounding of the
+/// model stands in the code as one call.
+inline float store32(double value) {
+    return static_cast<float>(value);
+}
+
+/// Nearest whole number, ties to the even one.
+inline double roundHalfEven(double value) {
+    return std::nearbyint(value);
+}
+
+/// Nearest whole number as an integer of the given width; nothing if it doesn't fit.
+template <class Integer>
+std::optional<Integer> roundTo(double value) {
+    const double whole = roundHalfEven(value);
+    if (!(whole >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
+          whole <= static_cast<double>(std::numeric_limits<Integer>::max())))
+        return std::nullopt;
+    return static_cast<Integer>(whole);
+}
+
+} // namespace parabolt

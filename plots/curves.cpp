@@ -1,0 +1,59 @@
+#include "plots/curves.h"
+
+#include "numbers/rounding.h"
+
+#include <string>
+
+namespace parabolt {
+namespace {
+
+constexpr std::size_t kLegendSlots = 12;
+
+/// The legend's row runs along the top of the outer canvas; a later data set overwrites the slot
+/// that an earlier one had, twelve before it. In twips.
+void drawLegendEntry(PictureBox& outer, std::size_t number, const RunRecord& run, Rgb ground) {
+    const std::size_t slot = (number - 1) % kLegendSlots;
+    const double x = static_cast<double>(slot) * 1020 + 100;
+    outer.box({x, 100}, {150, 150}, run.CurveColor);
+    outer.box({x + 150, 100}, {850, 150}, ground);
+    outer.print({x + 200, 100},
+                "Club " + std::to_string(run.ClubNo) + "/" + std::to_string(number));
+}
+
+std::optional<std::string_view> drawAll(const PlotCanvases& plot, std::span<const RunRecord> runs,
+                                        Rgb legendGround, Rgb restColour) {
+    auto& [outer, inner] = plot;
+    for (std::size_t i = 1; i < runs.size(); ++i) {
+        const RunRecord& run = runs[i];
+        if (run.Path.empty())
+            return "A data set has no path to draw.";
+        inner.setForeColor(run.CurveColor);
+        inner.curve(run.Path);
+        if (!inner.setDrawWidth(roundTo<int>(inner.geometry().width / 1750).value_or(0)))
+            return "The plot is too narrow for the landing mark.";
+        const TrajectoryPoint& last = run.Path.back();
+        inner.circle({last.x, last.y + 1.0}, 1);
+        inner.setDrawWidth(1);
+        drawLegendEntry(outer, i, run, legendGround);
+    }
+    inner.setForeColor(restColour);
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<std::string_view> DrawCurves(const PlotCanvases& screen,
+                                           std::span<const RunRecord> runs) {
+    if (runs.size() < 2)
+        return std::nullopt;
+    return drawAll(screen, runs, kBlack, kWhite);
+}
+
+void DrawPrintCurves(const PlotCanvases& twin, std::span<const RunRecord> runs) {
+    if (runs.size() < 2)
+        return;
+    twin.inner.cls();
+    drawAll(twin, runs, kWhite, kBlack);
+}
+
+} // namespace parabolt

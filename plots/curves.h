@@ -1,0 +1,20 @@
+#pragma once
+
+#include "plots/plot_frame.h"
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace parabolt {
+
+/// Draws all data sets, elements 1 to the last of `runs`, over the frame: each path in its colour
+/// from the tee to a ring at the landing, and its entry in the legend. Nothing is erased. A failure
+/// ends the drawing at once and gives its description; what was drawn stays.
+std::optional<std::string_view> DrawCurves(const PlotCanvases& screen,
+                                           std::span<const RunRecord> runs);
+
+/// The same on the print twin, whose inner canvas is erased first. A failure ends the drawing.
+void DrawPrintCurves(const PlotCanvases& twin, std::span<const RunRecord> runs);
+
+} // namespace parabolt

@@ -1,0 +1,65 @@
+#include "plots/picture_box.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace parabolt {
+
+PictureBox::PictureBox(ControlSet& form, std::string_view name, Rgb background, Rgb foreground)
+    : Control(form, name),
+      background_(background),
+      foreColor_(foreground) {}
+
+void PictureBox::setGeometry(const Geometry& geometry) {
+    if (geometry_ == geometry)
+        return;
+    geometry_ = geometry;
+    setScale({0, 0, geometry.width, geometry.height});
+}
+
+void PictureBox::setScale(const CanvasScale& scale) {
+    scale_ = scale;
+    viewChanged();
+}
+
+bool PictureBox::setDrawWidth(int pixels) {
+    if (pixels < 1)
+        return false;
+    drawWidth_ = pixels;
+    return true;
+}
+
+void PictureBox::cls() {
+    drawings_.clear();
+    viewChanged();
+}
+
+void PictureBox::line(Place from, Place to) {
+    add(DrawnLine{from, to, foreColor_, drawWidth_});
+}
+
+void PictureBox::curve(std::span<const TrajectoryPoint> points) {
+    add(DrawnCurve{{points.begin(), points.end()}, foreColor_, drawWidth_});
+}
+
+void PictureBox::box(Place corner, Place size, Rgb colour) {
+    add(DrawnBox{corner, size, colour});
+}
+
+void PictureBox::circle(Place centre, double radius) {
+    add(DrawnCircle{centre, radius, foreColor_, drawWidth_});
+}
+
+void PictureBox::print(Place place, std::string text) {
+    add(DrawnText{place, std::move(text), foreColor_});
+}
+
+void PictureBox::add(Drawing drawing) {
+    const auto earlier = std::find(drawings_.begin(), drawings_.end(), drawing);
+    if (earlier != drawings_.end())
+        drawings_.erase(earlier);
+    drawings_.push_back(std::move(drawing));
+    viewChanged();
+}
+
+} // namespace parabolt

@@ -1,0 +1,119 @@
+#pragma once
+
+#include "controls/control.h"
+#include "controls/rgb.h"
+#include "engine/shot_state.h"
+
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace parabolt {
+
+/// A place on a canvas, in the canvas's own units.
+struct Place {
+    double x = 0;
+    double y = 0;
+    friend bool operator==(const Place&, const Place&) = default;
+};
+
+// What can stand on a canvas. Places are in the units of the canvas, pens in pixels of 15 twips
+// each, whatever the pixels of the screen.
+struct DrawnLine {
+    Place from;
+    Place to;
+    Rgb colour;
+    int pen = 1;
+    friend bool operator==(const DrawnLine&, const DrawnLine&) = default;
+};
+struct DrawnCurve {
+    std::vector<TrajectoryPoint> points;
+    Rgb colour;
+    int pen = 1;
+    friend bool operator==(const DrawnCurve&, const DrawnCurve&) = default;
+};
+struct DrawnBox { ///< filled
+    Place corner;
+    Place size;
+    Rgb colour;
+    friend bool operator==(const DrawnBox&, const DrawnBox&) = default;
+};
+struct DrawnCircle { ///< outline; the radius is in x units
+    Place centre;
+    double radius = 0;
+    Rgb colour;
+    int pen = 1;
+    friend bool operator==(const DrawnCircle&, const DrawnCircle&) = default;
+};
+struct DrawnText { ///< top left corner at the place
+    Place place;
+    std::string text;
+    Rgb colour;
+    friend bool operator==(const DrawnText&, const DrawnText&) = default;
+};
+using Drawing = std::variant<DrawnLine, DrawnCurve, DrawnBox, DrawnCircle, DrawnText>;
+
+/// The coordinates of a canvas: its left edge has the x value `left`, its top edge the y value
+/// `top`; a negative `height` makes y run upward.
+struct CanvasScale {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+    friend bool operator==(const CanvasScale&, const CanvasScale&) = default;
+};
+
+/// A canvas that remembers what was drawn on it, as shapes, until it is erased. A view paints the
+/// shapes at its own resolution, on the screen as on paper. Everything drawn is opaque, so a shape
+/// that is drawn again hides its earlier self: only the last of equal shapes is kept.
+class PictureBox : public Control {
+public:
+    PictureBox(ControlSet& form, std::string_view name, Rgb background, Rgb foreground);
+
+    /// Place inside the parent and outer size, in twips.
+    struct Geometry {
+        double left = 0;
+        double top = 0;
+        double width = 0;
+        double height = 0;
+        friend bool operator==(const Geometry&, const Geometry&) = default;
+    };
+    const Geometry& geometry() const { return geometry_; }
+    /// Also lays the canvas's own coordinates in twips from its top left corner.
+    void setGeometry(const Geometry& geometry);
+
+    const CanvasScale& scale() const { return scale_; }
+    /// Holds for all that is drawn from the last erasing on.
+    void setScale(const CanvasScale& scale);
+
+    Rgb background() const { return background_; }
+    Rgb foreColor() const { return foreColor_; }
+    void setForeColor(Rgb colour) { foreColor_ = colour; }
+    /// False, and nothing changes, for a width below 1.
+    bool setDrawWidth(int pixels);
+
+    void cls();
+    void line(Place from, Place to);
+    /// A line through all points, from the first on.
+    void curve(std::span<const TrajectoryPoint> points);
+    void box(Place corner, Place size, Rgb colour);
+    void circle(Place centre, double radius);
+    void print(Place place, std::string text);
+
+    const std::vector<Drawing>& drawings() const { return drawings_; }
+
+    bool takesFocus() const override { return true; }
+
+private:
+    void add(Drawing drawing);
+
+    Geometry geometry_;
+    CanvasScale scale_;
+    Rgb background_;
+    Rgb foreColor_;
+    int drawWidth_ = 1;
+    std::vector<Drawing> drawings_;
+};
+
+} // namespace parabolt

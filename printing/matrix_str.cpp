@@ -1,0 +1,64 @@
+#include "printing/matrix_str.h"
+
+#include <limits>
+#include <stdexcept>
+
+namespace parabolt {
+namespace {
+
+/// Last column of a value of `length` bytes; 0 for an unknown alignment.
+long lastColumn(std::int32_t align, long column, long length) {
+    switch (align) {
+    case clsMatrixStr::Left:
+        return length + column - 1;
+    case clsMatrixStr::Right:
+        return column;
+    case clsMatrixStr::Centred:
+        return (length - 1) / 2 + column;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+void clsMatrixStr::Clear() {
+    rows_.assign(1, {});
+}
+
+std::string clsMatrixStr::GetField(std::int16_t vintRow) const {
+    return vintRow > MaxRows() ? std::string() : rows_.at(static_cast<std::size_t>(vintRow));
+}
+
+void clsMatrixStr::Field(std::int32_t veumAlign, std::int16_t vintCol, std::int16_t vintRow,
+                         std::string_view vvntValue) {
+    if (vintRow < 0)
+        throw std::out_of_range("row below 0");
+    const auto rowIndex = static_cast<std::size_t>(vintRow);
+    if (vintRow > MaxRows())
+        rows_.resize(rowIndex + 1);
+    if (vvntValue.empty())
+        return;
+    const long last = lastColumn(veumAlign, vintCol, static_cast<long>(vvntValue.size()));
+    if (last > std::numeric_limits<std::int16_t>::max())
+        throw std::overflow_error("column beyond 16 bits");
+    if (last < 1)
+        return;
+    const auto end = static_cast<std::size_t>(last);
+    const std::string_view value = vvntValue.substr(0, end);
+    std::string& row = rows_[rowIndex];
+    if (row.size() < end)
+        row.append(end - row.size(), ' ');
+    row.replace(end - value.size(), value.size(), value);
+}
+
+std::string clsMatrixStr::OutForm() const {
+    std::string text;
+    for (std::size_t row = 1; row < rows_.size(); ++row) {
+        const std::size_t length = rows_[row].find_last_not_of(' ') + 1;
+        text.append(rows_[row], 0, length).append("\r\n");
+    }
+    return text;
+}
+
+} // namespace parabolt

@@ -1,0 +1,73 @@
+#include "printing/print_view.h"
+
+#include "numbers/rounding.h"
+
+namespace parabolt {
+namespace {
+
+constexpr std::string_view kUntitled = "Parabolt - Report"; ///< of a document without a caption
+constexpr double kTwipsPerInch = 1440;
+
+} // namespace
+
+PrintView::PrintView(const PlotCanvases& printPlot, const RichTextBox& txtResult, Printer& printer,
+                     MessageBoxes& messages)
+    : plot_(printPlot),
+      txtResult_(txtResult),
+      printer_(printer),
+      messages_(messages) {
+    cmdPrintPreview.Click.connect([this] { cmdPrintPreview_Click(); });
+    cmdPrint.Click.connect([this] { cmdPrint_Click(); });
+    cmdClose.Click.connect([this] {
+        if (onUnload)
+            onUnload();
+    });
+}
+
+void PrintView::Form_Resize(double width, double height) {
+    const double roomAcross = width - 2 * kGapAtSides;
+    const double roomDown = height - kRowOfControls - kGapAtSides;
+    if (roomAcross <= 0 || roomDown <= 0)
+        return;
+    room_ = {kGapAtSides, kRowOfControls, roomAcross, roomDown};
+    Picture0.setGeometry(room_);
+    if (shown_)
+        fitPreview();
+}
+
+void PrintView::composePreview(Page& target) const {
+    if (shown_ && scale_)
+        ComposeReport(target, scale_->Ratio, PicRatio_, *shown_);
+}
+
+void PrintView::cmdPrintPreview_Click() {
+    shown_.emplace(takeContent());
+    page_ = inLayoutInches(printer_.paper());
+    fitPreview();
+}
+
+void PrintView::cmdPrint_Click() {
+    const ReportContent content = takeContent();
+    const std::string_view title = content.caption.empty() ? kUntitled : content.caption;
+    const auto failure =
+        printer_.print(title, [&](Page& page) { ComposeReport(page, 1, PicRatio_, content); });
+    if (failure)
+        messages_.show(*failure);
+}
+
+ReportContent PrintView::takeContent() {
+    const PictureBox::Geometry& outer = plot_.outer.geometry();
+    PicRatio_ = outer.height > 0 ? store32(outer.width / outer.height) : 0;
+    return {txtCaption.text(), txtResult_.text(), plot_};
+}
+
+/// Gives `Picture0` the shape of the page, in the middle of its room, and lets it show the page.
+void PrintView::fitPreview() {
+    scale_ = ScalePreviewToPage(page_, room_.width / kTwipsPerInch, room_.height / kTwipsPerInch);
+    const double width = scale_->width * kTwipsPerInch;
+    Picture0.setGeometry(
+        {room_.left + (room_.width - width) / 2, room_.top, width, scale_->height * kTwipsPerInch});
+    Picture0.cls();
+}
+
+} // namespace parabolt

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "controls/focus.h"
+#include "controls/rich_text_box.h"
+#include "controls/services.h"
+#include "controls/simple_controls.h"
+#include "controls/text_box.h"
+#include "printing/printer.h"
+
+#include <functional>
+#include <optional>
+
+namespace parabolt {
+
+/// The form `frmPrintView`: lets the user caption the report, look at it and print it. It shows the
+/// print twin of the plot and the result table as they are while it is open.
+class PrintView {
+public:
+    PrintView(const PlotCanvases& printPlot, const RichTextBox& txtResult, Printer& printer,
+              MessageBoxes& messages);
+
+    static constexpr std::string_view kCaption = "Parabolt - Print Preview";
+    static constexpr int kRowOfControls = 1200; ///< height above `Picture0`, twips
+    static constexpr int kGapAtSides = 200;     ///< between `Picture0` and the form's edges, twips
+
+    ControlSet controls;
+    Focus focus;
+    Label Label1{controls, "Label1", "Caption"};
+    TextBox txtCaption{controls, "txtCaption"};
+    Button cmdPrintPreview{controls, "cmdPrintPreview", "Pre&view"};
+    Button cmdPrint{controls, "cmdPrint", "&Print"};
+    Button cmdClose{controls, "cmdClose", "&Close"};
+    PictureBox Picture0{controls, "Picture0", kWhite, kBlack}; ///< the page on the screen
+
+    /// Of the view: the form has a new size, in twips. A page that is shown is fitted to it. A form
+    /// without room for a page leaves it as it was.
+    void Form_Resize(double width, double height);
+
+    /// Where the page stands in `Picture0`; nothing before the first preview.
+    const std::optional<PreviewScale>& preview() const { return scale_; }
+    /// Draws the page of the last preview. Later changes of the caption don't show in it.
+    void composePreview(Page& target) const;
+
+    std::function<void()> onUnload; ///< set by the view: closes the form
+
+private:
+    void cmdPrintPreview_Click();
+    void cmdPrint_Click();
+    ReportContent takeContent();
+    void fitPreview();
+
+    PlotCanvases plot_;
+    const RichTextBox& txtResult_;
+    Printer& printer_;
+    MessageBoxes& messages_;
+    float PicRatio_ = 0;        ///< width over height of the plot; 0 until it is composed
+    PictureBox::Geometry room_; ///< for `Picture0`, before it takes the shape of the page
+    PageSize page_;             ///< in inches of the layout
+    std::optional<ReportContent> shown_;
+    std::optional<PreviewScale> scale_;
+};
+
+} // namespace parabolt

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "printing/report.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace parabolt {
+
+/// The system's default printer, in landscape; on a machine without one, a file that the user
+/// names.
+class Printer {
+public:
+    virtual ~Printer() = default;
+
+    virtual PageSize paper() = 0;
+
+    /// Lets `compose` draw one page, in inches of the report's layout, and sends it out under a
+    /// title. Gives the description of what went wrong. Nothing is drawn if the user backs out.
+    virtual std::optional<std::string> print(std::string_view title,
+                                             const std::function<void(Page&)>& compose) = 0;
+};
+
+} // namespace parabolt

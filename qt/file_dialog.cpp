@@ -1,0 +1,47 @@
+#include "qt/file_dialog.h"
+
+#include "qt/form_binding.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace parabolt {
+
+namespace {
+
+/// Descriptions with their patterns behind them, in parentheses.
+QStringList nameFilters(const QString& filter) {
+    QStringList filters;
+    const QStringList parts = filter.split('|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString pattern = "(" + parts[i + 1] + ")";
+        filters += parts[i].endsWith(pattern) ? parts[i] : parts[i] + " " + pattern;
+    }
+    return filters;
+}
+
+QString existingFolder(const std::string& folder) {
+    const QString wanted = toQt(folder);
+    return QFileInfo(wanted).isDir() ? wanted : QDir::homePath();
+}
+
+} // namespace
+
+void QtFileDialog::show(bool save) {
+    QFileDialog dialog(QApplication::activeWindow(), toQt(title), existingFolder(initialFolder));
+    dialog.setObjectName("ccrpFileDialogs1");
+    dialog.setNameFilters(nameFilters(toQt(filter)));
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+
+    const QStringList files =
+        dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
+    const QFileInfo file(files.value(0));
+    fileName = fromQt(files.value(0));
+    pickedName = fileName.empty() ? std::string() : fromQt(file.fileName());
+    finalFolder = fromQt(fileName.empty() ? dialog.directory().absolutePath() : file.path());
+}
+
+} // namespace parabolt

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "controls/services.h"
+
+namespace parabolt {
+
+/// File dialogs over the window in front. Opening takes files that exist; saving asks before it
+/// takes the name of one. A name is taken as typed: no ending is added. Where the folder to start
+/// in is gone, the dialog starts in the user's home folder.
+class QtFileDialog : public FileDialog {
+public:
+    void showOpen() override { show(false); }
+    void showSave() override { show(true); }
+
+private:
+    void show(bool save);
+};
+
+} // namespace parabolt

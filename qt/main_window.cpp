@@ -1,0 +1,238 @@
+#include "qt/main_window.h"
+
+#include "qt/form_binding.h"
+#include "qt/picture_widget.h"
+#include "qt/rich_text_binding.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QShortcutEvent>
+#include <QStatusBar>
+#include <algorithm>
+#include <cmath>
+
+namespace parabolt {
+namespace {
+
+// Shares of the form in twips: the width of the inputs, of the ball frame, of all but the weather
+// frame; the height above the plot, and the least for the plot with the bars of the window.
+constexpr double kInputsWidth = 4995;
+constexpr double kBallWidth = 2070;
+constexpr double kBesideWeather = 7140;
+constexpr double kUpperHeight = 4000;
+constexpr double kLeastPlot = 1850;
+constexpr double kTwipsPerPixel = 15; ///< of the form as it was first drawn
+constexpr int kGap = 8;               ///< pixels around a frame, a half on each side
+
+/// The small window of `frmProgress`. It goes when the study ends; Esc, or a desktop that lets it
+/// be closed all the same, stops the study.
+class ProgressWindow : public QWidget {
+public:
+    ProgressWindow(QWidget* owner, const ProgressForm& form, Pause& pause)
+        : QWidget(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint),
+          pause_(pause) {
+        setObjectName("frmProgress");
+        setWindowTitle(toQt(ProgressForm::kCaption));
+        setAttribute(Qt::WA_ShowWithoutActivating);
+        auto* bar = new QProgressBar;
+        bar->setObjectName(toQt(form.ProgressBar1.name()));
+        bar->setTextVisible(false);
+        bar->setAccessibleName("Calculating");
+        auto* column = new QVBoxLayout(this);
+        column->addWidget(bar);
+        setFixedSize(fontMetrics().averageCharWidth() * 40, sizeHint().height());
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Escape)
+            pause_.stop();
+    }
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        pause_.stop();
+    }
+
+private:
+    Pause& pause_;
+};
+
+} // namespace
+
+MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
+    setObjectName("frmMain");
+    auto* centre = new QWidget;
+    setCentralWidget(centre);
+    buildPlots(centre);
+    layout_ = layOutMainForm(logic.form, centre);
+    for (const TextBox* hidden : {&logic.form.txtMode, &logic.form.txtType})
+        (new QLineEdit(centre))->setObjectName(toQt(hidden->name()));
+    buildMenus();
+    statusBar()->setObjectName(toQt(logic.form.StatusBar1.name()));
+    statusBar()->setSizeGripEnabled(false);
+
+    progress_ = std::make_unique<ProgressWindow>(this, logic.frmProgress, logic.pause);
+    progressBinding_ =
+        std::make_unique<FormBinding>(*progress_, logic.frmProgress.controls, progressFocus_);
+    binding_ = std::make_unique<FormBinding>(*this, logic.form.controls, logic.form.focus,
+                                             &logic.form.Picture1);
+    binding_->settleBefore(*menuBar());
+    tableBinding_ = std::make_unique<RichTextBinding>(logic.form.txtResult,
+                                                      *findChild<QPlainTextEdit*>("txtResult"));
+    connectLogic();
+
+    const double scale = pixelsPerTwip();
+    setMinimumSize(static_cast<int>(std::ceil(kBesideWeather * scale)) +
+                       layout_.weather->minimumSizeHint().width(),
+                   static_cast<int>(std::ceil((kUpperHeight + kLeastPlot) * scale)));
+    resize(1280, 800);
+    findChild<QWidget*>(toQt(logic.form.optManual.name()))->setFocus();
+}
+
+MainWindow::~MainWindow() {
+    logic_.form.onCaption = nullptr;
+    logic_.frmProgress.onShow = nullptr;
+    logic_.pause.onRunning = nullptr;
+}
+
+void MainWindow::buildPlots(QWidget* centre) {
+    auto* outer = new PictureWidget(logic_.form.Picture1, centre);
+    outer->setAccessibleName("Plot of the flights");
+    new PictureWidget(logic_.form.Picture2, outer);
+    auto* twin = new PictureWidget(logic_.form.Picture3, centre);
+    new PictureWidget(logic_.form.Picture4, twin);
+}
+
+void MainWindow::buildMenus() {
+    MainForm& form = logic_.form;
+    const auto add = [](QWidget* menu, const MenuItem& item, const QKeySequence& key = {}) {
+        auto* action = new QAction(toQt(item.caption()), menu);
+        action->setObjectName(toQt(item.name()));
+        action->setShortcut(key);
+        action->setMenuRole(QAction::NoRole);
+        menu->addAction(action);
+    };
+    const auto addMenu = [this](const MenuItem& item) {
+        QMenu* menu = menuBar()->addMenu(toQt(item.caption()));
+        menu->menuAction()->setObjectName(toQt(item.name()));
+        return menu;
+    };
+    QMenu* file = addMenu(form.mnuFile);
+    add(file, form.mnuOpen, QKeySequence::Open);
+    add(file, form.mnuSave, QKeySequence::Save);
+    add(file, form.mnuSResult, Qt::CTRL | Qt::Key_E);
+    file->addSeparator();
+    add(file, form.mnuPrint, QKeySequence::Print);
+    file->addSeparator();
+    add(file, form.mnuExit, Qt::CTRL | Qt::Key_Q);
+    add(menuBar(), form.mnuDefault, Qt::CTRL | Qt::Key_D);
+    QMenu* studies = addMenu(form.mnuStudies);
+    add(studies, form.mnuStyLaunch);
+    add(studies, form.mnuStySpin);
+    add(menuBar(), form.mnuReset, Qt::CTRL | Qt::Key_R);
+    QMenu* help = addMenu(form.Help);
+    add(help, form.mnuHelp, Qt::Key_F1);
+    add(help, form.mnuSkype);
+    help->addSeparator();
+    add(help, form.mnuAbout);
+}
+
+void MainWindow::connectLogic() {
+    auto* run = findChild<QPushButton*>("Command1");
+    // "&Run" and the menu "&Reset" both ask for Alt+R: it runs. Reset answers to its own keys.
+    run->installEventFilter(this);
+    menuBar()->installEventFilter(this);
+    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, run, &QPushButton::click);
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
+        if (!binding_->settle()) // a message has come up, and the field waits
+            return;
+        menuBar()->setFocus(Qt::MenuBarFocusReason);
+        menuBar()->setActiveAction(menuBar()->actions().first());
+    });
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
+            [this] { logic_.pause.stop(); });
+
+    const auto showCaption = [this] { setWindowTitle(toQt(logic_.form.caption)); };
+    logic_.form.onCaption = showCaption;
+    showCaption();
+    logic_.frmProgress.onShow = [this](bool shown) {
+        progress_->setVisible(shown);
+        if (shown)
+            progress_->move(frameGeometry().center() - progress_->rect().center());
+    };
+    logic_.pause.onRunning = [this](bool running) {
+        if (running)
+            statusBar()->showMessage(tr("Press Esc to stop after the shot in hand."));
+        else
+            statusBar()->clearMessage();
+    };
+}
+
+/// The twip grows with the font, so that all that stands above the plot fits into its share.
+double MainWindow::pixelsPerTwip() const {
+    const QSize inputs = layout_.inputs->minimumSizeHint();
+    return std::max({1 / kTwipsPerPixel, (inputs.width() + kGap) / kInputsWidth,
+                     (layout_.ball->minimumSizeHint().width() + kGap / 2) / kBallWidth,
+                     layout_.panel->minimumSizeHint().height() / kUpperHeight});
+}
+
+void MainWindow::fitToSize() {
+    const double scale = pixelsPerTwip();
+    const QSize area = centralWidget()->size();
+    const double bar = statusBar()->height() / scale;
+    logic_.plot.Form_Resize({area.width() / scale + 120, area.height() / scale + bar + 690, bar},
+                            isMinimized());
+    const auto pixels = [scale](double twips) {
+        return static_cast<int>(std::lround(twips * scale));
+    };
+    layout_.panel->setGeometry(0, 0, area.width(), pixels(kUpperHeight));
+    layout_.inputs->setFixedWidth(pixels(kInputsWidth) - kGap);
+    layout_.ball->setFixedWidth(pixels(kBallWidth) - kGap / 2);
+    layout_.table->setFixedWidth(pixels(logic_.form.txtResult.width()));
+    layout_.weather->setFixedWidth(pixels(logic_.form.Frame7.width()));
+    for (const PictureBox* picture : {&logic_.form.Picture1, &logic_.form.Picture2})
+        place(*picture);
+}
+
+void MainWindow::place(const PictureBox& picture) {
+    const double scale = pixelsPerTwip();
+    const auto& twips = picture.geometry();
+    findChild<QWidget*>(toQt(picture.name()))
+        ->setGeometry(static_cast<int>(std::lround(twips.left * scale)),
+                      static_cast<int>(std::lround(twips.top * scale)),
+                      static_cast<int>(std::lround(twips.width * scale)),
+                      static_cast<int>(std::lround(twips.height * scale)));
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    fitToSize();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::FontChange && layout_.panel != nullptr)
+        fitToSize();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    logic_.endProgram();
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Shortcut && static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
+        findChild<QPushButton*>("Command1")->click();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+} // namespace parabolt

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "qt/main_layout.h"
+#include "shell/frm_main.h"
+
+#include <QMainWindow>
+#include <memory>
+
+namespace parabolt {
+
+class FormBinding;
+class RichTextBinding;
+
+/// The window of `frmMain`: menus, inputs and table above, the plot across the full width below.
+///
+/// The form counts in twips; what a twip measures here follows the font, so that the inputs fit
+/// into the share of the form that is theirs and the whole keeps its proportions.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(frmMain& logic);
+    ~MainWindow() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildMenus();
+    void buildPlots(QWidget* centre);
+    void connectLogic();
+    void fitToSize();
+    double pixelsPerTwip() const;
+    void place(const PictureBox& picture);
+
+    frmMain& logic_;
+    MainLayout layout_{};
+    std::unique_ptr<QWidget> progress_;
+    std::unique_ptr<FormBinding> progressBinding_;
+    Focus progressFocus_;
+    std::unique_ptr<FormBinding> binding_;
+    std::unique_ptr<RichTextBinding> tableBinding_;
+};
+
+} // namespace parabolt

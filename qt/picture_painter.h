@@ -1,0 +1,19 @@
+#pragma once
+
+#include "plots/plot_frame.h"
+
+class QPainter;
+class QRectF;
+
+namespace parabolt {
+
+/// Paints what stands on a canvas into a rectangle of the painter, cut off at its edges. The
+/// canvas's outer size fills the rectangle; pens and text scale with it, and straight lines fall on
+/// whole device pixels, so the picture is sharp at any size and density and vector work on paper.
+void paintPicture(QPainter& painter, const PictureBox& picture, const QRectF& target);
+
+/// Paints both canvases of a plot as one picture, the inner one at its place in the outer one.
+/// Axes and labels lie on top.
+void paintPlot(QPainter& painter, const PlotCanvases& plot, const QRectF& target);
+
+} // namespace parabolt

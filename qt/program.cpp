@@ -1,0 +1,74 @@
+#include "qt/program.h"
+
+#include "clubs/frm_club_params.h"
+#include "qt/club_editor_window.h"
+#include "qt/print_view_window.h"
+#include "qt/splash_window.h"
+#include "shell/build_values.h"
+
+#include <QApplication>
+#include <QIcon>
+
+namespace parabolt {
+namespace {
+
+std::string applicationFolder() {
+    return fromQt(QApplication::applicationDirPath());
+}
+
+} // namespace
+
+Program::Program()
+    : logic_({messages_, fileDialog_, preferences_, desktop_, events_, applicationFolder()}) {
+    QApplication::setApplicationName(toQt(kApplicationTitle));
+    QApplication::setApplicationVersion(toQt(kVersion));
+    QApplication::setDesktopFileName("parabolt");
+    QApplication::setWindowIcon(QIcon(":/images/parabolt_256.png"));
+    // The splash goes before the main form comes: the program ends by its own word.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    logic_.showClubEditor = [this] { showClubEditor(); };
+    logic_.showPrintView = [this] { showPrintView(); };
+    logic_.showAbout = [this] { showAbout(); };
+    logic_.endProgram = [this] {
+        logic_.pause.stop();
+        QApplication::quit();
+    };
+}
+
+Program::~Program() = default;
+
+void Program::start() {
+    splash_ = std::make_unique<SplashForm>(desktop_);
+    splash_->Unload.connect([this] {
+        if (!logic_.form.blFormLoaded)
+            showMainForm();
+    });
+    splashWindow_ = std::make_unique<SplashWindow>(*splash_);
+    splashWindow_->show();
+}
+
+void Program::showMainForm() {
+    logic_.Form_Load();
+    window_ = std::make_unique<MainWindow>(logic_);
+    window_->showMaximized();
+}
+
+void Program::showClubEditor() {
+    frmClubParams editor(logic_.form.clubs,
+                         {messages_, fileDialog_, preferences_, desktop_, applicationFolder(),
+                          [this] { showClubsInCaption(logic_.form); }});
+    ClubEditorWindow(editor, window_.get()).exec();
+}
+
+void Program::showPrintView() {
+    PrintView view(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
+    PrintViewWindow(view, window_.get()).exec();
+}
+
+void Program::showAbout() {
+    SplashForm about(desktop_);
+    SplashWindow(about, window_.get()).exec();
+}
+
+} // namespace parabolt

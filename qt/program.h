@@ -1,0 +1,49 @@
+#pragma once
+
+#include "qt/desktop.h"
+#include "qt/dialogs.h"
+#include "qt/file_dialog.h"
+#include "qt/main_window.h"
+#include "qt/printer.h"
+#include "qt/settings_store.h"
+#include "shell/frm_main.h"
+#include "shell/splash.h"
+
+#include <memory>
+
+namespace parabolt {
+
+class SplashWindow;
+
+/// The whole program: the services of this platform, the main form on them, and the windows that it
+/// asks for. Needs a `QApplication`.
+class Program {
+public:
+    Program();
+    ~Program();
+
+    /// Shows the splash; when it goes, the main form comes.
+    void start();
+    /// Loads and shows the main form.
+    void showMainForm();
+    /// The state behind the main form, for whoever watches the program at work.
+    const MainForm& mainForm() const { return logic_.form; }
+
+private:
+    void showClubEditor();
+    void showPrintView();
+    void showAbout();
+
+    QtMessageBoxes messages_;
+    QtFileDialog fileDialog_;
+    SettingsStore preferences_;
+    QtDesktop desktop_;
+    QtEventLoop events_;
+    QtPrinter printer_;
+    frmMain logic_;
+    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<SplashForm> splash_;
+    std::unique_ptr<SplashWindow> splashWindow_;
+};
+
+} // namespace parabolt

@@ -1,0 +1,108 @@
+#include "results/result_table.h"
+
+#include "numbers/text_number.h"
+#include "printing/matrix_str.h"
+
+#include <algorithm>
+#include <array>
+
+namespace parabolt {
+namespace {
+
+/// One column of numbers: its three headings, and the cell below them.
+struct NumberColumn {
+    std::int16_t headingEnd; ///< column of the headings' last character
+    std::array<std::string_view, 3> headings;
+    clsMatrixStr::Align align;
+    std::int16_t cellColumn;
+    float RunRecord::*field;
+    std::string_view pattern;
+};
+
+constexpr auto kRight = clsMatrixStr::Right;
+constexpr auto kLeft = clsMatrixStr::Left;
+
+// The blanks at the end of some headings belong to them: they move a text off the column's edge.
+constexpr std::array<NumberColumn, 18> kNumberColumns = {{
+    {18, {"Carry", "Time ", "(sec)"}, kRight, 18, &RunRecord::CarryTime, ".00"},
+    {24, {"Carry", "Dist ", "(Yrd)"}, kRight, 24, &RunRecord::CarryDist, "0"},
+    {31, {"Launch", "Speed ", "(mph)"}, kRight, 31, &RunRecord::LaunchSpeed, ".0"},
+    {38, {"Horiz.", "Impact ", "(mph) "}, kRight, 38, &RunRecord::ImpactSpeed, ".0"},
+    {45, {"Launch", "Angle ", "(deg.)"}, kRight, 45, &RunRecord::LaunchAngle, ".0"},
+    {51, {"Ball", "Spin ", "(rpm)"}, kRight, 51, &RunRecord::RPM, "0"},
+    {58, {"Impact", "Spin ", "(rpm)"}, kRight, 58, &RunRecord::ImpactSpin, "0"},
+    {64, {"Green", "Roll ", "(ft)"}, kRight, 63, &RunRecord::GreenRoll, ".0"},
+    {70, {"Head", "Speed", "(mph)"}, kRight, 70, &RunRecord::HeadSpeed, ".0"},
+    {77, {"Head", "Weight", "(gm)"}, kRight, 77, &RunRecord::HeadWeight, ".0"},
+    {83, {"Loft", "Angle", "(deg)"}, kRight, 83, &RunRecord::LoftAngle, ".0"},
+    {90, {"Attack", "Angle ", "(deg)"}, kRight, 90, &RunRecord::AttackAngle, "0.0"},
+    {98, {"Bending", "Angle ", "(deg)"}, kRight, 98, &RunRecord::Bending, "0.0"},
+    {102, {"COR", "", ""}, kLeft, 102, &RunRecord::COR, "0.00"},
+    {108, {"Wind", "Speed", "(mph)"}, kRight, 108, &RunRecord::WindSpeed, "0"},
+    {114, {"Baro", "Pres.", "In-Hg"}, kRight, 114, &RunRecord::BaroPressure, ".0"},
+    {120, {"", "Temp.", "(deg)"}, kRight, 120, &RunRecord::Temperature, "0"},
+    {124, {"", "RH ", "(%)"}, kRight, 124, &RunRecord::RH, "0"},
+}};
+
+constexpr std::int16_t kClubColumn = 7;
+constexpr std::int16_t kModeColumn = 12;
+constexpr std::array<std::string_view, 5> kModeCodes = {"LM", "DM", "MM", "Auto", "AM"};
+
+/// The box ends its lines with a line feed alone.
+std::string boxLines(std::string text) {
+    std::erase(text, '\r');
+    return text;
+}
+
+} // namespace
+
+std::string composeResultHeader() {
+    clsMatrixStr lines;
+    lines.Field(kRight, kClubColumn, 2, "Club");
+    lines.Field(kRight, kClubColumn, 3, "No.");
+    lines.Field(kRight, kModeColumn, 3, "Mode");
+    for (const NumberColumn& column : kNumberColumns)
+        for (std::int16_t line = 1; line <= 3; ++line)
+            lines.Field(kRight, column.headingEnd, line,
+                        column.headings.at(static_cast<std::size_t>(line) - 1));
+    return lines.OutForm();
+}
+
+std::string composeResultRow(const RunRecord& run, std::int16_t clubNo, std::string_view number) {
+    clsMatrixStr line;
+    line.Field(kRight, kClubColumn, 1,
+               (run.IsWood ? "W-" : "I-") + std::to_string(clubNo) + "/" + std::string(number));
+    if (run.Mode >= 0 && static_cast<std::size_t>(run.Mode) < kModeCodes.size())
+        line.Field(kRight, kModeColumn, 1, kModeCodes.at(static_cast<std::size_t>(run.Mode)));
+    for (const NumberColumn& column : kNumberColumns)
+        line.Field(column.align, column.cellColumn, 1,
+                   formatPattern(run.*column.field, column.pattern));
+    return line.OutForm();
+}
+
+void WriteResultHeader(RichTextBox& table) {
+    table.clear();
+    table.insert(0, boxLines(composeResultHeader()), kBlack);
+    table.setSelColor(kBlack);
+}
+
+void WriteResultRow(RichTextBox& table, const RunRecord& run, std::int16_t clubNo,
+                    std::string_view number) {
+    table.insert(GetInsertPosition(table), boxLines(composeResultRow(run, clubNo, number)),
+                 run.CurveColor);
+    table.setSelColor(kWhite);
+}
+
+std::size_t GetInsertPosition(const RichTextBox& box) {
+    constexpr std::size_t kHeadingLines = 3;
+    return box.lineStart(std::max(box.lineFromChar(box.caret()), kHeadingLines)).value_or(0);
+}
+
+void followTableEnd(RichTextBox& box) {
+    constexpr int kLinesInView = 10;
+    const auto lines = static_cast<int>(box.lineCount());
+    if (lines > kLinesInView)
+        box.scroll(lines - kLinesInView);
+}
+
+} // namespace parabolt

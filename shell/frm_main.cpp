@@ -1,0 +1,72 @@
+#include "shell/frm_main.h"
+
+#include "results/result_table.h"
+#include "shell/build_values.h"
+
+namespace parabolt {
+
+frmMain::frmMain(const FormServices& services)
+    : plot(form, services.messages),
+      pause(form, services.events),
+      validators_(form, plot, services.messages),
+      clubChoice_(form, validators_),
+      modes_(form, clubChoice_),
+      defaults_(form, services.messages),
+      resultExport_(form.txtResult, services.ccrpFileDialogs1, services.preferences,
+                    services.messages, services.applicationFolder),
+      parameters_(form, services.ccrpFileDialogs1, services.preferences, services.messages,
+                  services.applicationFolder),
+      driver_(form, plot, services.messages, [this] { resultExport_.mnuSResult_Click(); }),
+      studies_(form, driver_, pause, frmProgress),
+      batch_(form, driver_, pause) {
+    wireMenus(services.desktop);
+}
+
+void frmMain::wireMenus(Desktop& desktop) {
+    // The field being edited is judged before a menu acts.
+    const auto settle = [this] { form.focus.give(form.Picture1); };
+    form.mnuFile.Click.connect(settle);
+    form.mnuStudies.Click.connect(settle);
+    form.mnuSResult.Click.connect([this] { resultExport_.mnuSResult_Click(); });
+    form.mnuPrint.Click.connect([this] {
+        plot.PreparePrintPlots();
+        showPrintView();
+    });
+    form.mnuExit.Click.connect([this] { endProgram(); });
+    form.mnuDefault.Click.connect([this, settle] {
+        settle();
+        showClubEditor();
+    });
+    form.mnuReset.Click.connect([this] { defaults_.mnuReset_Click(); });
+    form.mnuHelp.Click.connect([settle, &desktop] {
+        settle();
+        desktop.openHelp();
+    });
+    form.mnuSkype.Click.connect(
+        [&desktop] { desktop.openAddress("callto:" + std::string(kCallContact)); });
+    form.mnuAbout.Click.connect([this] { showAbout(); });
+}
+
+void frmMain::Form_Load() {
+    modes_.DisableClubParameters();
+    form.blFormLoaded = true;
+    form.clubs = InitClubTables();
+    showClubsInCaption(form);
+    ResetAll();
+    form.txtMode.setText("2");
+    SelectAllTextBoxes(form.controls);
+    WriteResultHeader(form.txtResult);
+    form.cmbClubNo.select(0);
+    takeClubNumber(form);
+}
+
+void frmMain::ResetAll() {
+    form.txtRun.setText("0");
+    form.shot.sRange = 300;
+    driver_.ClearRuns();
+    defaults_.SetSwingDefaults();
+    defaults_.SetEnvironmentDefaults();
+    defaults_.SetClubDefaults();
+}
+
+} // namespace parabolt

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "controls/services.h"
+#include "mainform/defaults.h"
+#include "mainform/modes.h"
+#include "mainform/parameter_handlers.h"
+#include "results/result_export.h"
+#include "run/fill_in_batch.h"
+#include "run/studies.h"
+
+namespace parabolt {
+
+/// What the main form asks of the world around it.
+struct FormServices {
+    MessageBoxes& messages;
+    FileDialog& ccrpFileDialogs1;
+    PreferencesStore& preferences;
+    Desktop& desktop;
+    EventLoop& events;
+    std::string applicationFolder; ///< where dialogs start before they have been used
+};
+
+/// The main form `frmMain`: owns its controls and state and the handlers that work on them, and
+/// wires events to handlers.
+class frmMain {
+public:
+    explicit frmMain(const FormServices& services);
+
+    /// Lays the defaults and makes the form ready for use, once, when it is first shown.
+    void Form_Load();
+
+    MainForm form;
+    ProgressForm frmProgress;
+
+    // The forms and the end of the program, which the view brings about.
+    std::function<void()> showClubEditor; ///< `frmClubParams`, modal
+    std::function<void()> showPrintView;  ///< `frmPrintView`, modal
+    std::function<void()> showAbout;      ///< `frmSplash`, modal
+    std::function<void()> endProgram;     ///< at once, with no question
+
+private:
+    void wireMenus(Desktop& desktop);
+    void ResetAll();
+
+public:
+    PlotPanel plot;
+    Pause pause;
+
+private:
+    Validators validators_;
+    ClubChoice clubChoice_;
+    Modes modes_;
+    Defaults defaults_;
+    ResultExport resultExport_;
+    ParameterHandlers parameters_;
+    RunDriver driver_;
+    Studies studies_;
+    FillInBatch batch_;
+};
+
+} // namespace parabolt

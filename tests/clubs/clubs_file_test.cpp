@@ -1,0 +1,120 @@
+#include "clubs/clubs_file.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <sstream>
+
+namespace parabolt {
+namespace {
+
+TEST(ClubTables, OnlySomeClubsCanBePlayed) {
+    const ClubTables tables = InitClubTables();
+    EXPECT_EQ(playableClubs(false).size(), 7U);
+    EXPECT_EQ(playableClub(tables, false, 7), &tables.Woods[7]);
+    EXPECT_EQ(playableClub(tables, true, 13), nullptr);
+    for (const std::int16_t number : std::initializer_list<std::int16_t>{-1, 0, 6, 10, 32767})
+        EXPECT_EQ(playableClub(tables, false, number), nullptr) << number;
+}
+
+Bytes defaultFile() {
+    return encodeClubs(InitClubTables()).value();
+}
+
+TEST(ClubsFile, TheDefaultSetIsTheseBytes) {
+    const Bytes file = defaultFile();
+    ASSERT_EQ(file.size(), 701U);
+    const std::pair<std::ptrdiff_t, Bytes> known[] = {
+        {0, {0x17, 0x00, 'D', 'e', 'f', 'a', 'u', 'l', 't', ' ', 'C'}},
+        {25, {0x17, 0x00, 'D', 'e', 'f', 'a', 'u', 'l', 't', ' ', 'W'}},
+        {50, {0x17, 0x00, 'D', 'e', 'f', 'a', 'u', 'l', 't', ' ', 'I'}},
+        {75, Bytes(26)},
+        // Iron 1: 16, 225, 100, 0.76, 0, 0.
+        {101, {0x00, 0x00, 0x80, 0x41, 0x00, 0x00, 0x61, 0x43, 0x00, 0x00, 0xC8, 0x42,
+               0x5C, 0x8F, 0x42, 0x3F, 0,    0,    0,    0,    0,    0,    0,    0}},
+        {437, Bytes(24)},
+        {437 + 6 * 24, Bytes(24)},
+        // Wood 10: 24, 233, 91, 0.8, 0, 0.
+        {677, {0x00, 0x00, 0xC0, 0x41, 0x00, 0x00, 0x69, 0x43, 0x00, 0x00, 0xB6, 0x42,
+               0xCD, 0xCC, 0x4C, 0x3F, 0,    0,    0,    0,    0,    0,    0,    0}}};
+    for (const auto& [offset, bytes] : known)
+        EXPECT_TRUE(std::equal(bytes.begin(), bytes.end(), file.begin() + offset)) << offset;
+}
+
+TEST(ClubsFile, ComesBackAsItWas) {
+    ClubTables clubs = InitClubTables();
+    clubs.ClubsDescription = "";
+    clubs.WoodsDescription = "Käthe €5";
+    clubs.Comment = "one\r\ntwo\r\n";
+    float next = -3.1F;
+    for (auto field : {&ClubRecord::LoftAngle, &ClubRecord::HeadWeight, &ClubRecord::HeadSpeed,
+                       &ClubRecord::COR, &ClubRecord::AttackAngle, &ClubRecord::Bending})
+        clubs.Woods[10].*field = clubs.Irons[13].*field = next *= -1.7F;
+    const Bytes file = encodeClubs(clubs).value();
+    const auto back = decodeClubs(file);
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->WoodsDescription + back->Comment, clubs.WoodsDescription + clubs.Comment);
+    EXPECT_EQ(back->Irons[13].HeadSpeed, clubs.Irons[13].HeadSpeed);
+    EXPECT_EQ(encodeClubs(*back), file);
+}
+
+TEST(ClubsFile, EndsWhereTheLastRecordEnds) {
+    Bytes file = defaultFile();
+    for (std::size_t length = 0; length < file.size(); ++length)
+        EXPECT_FALSE(decodeClubs(std::span(file).first(length))) << length;
+    file.insert(file.end(), 100, 0xEE);
+    EXPECT_TRUE(decodeClubs(file));
+    for (const std::size_t lengthOfText : {0U, 25U, 50U, 75U})
+        for (const int high : {0x03, 0x80, 0xFF}) {
+            Bytes broken = defaultFile();
+            broken[lengthOfText + 1] = static_cast<std::uint8_t>(high);
+            EXPECT_FALSE(decodeClubs(broken)) << lengthOfText;
+        }
+    for (const std::string character : {"x", "€"}) {
+        ClubTables clubs;
+        for (int i = 0; i < 65535; ++i)
+            clubs.Comment += character;
+        EXPECT_EQ(decodeClubs(encodeClubs(clubs).value())->Comment, clubs.Comment);
+        clubs.Comment += character;
+        EXPECT_FALSE(encodeClubs(clubs));
+    }
+}
+
+TEST(ClubsText, ShowsTextsAndGridsLineByLine) {
+    ClubTables clubs = InitClubTables();
+    clubs.ClubsDescription = "Müller 漢";
+    clubs.Comment = "dry\r\nfast";
+    clubs.Irons[1].LoftAngle = std::numeric_limits<float>::quiet_NaN();
+    ClubForm form;
+    showClubs(form, clubs);
+    form.GridWoods.setText(3, 8, "0.9");
+    std::istringstream text(composeClubsText(form, clubs));
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);)
+        lines.push_back(line);
+    ASSERT_EQ(lines.size(), 25U);
+    const std::pair<std::size_t, std::string> known[] = {
+        {1, "Clubs Description: M\xFCller ?"},
+        {3, "Irons Clubs Description: Default Irons Parameter"},
+        {4, "Club No.\tNo. 1\tNo. 2\tNo. 3\tNo. 4\tNo. 5\tNo. 6\tNo. 7\tNo. 8\tNo. 9\tNo. 10\t"
+            "No. 11\tNo. 12\tNo. 13\tNo. 14\t"},
+        {5, "Head Weight\t225\t232\t239\t246\t253\t260\t267\t274\t281\t284\t291\t298\t298\t298\t"},
+        {6, "Loft Angle\t0\t18\t21\t24\t27\t31\t35\t39\t43\t47\t52\t56\t60\t64\t"},
+        {9, "Head Speed\t100\t99\t98\t97\t96\t95\t94\t93\t92\t91\t90\t89\t88\t87\t"},
+        {12, ""},
+        {13, "Clubs Woods"},
+        {14, "Woods Clubs Description: Default Woods Parameter"},
+        {15, "No. 1\tNo. 2\tNo. 3\tNo. 4\tNo. 5\tNo. 7\tNo. 9\tNo. 10\t"},
+        {16, "198\t203\t208\t213\t218\t228\t233\t233\t"},
+        {17, "10\t12\t14\t16\t18\t21\t24\t24\t"},
+        {18, "0.83\t0.83\t0.83\t0.83\t0.83\t0.8\t0.8\t0.9\t"},
+        {20, "100\t99\t98\t97\t96\t94\t92\t91\t"},
+        {23, "Comment"},
+        {25, "fast"}};
+    for (const auto& [number, line] : known)
+        EXPECT_EQ(lines[number - 1], line + "\r") << number;
+}
+
+} // namespace
+} // namespace parabolt

@@ -1,0 +1,199 @@
+#include "files/code_page.h"
+#include "files/dialog_routine.h"
+#include "files/file_access.h"
+#include "tests/support/scripted_services.h"
+#include "tests/support/temporary_folder.h"
+
+namespace parabolt::support {
+namespace {
+
+namespace fs = std::filesystem;
+using enum DialogPurpose;
+
+TEST(CodePage, WritesOneByteACharacter) {
+    const std::pair<const char*, const char*> table[] = {
+        {"7\u00B0 \u00FC", "7\xB0 \xFC"},
+        {"\u20AC\u2013\u0178", "\x80\x96\x9F"},
+        {"\u0141\u03A9\u4E2D\U0001F3CC", "????"}, // one mark for each that the page lacks
+        {"\xC0\xAF", "??"},                       // a slash in two bytes is malformed
+        {"\xED\xA0\x80", "???"},                  // half a surrogate pair
+        {"\xF4\x90\x80\x80", "????"},             // behind the last character of all
+        {"ok\xE2\x82", "ok??"},                   // cut off inside a character
+        {"\xE2\x82\x41\xFF\x80", "??A??"},        // broken off by another character
+    };
+    for (const auto& [utf8, bytes] : table)
+        EXPECT_EQ(toCodePage(utf8), bytes) << utf8;
+}
+
+struct FileAccess : testing::Test {
+    const TemporaryFolder folder;
+    const std::string name = folder.path("h\u00F6le in one.opt");
+
+    static Bytes bytesOf(std::string_view text) { return {text.begin(), text.end()}; }
+    static std::string readStart(const std::string& name, std::size_t most) {
+        const auto data = readFileStart(name, most);
+        const auto* bytes = std::get_if<Bytes>(&data);
+        return bytes == nullptr ? "failed" : std::string(bytes->begin(), bytes->end());
+    }
+};
+
+TEST_F(FileAccess, ReadsAndWritesTheStartOrTheWhole) {
+    EXPECT_EQ(readStart(name, 10), "");
+    EXPECT_TRUE(fs::exists(name));
+    putContent(name, "0123456789");
+    EXPECT_EQ(readStart(name, 4), "0123");
+    EXPECT_EQ(readStart(name, 1000), "0123456789");
+    EXPECT_FALSE(writeFileStart(name, bytesOf("abc")));
+    EXPECT_EQ(contentOf(name), "abc3456789");
+    EXPECT_FALSE(replaceFile(name, "short"));
+    EXPECT_EQ(contentOf(name), "short");
+    EXPECT_EQ(folder.entries(), 1) << "a temporary file is left";
+}
+
+TEST_F(FileAccess, AFullDiskLeavesTheOldFileWhole) {
+    for (std::size_t room = 0; room < 20; ++room) {
+        putContent(name, "0123456789");
+        std::vector<std::optional<Failure>> failures;
+        {
+            const FailingDisk disk(room);
+            failures = {writeFileStart(name, Bytes(20, 'a')),
+                        replaceFile(name, std::string(20, 'b')),
+                        replaceFile(folder.path("fresh"), std::string(20, 'c'))};
+        }
+        for (const auto& failure : failures)
+            EXPECT_TRUE(failure && !failure->description.empty()) << room;
+        EXPECT_EQ(contentOf(name), "0123456789") << room;
+        EXPECT_EQ(folder.entries(), 1) << "half a file is left at " << room;
+    }
+}
+
+TEST_F(FileAccess, SaysWhyAFileCannotBeUsed) {
+    const std::pair<std::string, bool> table[] = {
+        {folder.path(), false}, // a folder in the file's place
+        {folder.path("gone/file"), false},
+        {folder.path(std::string(5000, 'x')), true},
+        {folder.path("a") + std::string(1, '\0') + "b", true},
+        {"", false},
+    };
+    for (const auto& [bad, badName] : table) {
+        const auto read = readFileStart(bad, 10);
+        ASSERT_TRUE(std::holds_alternative<Failure>(read)) << bad;
+        for (const auto& failure : {std::optional(std::get<Failure>(read)),
+                                    writeFileStart(bad, bytesOf("a")), replaceFile(bad, "a")}) {
+            ASSERT_TRUE(failure) << bad;
+            EXPECT_EQ(failure->number == kBadFileName, badName) << bad;
+            EXPECT_FALSE(failure->description.empty());
+        }
+    }
+    EXPECT_EQ(folder.entries(), 0);
+    // A device is neither replaced nor waited for.
+    EXPECT_TRUE(replaceFile("/dev/full", "text"));
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+    ASSERT_EQ(std::system(("mkfifo " + folder.path("pipe")).c_str()), 0);
+    EXPECT_EQ(readStart(folder.path("pipe"), 10), "failed");
+}
+
+TEST(Preferences, FailsWithNumberAndDescription) {
+    using Store = PreferencesStore;
+    const struct {
+        const char *app, *section, *key;
+        std::optional<Store::ReadResult> read;
+        std::optional<Store::WriteResult> write;
+        std::uint32_t readNumber, writeNumber;
+        std::string readText, writeText; ///< the latter empty if it is the same
+    } table[] = {{"  ", "", "", {}, {}, 0x800403E8, 0x800403E8, "AppName may not be empty", ""},
+                 {"a", "  ", "", {}, {}, 0x800403E9, 0x800403E9, "Section may not be empty", ""},
+                 {"a", "s", " ", {}, {}, 0x800403EA, 0x800403EA, "Key may not be empty", ""},
+                 {"a", "s", "k", Store::CannotOpen{5}, Store::CannotOpen{6}, 0x800407D5, 0x800407D6,
+                  "Could not open registry section", "Could not open/create registry section"},
+                 {"a", "s", "k", Store::NotText{4}, Store::CannotSet{112}, 0x800407D4, 0x80040840,
+                  "Registry data not a string", "Could not set key value"}};
+    for (const auto& row : table) {
+        MemoryPreferences store;
+        store.readRefusal = row.read;
+        store.writeRefusal = row.write;
+        const auto read = GetRegString(store, row.app, row.section, row.key, "");
+        const auto written = SaveRegString(store, row.app, row.section, row.key, "x");
+        ASSERT_TRUE(std::holds_alternative<Failure>(read) && written);
+        EXPECT_EQ(std::get<Failure>(read).number, row.readNumber);
+        EXPECT_EQ(std::get<Failure>(read).description, row.readText);
+        EXPECT_EQ(written->number, row.writeNumber);
+        EXPECT_EQ(written->description, row.writeText.empty() ? row.readText : row.writeText);
+    }
+}
+
+struct DialogRoutineTest : testing::Test {
+    ScriptedFileDialog dialog;
+    MemoryPreferences preferences;
+    ScriptedMessageBoxes messages;
+    DialogRoutine routine{dialog, preferences, messages, "/program"};
+    Texts worked; ///< the ending that each piece of work was for
+    std::optional<Failure> workFailure;
+
+    std::optional<Failure> run(DialogPurpose purpose) {
+        return routine.run(purpose, [this](const std::string&, std::string_view ending) {
+            worked.emplace_back(ending);
+            return workFailure;
+        });
+    }
+};
+
+TEST_F(DialogRoutineTest, JudgesANameByItsLastThreeCharacters) {
+    const std::string noOpen = "The file type is not correct!";
+    const std::string noSave = "The file type is not support!";
+    const struct {
+        DialogPurpose purpose;
+        const char* name;
+        std::string outcome; ///< the ending that was worked on, or the message
+    } table[] = {{OpenParameters, "/f/A.OPT", "opt"},  {OpenParameters, "/f/myopt", "opt"},
+                 {OpenParameters, "/f/a.clb", noOpen}, {OpenParameters, "a", noOpen},
+                 {SaveParameters, "/f/a.oPt", "opt"},  {SaveParameters, "/f/a", noSave},
+                 {SaveResult, "/f/a.TXT", "txt"},      {SaveResult, "/f/a.txt.bak", noSave},
+                 {OpenClubs, "/f/a.clb", "clb"},       {OpenClubs, "/f/a.txt", noOpen},
+                 {SaveClubs, "/f/a.Clb", "clb"},       {SaveClubs, "/f/a.TXT", "txt"},
+                 {SaveClubs, "/f/a.opt", noSave}};
+    for (const auto& row : table) {
+        worked.clear();
+        messages.texts.clear();
+        dialog.choose(row.name);
+        EXPECT_FALSE(run(row.purpose));
+        (row.outcome.size() == 3 ? messages.texts : worked).push_back(row.outcome);
+        EXPECT_EQ(worked, Texts{row.outcome}) << row.name;
+        EXPECT_EQ(messages.texts, Texts{row.outcome}) << row.name;
+        EXPECT_EQ(preferences.lastPath(), dialog.finalFolder) << row.name;
+    }
+}
+
+TEST_F(DialogRoutineTest, AllFiveStartWhereTheLastOneEnded) {
+    dialog.cancel("/1");
+    for (const auto purpose : {OpenParameters, SaveParameters, SaveResult, OpenClubs, SaveClubs}) {
+        EXPECT_FALSE(run(purpose));
+        dialog.cancel(dialog.finalFolder + "/2");
+    }
+    const std::vector<ScriptedFileDialog::Show> expected{
+        {false, "/program", "Open Parameters File", "Parameter File(*.opt)|*.opt"},
+        {true, "/1", "Save All Parameters To File", "Parameters File(*.opt)|*.opt"},
+        {true, "/1/2", "Save Result To A Text File", "Text File(*.txt)|*.txt"},
+        {false, "/1/2/2", "Open Clubs Parameter File", "Clubs Parameter File(*.clb)|*.clb"},
+        {true, "/1/2/2/2", "Save Clubs Parameter To File",
+         "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt"}};
+    EXPECT_EQ(dialog.shows, expected);
+}
+
+TEST_F(DialogRoutineTest, AFailureEndsItWhereItHappens) {
+    dialog.choose("/f/a.txt");
+    preferences.readRefusal = PreferencesStore::CannotOpen{5};
+    EXPECT_TRUE(run(SaveResult));
+    EXPECT_TRUE(dialog.shows.empty());
+    preferences.readRefusal.reset();
+    workFailure = Failure{1, "disk full"};
+    EXPECT_EQ(run(SaveResult)->description, "disk full");
+    EXPECT_EQ(preferences.lastPath(), "");
+    workFailure.reset();
+    preferences.writeRefusal = PreferencesStore::CannotSet{5};
+    EXPECT_EQ(run(SaveResult)->description, "Could not set key value");
+    EXPECT_EQ(worked.size(), 2U);
+}
+
+} // namespace
+} // namespace parabolt::support

@@ -1,0 +1,49 @@
+#include "mainform/defaults.h"
+#include "mainform/modes.h"
+#include "mainform/parameter_handlers.h"
+
+#include <cstdlib>
+
+namespace {
+
+using namespace parabolt;
+
+struct SilentMessages : MessageBoxes {
+    void show(std::string_view) override {}
+    bool ask(std::string_view) override { return true; }
+    Answer askOrCancel(std::string_view) override { return Answer::Yes; }
+};
+
+} // namespace
+
+// Whatever a parameters file holds, in every mode: it is laid into the form or stops half-way, and
+// the form goes on working.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const ParameterRecord record = decodeParameters({data, size});
+    const Bytes bytes = encodeParameters(record);
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        if (bytes[i] != (i < size ? data[i] : 0))
+            std::abort();
+
+    MainForm form;
+    form.clubs = InitClubTables();
+    SilentMessages messages;
+    PlotPanel plot(form, messages);
+    Validators validators(form, plot, messages);
+    ClubChoice clubChoice(form, validators);
+    Modes modes(form, clubChoice);
+    Defaults defaults(form, messages);
+    defaults.SetSwingDefaults();
+    defaults.SetEnvironmentDefaults();
+    defaults.SetClubDefaults();
+    for (const char* mode : {"2", "1", "0"}) {
+        form.txtMode.setText(mode);
+        const bool known = !applyParameters(form, record);
+        if (known && form.cmbClubNo.text() != std::to_string(record.ClubNo))
+            std::abort();
+        collectParameters(form);
+        for (const FieldRule& rule : fieldRules())
+            validators.validate(rule.field);
+    }
+    return 0;
+}

@@ -1,0 +1,150 @@
+#include "qt/file_dialog.h"
+#include "qt/form_binding.h"
+#include "qt/settings_store.h"
+#include "tests/support/temporary_folder.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTimer>
+
+namespace parabolt::support {
+namespace {
+
+struct FileDialogTest : testing::Test {
+    FileDialogTest() {
+        dialog.filter = "Clubs(*.clb)|*.clb|Text|*.txt";
+        dialog.initialFolder = folder.path();
+        QObject::connect(&user, &QTimer::timeout, [this] { look(); });
+        user.start(20);
+    }
+    /// Acts as the user: once at each file dialog, and at the question whether to overwrite. What
+    /// nobody closes is closed after a while, so that a fault doesn't hang the test.
+    void look() {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (auto* question = qobject_cast<QMessageBox*>(modal)) {
+            ++questions;
+            question->button(overwrite ? QMessageBox::Yes : QMessageBox::No)->click();
+        } else if (auto* shown = qobject_cast<QFileDialog*>(modal)) {
+            if (act)
+                QTimer::singleShot(0, shown, [this, shown] { std::exchange(act, {})(*shown); });
+            else if (++idle > 10)
+                shown->reject();
+        }
+    }
+    void save(const std::string& name) {
+        act = typing(name);
+        questions = idle = 0;
+        dialog.showSave();
+    }
+    static std::function<void(QFileDialog&)> typing(const std::string& name) {
+        return [name](QFileDialog& shown) {
+            shown.findChild<QLineEdit*>("fileNameEdit")->setText(toQt(name));
+            static_cast<QDialog&>(shown).accept();
+        };
+    }
+
+    TemporaryFolder folder;
+    QtFileDialog dialog;
+    QTimer user;
+    std::function<void(QFileDialog&)> act;
+    bool overwrite = false;
+    int questions = 0;
+    int idle = 0;
+};
+
+TEST_F(FileDialogTest, TakesANameAsTypedAndAsksOnceBeforeOverwriting) {
+    for (const std::string name : {"bare", "sch\u00F6n.TXT", "other.opt"}) {
+        save(name);
+        EXPECT_EQ(dialog.fileName, folder.path(name));
+        EXPECT_EQ(dialog.pickedName, name);
+        EXPECT_EQ(dialog.finalFolder, folder.path());
+        EXPECT_EQ(questions, 0);
+    }
+    putContent(folder.path("old.clb"), "old");
+    for (const bool yes : {false, true}) {
+        overwrite = yes;
+        save("old.clb");
+        EXPECT_EQ(questions, 1);
+        EXPECT_EQ(dialog.fileName, yes ? folder.path("old.clb") : "");
+    }
+}
+
+TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
+    std::filesystem::create_directory(folder.path("deeper"));
+    putContent(folder.path("deeper/set.clb"), "x");
+    act = typing(folder.path("deeper/set.clb"));
+    dialog.showOpen();
+    EXPECT_EQ(dialog.pickedName, "set.clb");
+    EXPECT_EQ(dialog.finalFolder, folder.path("deeper"));
+    QStringList filters;
+    act = [&](QFileDialog& shown) {
+        filters = shown.nameFilters();
+        EXPECT_EQ(fromQt(shown.directory().absolutePath()), folder.path());
+        shown.setDirectory(toQt(folder.path("deeper")));
+        shown.reject();
+    };
+    dialog.showOpen();
+    EXPECT_EQ(filters, QStringList({"Clubs(*.clb)", "Text (*.txt)"}));
+    EXPECT_EQ(dialog.fileName + dialog.pickedName, "");
+    EXPECT_EQ(dialog.finalFolder, folder.path("deeper"));
+    dialog.initialFolder = folder.path("gone");
+    act = [](QFileDialog& shown) { shown.reject(); };
+    dialog.showOpen();
+    EXPECT_EQ(dialog.finalFolder, fromQt(QDir::homePath()));
+}
+
+struct SettingsStoreTest : testing::Test {
+    TemporaryFolder folder;
+    QString before =
+        QFileInfo(QSettings(QSettings::IniFormat, QSettings::UserScope, "any").fileName()).path();
+    SettingsStore store;
+    /// Each test has an application of its own: what Qt knows of a file outlives the test.
+    std::string application = testing::UnitTest::GetInstance()->current_test_info()->name();
+    std::string file = folder.path(application + ".ini");
+
+    SettingsStoreTest() { keepSettingsIn(toQt(folder.path())); }
+    ~SettingsStoreTest() override { keepSettingsIn(before); }
+    static void keepSettingsIn(const QString& path) {
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path);
+    }
+    /// The stored text, or why there is none.
+    std::string text(std::string_view key) {
+        const auto value = GetRegString(store, application, "startup", key, "default");
+        const auto* failure = std::get_if<Failure>(&value);
+        return failure != nullptr ? failure->description : std::get<std::string>(value);
+    }
+    std::string save(std::string_view value) {
+        const auto failure = SaveRegString(store, application, "Startup", "LastPath", value);
+        return failure ? failure->description : "";
+    }
+};
+
+TEST_F(SettingsStoreTest, GivesTextsBackWhole) {
+    EXPECT_EQ(text("LastPath"), "default");
+    EXPECT_FALSE(std::filesystem::exists(file)) << "reading must not create it";
+    for (const char* value : {"/home/j\u00F6rg/\u0141\u00F3d\u017A", "", "a, b;c=\"d\"\\",
+                              "@Invalid()", " blanks ", "%41[x]\n/#", "/home"}) {
+        EXPECT_EQ(save(value), "");
+        EXPECT_EQ(text("LastPath"), value);
+    }
+    {
+        const FailingDisk disk(10);
+        EXPECT_EQ(save(std::string(50, 'x')), "Could not set key value");
+    }
+    EXPECT_NE(contentOf(file).find("/home"), std::string::npos);
+}
+
+TEST_F(SettingsStoreTest, FailsWhereTheFileCannotBe) {
+    std::filesystem::create_directory(file);
+    EXPECT_EQ(text("LastPath"), "Could not open registry section");
+    EXPECT_EQ(save("/home"), "Could not open/create registry section");
+}
+
+} // namespace
+} // namespace parabolt::support

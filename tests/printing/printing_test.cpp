@@ -1,0 +1,277 @@
+#include "printing/drv_printer.h"
+#include "printing/matrix_str.h"
+#include "printing/print_view.h"
+#include "printing/report.h"
+#include "tests/support/scripted_services.h"
+
+#include <stdexcept>
+
+namespace parabolt::support {
+namespace {
+
+TEST(MatrixStr, LaysFieldsIntoARow) {
+    const auto left = clsMatrixStr::Left;
+    const auto right = clsMatrixStr::Right;
+    const auto centred = clsMatrixStr::Centred;
+    struct Write {
+        std::int32_t align;
+        std::int16_t column;
+        std::string value;
+    };
+    const std::pair<std::vector<Write>, std::string> table[] = {
+        {{{left, 5, "abc"}}, "    abc"},
+        {{{right, 5, "abc"}}, "  abc"},
+        {{{centred, 5, "abc"}}, "   abc"},
+        {{{centred, 5, "abcd"}}, "  abcd"},
+        {{{right, 2, "abc"}}, "ab"},
+        {{{centred, 1, "abcd"}}, "ab"},
+        {{{left, -2, "abc"}}, ""},
+        {{{left, 8, "late"}, {left, 1, "early"}}, "early  late"},
+        {{{left, 1, "abcdef"}, {left, 3, "XY"}}, "abXYef"},
+        {{{left, 1, "abc  "}}, "abc  "},
+    };
+    for (const auto& [writes, row] : table) {
+        clsMatrixStr matrix;
+        for (const Write& write : writes)
+            matrix.Field(write.align, write.column, 1, write.value);
+        EXPECT_EQ(matrix.GetField(1), row);
+    }
+    clsMatrixStr matrix;
+    matrix.Field(left, 2, 3, "last  ");
+    matrix.Field(left, 1, 1, "first");
+    matrix.Field(left, 1, 4, "");
+    EXPECT_EQ(matrix.OutForm(), "first\r\n\r\n last\r\n\r\n");
+    EXPECT_THROW(matrix.Field(left, 32767, 1, "ab"), std::overflow_error);
+    EXPECT_THROW(matrix.Field(left, 1, -1, "a"), std::out_of_range);
+    matrix.Clear();
+    EXPECT_EQ(matrix.OutForm(), "");
+}
+
+/// A page that remembers what was drawn on it. Its font is as simple as can be: a character is a
+/// hundredth of the font's size wide and a fortieth high.
+struct RecordedPage : Page {
+    struct Line {
+        std::string text;
+        double x, y, size;
+        friend bool operator==(const Line&, const Line&) = default;
+    };
+    struct Rectangle {
+        Place corner, size;
+        int pen;
+        friend bool operator==(const Rectangle&, const Rectangle&) = default;
+    };
+
+    explicit RecordedPage(bool ofPrinter = true, double widthInTwips = 16000)
+        : printer(ofPrinter),
+          width(widthInTwips) {}
+
+    bool isPrinter() const override { return printer; }
+    double Width() const override { return width; }
+    double ScaleWidth() const override { return 8.55; }
+    double ScaleHeight() const override { return 5.9; }
+    double TextWidth(std::string_view text) const override {
+        return static_cast<double>(text.size()) * FontSize / 100;
+    }
+    double TextHeight(std::string_view) const override { return FontSize / 40; }
+    void Print(std::string_view text) override {
+        lines.push_back({std::string(text), CurrentX, CurrentY, FontSize});
+        CurrentX = 0;
+        CurrentY += TextHeight(text);
+    }
+    void Box(Place corner, Place opposite) override {
+        frame = {corner, {opposite.x - corner.x, opposite.y - corner.y}, DrawWidth};
+    }
+    void PaintPlot(const PlotCanvases&, Place corner, Place size) override {
+        plot = {corner, size, DrawWidth};
+    }
+    /// What stands below caption and heading.
+    Texts table() const {
+        Texts texts;
+        for (std::size_t i = 2; i < lines.size(); ++i)
+            texts.push_back(lines[i].text);
+        return texts;
+    }
+
+    bool printer;
+    double width;
+    std::vector<Line> lines;
+    std::optional<Rectangle> frame, plot;
+};
+
+TEST(DrvPrinter, LaysTextIntoTheCellsOfTheStandardSize) {
+    RecordedPage page;
+    page.FontSize = 20; // "abcd" is 0.8 wide
+    clsDrvPrinter driver;
+    driver.PntObject(page);
+    EXPECT_EQ(driver.MaxLines() + driver.MaxCols(), 0);
+    driver.StdFontSize(10); // a cell of 0.1 by 0.25
+    EXPECT_EQ(driver.MaxCols(), 85);
+    EXPECT_EQ(driver.MaxLines(), 23);
+    driver.LineNo(2);
+    driver.ColNo(10);
+    for (const auto& [alignment, x] :
+         {std::pair{0, 1.0}, {1, 0.6}, {2, 0.2}, {7, 0.2}, {-1, 0.2}}) {
+        driver.PrintText(alignment, "abcd");
+        EXPECT_NEAR(page.lines.back().x, x, 1e-12) << alignment;
+        EXPECT_EQ(page.lines.back().y, 0.5) << "each on the same line";
+    }
+}
+
+struct Report : testing::Test {
+    RecordedPage compose(double Ratio = 1, double PicRatio = 2, double width = 16000) {
+        RecordedPage page(Ratio == 1, width);
+        ComposeReport(page, Ratio, PicRatio, {caption, table, {outer, inner}});
+        return page;
+    }
+
+    ControlSet form;
+    PictureBox outer{form, "outer", kWhite, kBlack};
+    PictureBox inner{form, "inner", kWhite, kBlack};
+    std::string caption = "A caption";
+    std::string table = "one\ntwo\n";
+};
+
+TEST_F(Report, FillsThePageInProportion) {
+    const RecordedPage page = compose(1);
+    const RecordedPage preview = compose(0.5); // the page with smaller letters
+    EXPECT_EQ(preview.frame, page.frame);
+    EXPECT_EQ(preview.plot, page.plot);
+    for (std::size_t i = 0; i < page.lines.size(); ++i) {
+        EXPECT_EQ(preview.lines[i].size * 2, page.lines[i].size);
+        EXPECT_EQ(preview.lines[i].x, page.lines[i].x);
+    }
+    EXPECT_EQ(compose(1, 2, 10001).frame->pen, 5);
+    for (const double PicRatio : {0.8, 2.0, 2.86, 3.0, 6.0}) {
+        const auto [corner, size, pen] = compose(1, PicRatio).plot.value();
+        EXPECT_NEAR(size.x / size.y, PicRatio, 1e-9);
+        EXPECT_LT(corner.x + size.x, page.frame->corner.x + page.frame->size.x) << PicRatio;
+        EXPECT_EQ(size.y == compose(1, 1).plot->size.y, PicRatio < 2.9) << PicRatio;
+    }
+    EXPECT_FALSE(compose(1, 0).plot) << "a plot that was never laid out";
+    caption.assign(200, 'x'); // shrinks into the frame
+    const RecordedPage narrow = compose();
+    EXPECT_LT(narrow.lines[0].x + 200 * narrow.lines[0].size / 100,
+              page.frame->corner.x + page.frame->size.x);
+    EXPECT_EQ(narrow.lines[1], page.lines[1]) << "what follows has its own size";
+}
+
+TEST_F(Report, PrintsEighteenLinesAndWrapsFrom126CharactersOn) {
+    table = "a\r\n\r\nb\nc";
+    EXPECT_EQ(compose().table(), (Texts{"a", "", "b", "c"}));
+    const std::string widest(125, 'x');
+    table = widest + "\n" + widest + "y\nlast";
+    EXPECT_EQ(compose().table(), (Texts{widest, widest, "y", "", "last"}));
+    table.clear();
+    for (int i = 0; i < 125; ++i)
+        table += "\xC3\xA9"; // one character, two bytes
+    EXPECT_EQ(compose().table().size(), 1U);
+    table.clear();
+    for (int i = 0; i < 30; ++i)
+        table += std::to_string(i) + "\n";
+    EXPECT_EQ(compose().table().size(), 18U);
+    EXPECT_EQ(compose().table().back(), "17");
+}
+
+TEST(SplitSentence, CutsAtBlanksInTheSecondHalf) {
+    const struct {
+        const char* text;
+        std::int16_t length;
+        Texts pieces;
+    } table[] = {
+        {"abcd", 4, {"abcd"}},
+        {"abcdefghij", 4, {"abcd", "efgh", "ij"}}, // no blank at all
+        {"aaa bbb ccc", 8, {"aaa bbb ", "ccc"}},   // a blank at the very end of the piece
+        {"aaa bbbbbb", 6, {"aaa ", "bbbbbb"}},     // the first blank that is late enough
+        {"aa bbbbbb", 6, {"aa bbb", "bbb"}},       // one too early
+        {"aaaa   bb", 4, {"aaaa", "bb"}},          // blanks after the cut are dropped
+        {"ab cd", 2, {"ab", " c", "d"}},           // too short to mind blanks
+        {"a\xC3\xA9 \xC3\xA9\xC3\xA9", 3, {"a\xC3\xA9 ", "\xC3\xA9\xC3\xA9"}},
+    };
+    for (const auto& row : table) {
+        Texts pieces = SplitSentence(row.text, row.length);
+        ASSERT_EQ(pieces.back(), "") << row.text;
+        pieces.pop_back();
+        EXPECT_EQ(pieces, row.pieces) << row.text;
+    }
+}
+
+TEST_F(Report, FitsOnEveryPaper) {
+    const PageSize letter{11, 8.5, 10.5, 8};
+    const PreviewScale half{0.5, 5.5, 4.25, -0.25, -0.25};
+    EXPECT_EQ(ScalePreviewToPage(letter, 5.5, 9), half);
+    const auto frame = compose().frame.value();
+    const struct {
+        const char* name;
+        PageSize paper;
+        bool trueToSize;
+    } papers[] = {{"A4", {11.69, 8.27, 11.29, 7.87}, true},
+                  {"Letter", {11, 8.5, 10.6, 8.1}, false},
+                  {"Letter to its edges", {11, 8.5, 11, 8.5}, false},
+                  {"Legal", {14, 8.5, 13.5, 8}, true},
+                  {"A5", {8.27, 5.83, 7.87, 5.43}, false}};
+    for (const auto& row : papers) {
+        const PageSize measured = inLayoutInches(row.paper);
+        EXPECT_LT(frame.corner.x + frame.size.x, measured.printableWidth) << row.name;
+        EXPECT_LT(frame.corner.y + frame.size.y, measured.printableHeight) << row.name;
+        EXPECT_EQ(measured == row.paper, row.trueToSize) << row.name;
+        EXPECT_NEAR(measured.width / measured.height, row.paper.width / row.paper.height, 1e-9);
+        EXPECT_NEAR(measured.width * layoutScale(row.paper), row.paper.width, 1e-9);
+    }
+}
+
+struct ScriptedPrinter : Printer {
+    PageSize paper() override { return {12, 8, 12, 8}; }
+    std::optional<std::string> print(std::string_view documentTitle,
+                                     const std::function<void(Page&)>& compose) override {
+        title = documentTitle;
+        compose(pages.emplace_back());
+        return failure;
+    }
+    std::optional<std::string> failure;
+    std::string title;
+    std::vector<RecordedPage> pages;
+};
+
+struct PrintViewTest : Report {
+    PrintViewTest() {
+        outer.setGeometry({0, 0, 9000, 4500});
+        txtResult.insert(0, "the table\n", kBlack);
+        view.Form_Resize(12000, 9000);
+    }
+    std::string previewCaption() {
+        RecordedPage page(false);
+        view.composePreview(page);
+        return page.lines.empty() ? "nothing" : page.lines[0].text;
+    }
+
+    RichTextBox txtResult{form, "txtResult"};
+    ScriptedPrinter printer;
+    ScriptedMessageBoxes messages;
+    PrintView view{{outer, inner}, txtResult, printer, messages};
+};
+
+TEST_F(PrintViewTest, PrintsWithOrWithoutAPreview) {
+    view.txtCaption.setText("old");
+    EXPECT_EQ(previewCaption(), "nothing");
+    view.cmdPrint.Click();
+    const RecordedPage page = printer.pages.at(0);
+    EXPECT_EQ(page.lines.at(2).text, "the table");
+    EXPECT_NEAR(page.plot.value().size.x / page.plot->size.y, 2, 1e-9);
+    EXPECT_EQ(printer.title, "old");
+    EXPECT_FALSE(view.preview());
+    view.cmdPrintPreview.Click();
+    view.txtCaption.setText("new"); // shows at the next preview, and prints at once
+    printer.failure = "The printer is gone.";
+    view.cmdPrint.Click();
+    EXPECT_EQ(messages.texts, Texts{"The printer is gone."});
+    EXPECT_EQ(previewCaption(), "old");
+    EXPECT_EQ(printer.pages.at(1).lines.at(0).text, "new");
+    int redraws = 0;
+    view.Picture0.onViewChange = [&] { ++redraws; };
+    view.cmdPrintPreview.Click();
+    EXPECT_EQ(previewCaption(), "new");
+    EXPECT_GT(redraws, 0) << "though the page has kept its size";
+}
+
+} // namespace
+} // namespace parabolt::support

@@ -1,0 +1,197 @@
+#include "tests/support/scripted_form.h"
+
+#include <cmath>
+
+namespace parabolt::support {
+namespace {
+
+struct RunDriver : testing::Test, ScriptedForm {};
+
+TEST_F(RunDriver, AFullBufferAsksBeforeItLosesAnything) {
+    run(24);
+    EXPECT_TRUE(messages.texts.empty());
+    EXPECT_EQ(rows().size(), 24U);
+    const std::string table = form.txtResult.text();
+    messages.answers = {Answer::Yes, Answer::No};
+    files.cancel("/folder");
+    run();
+    EXPECT_EQ(messages.texts.back(), "The data buffer is full,\r\nSave data to file before "
+                                     "clearing the result window?");
+    EXPECT_EQ(files.shows.size(), 1U);
+    EXPECT_EQ(form.txtRun.text(), "24");
+    EXPECT_EQ(form.txtResult.text(), table);
+    run();
+    EXPECT_EQ(form.txtRun.text(), "1");
+    EXPECT_EQ(form.Runs.size(), 2U);
+    EXPECT_EQ(rows().size(), 1U);
+    EXPECT_EQ(curves(), (std::vector<Rgb>{{255, 0, 0}}));
+}
+
+TEST_F(RunDriver, ClearAsksAndKeepsTheScale) {
+    enter(form.txtRange, "200");
+    run(3);
+    EXPECT_EQ(curves(), (std::vector<Rgb>{{255, 0, 0}, {0, 255, 0}, {0, 0, 255}}));
+    messages.answers = {Answer::No, Answer::Yes};
+    press(form.Command2);
+    EXPECT_EQ(rows().size(), 3U);
+    press(form.Command2);
+    EXPECT_EQ(messages.texts.back(), "This will erase all the data now, are you sure?");
+    EXPECT_EQ(form.txtRun.text(), "0");
+    EXPECT_EQ(rows().size() + curves().size(), 0U);
+    EXPECT_EQ(form.Runs.size(), 1U);
+    EXPECT_FLOAT_EQ(form.shot.sRange, 200);
+}
+
+TEST_F(RunDriver, AShotThatFailsIsTold) {
+    run();
+    for (float ShotState::*input : {&ShotState::h, &ShotState::HeadWeight}) {
+        const float before = std::exchange(form.shot.*input, input == &ShotState::h ? 200000 : 0);
+        run(); // without air, and without a launch
+        form.shot.*input = before;
+        EXPECT_EQ(form.Runs.size(), 2U);
+    }
+    form.optLaunch.select();
+    form.shot.RPM = -100; // only a file brings that
+    run();
+    EXPECT_EQ(messages.texts.size(), 3U);
+    EXPECT_EQ(form.txtRun.text(), "2");
+    EXPECT_EQ(form.Runs.at(2).Path.size(), 1U) << "it stays as far as it came";
+    EXPECT_EQ(rows().at(1).substr(0, 24), "  I-1/2   LM   .00     0");
+}
+
+struct Studies : RunDriver {};
+
+/// Carry of the default launch at another angle, by a run of its own.
+float carryAt(const char* angle) {
+    ScriptedForm user;
+    user.form.optLaunch.select();
+    user.enter(user.form.txtLaunchAngle, angle);
+    user.run();
+    return user.form.Runs.back().CarryDist;
+}
+
+TEST_F(Studies, FindWhatCarriesFurthest) {
+    std::vector<bool> shows;
+    main.frmProgress.onShow = [&](bool now) { shows.push_back(now); };
+    form.mnuStyLaunch.Click();
+    EXPECT_EQ(form.txtLaunchAngle.text(), "14");
+    EXPECT_TRUE(form.optLaunch.selected());
+    EXPECT_EQ(form.Runs.at(1).CarryDist, carryAt("14"));
+    EXPECT_GT(carryAt("14"), carryAt("15"));
+    EXPECT_GT(carryAt("14"), carryAt("13"));
+    EXPECT_EQ(events.yields, 13 * 10); // 2 to 14 degrees, ten ticks each
+    EXPECT_EQ(shows, (std::vector<bool>{true, false}));
+    form.mnuStySpin.Click(); // goes on from the first
+    EXPECT_EQ(std::fmod(form.Runs.at(2).RPM, 100.0F), 0);
+    EXPECT_GT(form.Runs[2].CarryDist, form.Runs[1].CarryDist);
+    EXPECT_EQ(rows().size(), 2U);
+    form.shot.LaunchSpeed = 0;
+    form.mnuStyLaunch.Click(); // equal carries don't stop the climb
+    EXPECT_EQ(form.txtLaunchAngle.text(), "54");
+}
+
+TEST_F(Studies, EndWithoutARunWhereTheyCannotFinish) {
+    form.shot.h = 200000;
+    form.mnuStySpin.Click();
+    EXPECT_EQ(messages.texts.size(), 1U) << "without air there is one message";
+    form.shot.h = 0;
+    events.meanwhile = [&] {
+        if (events.yields == 35)
+            main.pause.stop();
+    };
+    form.mnuStyLaunch.Click();
+    EXPECT_TRUE(rows().empty());
+    EXPECT_EQ(form.txtLaunchAngle.text(), std::to_string(std::lround(form.shot.LaunchAngle)));
+    EXPECT_TRUE(form.Command1.enabled());
+    run(24);
+    const std::string before = form.txtLaunchAngle.text();
+    messages.answers = {Answer::Yes};
+    files.cancel("/folder");
+    form.mnuStyLaunch.Click();
+    EXPECT_NE(form.txtLaunchAngle.text(), before) << "found, but the buffer is full";
+    EXPECT_EQ(rows().size(), 24U);
+}
+
+TEST_F(Studies, HoldBackWhatWouldDisturbThemAndLetGo) {
+    form.focus.give(form.txtHeadSpeed);
+    events.meanwhile = [&] {
+        for (const Control* held : std::initializer_list<const Control*>{
+                 &form.Command1, &form.Command2, &form.mnuOpen, &form.mnuDefault, &form.mnuReset,
+                 &form.mnuStySpin, &form.mnuPrint, &form.optManual, &form.txtLaunchAngle,
+                 &form.txtWind, &form.cmbClubNo})
+            ASSERT_FALSE(held->enabled()) << held->name();
+        ASSERT_TRUE(form.mnuExit.enabled() && form.txtResult.enabled());
+    };
+    form.mnuStyLaunch.Click();
+    EXPECT_GT(events.yields, 0);
+    EXPECT_TRUE(form.Command1.enabled() && form.txtWind.enabled() && form.mnuDefault.enabled());
+    EXPECT_FALSE(form.txtHeadSpeed.enabled()); // the mode Launch has it so
+}
+
+TEST(FillInBatch, ShootsAWholeSet) {
+    const struct {
+        bool iron, fillIn;
+        const char* increment;
+        const char* shots;      ///< club and head speed of each
+        const char* speedField; ///< afterwards
+    } table[] = {
+        {true, false, "1", "1:100 2:99 3:98 4:97 5:96 6:95 7:94 8:93 9:92 10:91 11:90 12:89 ",
+         "88"},
+        {true, true, "3", "1:100 2:99 3:98 4:97 5:96 6:95 7:94 8:93 9:92 10:91 11:90 12:89 ", "89"},
+        {false, false, "3", "1:100 2:97 3:94 4:91 5:88 7:85 9:82 ", "79"},
+        {false, true, "1", "1:100 2:99 3:98 4:97 5:96 7:94 9:92 ", "92"}};
+    for (const auto& row : table) {
+        ScriptedForm user;
+        user.run();
+        user.form.optAuto.select();
+        (row.iron ? user.form.optIron : user.form.optWood).select();
+        user.form.chkBatch.setChecked(row.fillIn);
+        user.enter(user.form.txtSpeedIncrement, row.increment);
+        user.run();
+        std::string shots;
+        for (std::size_t i = 1; i < user.form.Runs.size(); ++i) {
+            const RunRecord& run = user.form.Runs[i];
+            const std::string club = std::to_string(run.ClubNo);
+            shots += club + ":" + std::to_string(std::lround(run.HeadSpeed)) + " ";
+            const std::string cell = (row.iron ? "I-" : "W-") + club + "/" + std::to_string(i);
+            EXPECT_NE(user.rows().at(i - 1).find(cell + " "), std::string::npos) << cell;
+            EXPECT_EQ(run.Mode, 3);
+        }
+        EXPECT_EQ(shots, row.shots);
+        EXPECT_EQ(user.form.txtHeadSpeed.text(), row.speedField);
+        EXPECT_EQ(user.form.focus.active(), &user.form.Command1);
+    }
+}
+
+TEST(FillInBatch, FliesWhatTheClubsFlySingly) {
+    ScriptedForm batch;
+    batch.form.optAuto.select();
+    batch.form.chkBatch.setChecked(true);
+    batch.run();
+    ScriptedForm single;
+    single.form.optStandard.select();
+    for (std::size_t club = 0; club < single.form.cmbClubNo.items().size(); ++club) {
+        single.form.cmbClubNo.select(static_cast<int>(club));
+        single.run();
+        EXPECT_EQ(single.form.Runs.at(club + 1).Path, batch.form.Runs.at(club + 1).Path);
+    }
+}
+
+TEST(FillInBatch, WritesARowBehindItsPauseAndStopsAfterTheShotInHand) {
+    ScriptedForm user;
+    user.form.optAuto.select();
+    std::vector<std::size_t> rows;
+    user.events.meanwhile = [&] {
+        if (user.events.yields % 10 == 1)
+            rows.push_back(user.rows().size());
+        if (user.events.yields == 25) // in the third club's pause
+            user.main.pause.stop();
+    };
+    user.run();
+    EXPECT_EQ(rows, (std::vector<std::size_t>{0, 1, 2}));
+    EXPECT_EQ(user.rows().size(), 3U);
+    EXPECT_TRUE(user.form.Command1.enabled());
+}
+
+} // namespace
+} // namespace parabolt::support

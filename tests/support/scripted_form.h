@@ -1,0 +1,82 @@
+#pragma once
+
+#include "shell/frm_main.h"
+#include "tests/support/scripted_services.h"
+
+#include <sstream>
+
+namespace parabolt::support {
+
+/// Time that passes at once: each yield is a tick of the form's timer, and calls `meanwhile`.
+struct ScriptedEventLoop : EventLoop {
+    Timer* timer = nullptr;
+    int yields = 0;
+    std::function<void()> meanwhile = [] {};
+    void yield() override {
+        ++yields;
+        meanwhile();
+        if (timer->enabled())
+            timer->Tick();
+    }
+};
+
+/// The main form with all its handlers, loaded as at start-up, on scripted services and without
+/// widgets.
+struct ScriptedForm {
+    ScriptedForm() {
+        events.timer = &form.Timer1;
+        main.showClubEditor = [this] { shown.emplace_back("club editor"); };
+        main.showPrintView = [this] { shown.emplace_back("print view"); };
+        main.showAbout = [this] { shown.emplace_back("about"); };
+        main.endProgram = [this] { shown.emplace_back("end"); };
+        main.Form_Load();
+        main.plot.Form_Resize({15000, 12000, 300}, false);
+    }
+
+    /// Types a text into a field, as the user does: the focus comes, and stays.
+    void type(TextBox& field, std::string_view text) {
+        form.focus.give(field);
+        field.setText(text);
+    }
+    /// Types into a field and leaves it for the plot.
+    void enter(TextBox& field, std::string_view text) {
+        type(field, text);
+        form.focus.give(form.Picture1);
+    }
+    /// Presses a button as a click does: the focus first.
+    void press(Button& button) {
+        if (form.focus.give(button))
+            button.Click();
+    }
+    void run(int times = 1) {
+        while (times-- > 0)
+            press(form.Command1);
+    }
+    /// Lines of the result table behind the headings.
+    Texts rows() const {
+        std::istringstream table(form.txtResult.text());
+        Texts lines;
+        for (std::string line; std::getline(table, line);)
+            lines.push_back(line);
+        return {lines.begin() + 3, lines.end()};
+    }
+    /// The colours of the curves in the plot, in the order of drawing.
+    std::vector<Rgb> curves() const {
+        std::vector<Rgb> colours;
+        for (const Drawing& drawing : form.Picture2.drawings())
+            if (const auto* curve = std::get_if<DrawnCurve>(&drawing))
+                colours.push_back(curve->colour);
+        return colours;
+    }
+
+    ScriptedMessageBoxes messages;
+    ScriptedFileDialog files;
+    MemoryPreferences preferences;
+    RecordingDesktop desktop;
+    ScriptedEventLoop events;
+    frmMain main{{messages, files, preferences, desktop, events, "/program"}};
+    MainForm& form = main.form;
+    Texts shown; ///< windows and ends that were asked for
+};
+
+} // namespace parabolt::support

@@ -1,0 +1,90 @@
+#pragma once
+
+#include "controls/services.h"
+#include "files/preferences.h"
+
+#include <deque>
+#include <gtest/gtest.h>
+#include <map>
+#include <tuple>
+#include <vector>
+
+namespace parabolt::support {
+
+using Texts = std::vector<std::string>;
+using Answer = MessageBoxes::Answer;
+
+/// Message boxes that record their texts and answer questions from a script. A question that the
+/// script doesn't expect fails the test.
+struct ScriptedMessageBoxes : MessageBoxes {
+    Texts texts; ///< of messages and questions, in their order
+    std::deque<Answer> answers;
+
+    void show(std::string_view message) override { texts.emplace_back(message); }
+    bool ask(std::string_view question) override { return askOrCancel(question) == Answer::Yes; }
+    Answer askOrCancel(std::string_view question) override {
+        texts.emplace_back(question);
+        EXPECT_FALSE(answers.empty()) << "nobody answers: " << question;
+        const Answer answer = answers.empty() ? Answer::No : answers.front();
+        if (!answers.empty())
+            answers.pop_front();
+        return answer;
+    }
+};
+
+/// A file dialog that records how it was shown and ends as a test says beforehand.
+struct ScriptedFileDialog : FileDialog {
+    struct Show {
+        bool save = false;
+        std::string initialFolder, title, filter;
+        friend bool operator==(const Show&, const Show&) = default;
+    };
+    std::vector<Show> shows;
+
+    void showOpen() override { shows.push_back({false, initialFolder, title, filter}); }
+    void showSave() override { shows.push_back({true, initialFolder, title, filter}); }
+
+    /// The user picks a file of this full path.
+    void choose(const std::string& path) {
+        fileName = path;
+        finalFolder = path.substr(0, path.rfind('/'));
+        pickedName = path.substr(path.rfind('/') + 1);
+    }
+    /// The user cancels while the dialog shows a folder.
+    void cancel(const std::string& folder) {
+        fileName.clear();
+        finalFolder = folder;
+        pickedName.clear();
+    }
+};
+
+/// A desktop that only records.
+struct RecordingDesktop : Desktop {
+    Texts opened;
+    void openHelp() override { opened.emplace_back("help"); }
+    void openWebPage(std::string_view address) override { opened.emplace_back(address); }
+    void openAddress(std::string_view address) override { opened.emplace_back(address); }
+};
+
+/// Preferences in memory, with a store that can be told to refuse.
+struct MemoryPreferences : PreferencesStore {
+    std::map<std::tuple<std::string, std::string, std::string>, std::string> values;
+    std::optional<ReadResult> readRefusal;   ///< what each read gives instead of what is stored
+    std::optional<WriteResult> writeRefusal; ///< how each write ends instead of storing
+
+    ReadResult read(const std::string& application, const std::string& section,
+                    const std::string& key) override {
+        const auto found = values.find({application, section, key});
+        return readRefusal.value_or(found == values.end() ? ReadResult(Absent{}) : found->second);
+    }
+    WriteResult write(const std::string& application, const std::string& section,
+                      const std::string& key, const std::string& text) override {
+        if (!writeRefusal)
+            values[{application, section, key}] = text;
+        return writeRefusal.value_or(Written{});
+    }
+    /// The folder in which the last dialog ended; empty before the first.
+    std::string lastPath() { return values[{"Parabolt", "startup", "LastPath"}]; }
+};
+
+} // namespace parabolt::support
