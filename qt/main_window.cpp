@@ -55,10 +55,7 @@ protected:
         if (event->key() == Qt::Key_Escape)
             pause_.stop();
     }
-    void closeEvent(QCloseEvent* event) override {
-        event->ignore();
-        pause_.stop();
-    }
+    void closeEvent(QCloseEvent* /*event*/) override { pause_.stop(); }
 
 private:
     Pause& pause_;

@@ -32,7 +32,7 @@ Program::Program()
     logic_.showAbout = [this] { showAbout(); };
     logic_.endProgram = [this] {
         logic_.pause.stop();
-        QApplication::quit();
+        QApplication::exit(); // asks no window, as quit() would
     };
 }
 

@@ -1,38 +1,28 @@
-#include "clubs/frm_club_params.h"
-#include "qt/club_editor_window.h"
+// A random user of the whole program: keys, clicks, texts, dialogs, files good and broken. Ends
+// with a message at the first inconsistency; the sanitizers, where they are built in, see the rest.
+// Call: parabolt_random_user [SEED [EVENTS]]     the same seed makes the same user
 #include "qt/form_binding.h"
-#include "qt/print_view_window.h"
 #include "qt/program.h"
-#include "tests/support/scripted_form.h"
-#include "tests/support/temporary_folder.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
-#include <dlfcn.h>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace parabolt {
 namespace {
 
-/// A number from the environment, so that one test serves for seconds in CI and for hours by hand.
-long setting(const char* name, long usual) {
-    const char* text = std::getenv(name);
-    return text == nullptr ? usual : std::atol(text);
-}
-
 /// A user without sense but with a seed: keys, clicks, texts and files, in whatever window is in
 /// front. Acts once each time that the event loop comes round, dialogs' own loops included.
-class Monkey : public QObject {
+class RandomUser : public QObject {
 public:
-    Monkey(const MainForm& form, std::uint32_t seed, long events, QString folder)
+    RandomUser(const MainForm& form, std::uint32_t seed, long events, QString folder)
         : form_(form),
           dice_(seed),
           left_(events),
@@ -67,7 +57,7 @@ private:
 
     void act() {
         if (--left_ <= 0)
-            return QApplication::quit();
+            return QApplication::exit();
         QTimer::singleShot(0, this, [this] { act(); });
         QWidget* window = front();
         if (window == nullptr)
@@ -119,11 +109,17 @@ private:
     /// between a curve and its row.
     void check() const {
         const auto sets = static_cast<int>(form_.Runs.size()) - 1;
-        ASSERT_EQ(sets, runNumber(form_));
-        ASSERT_LE(sets, 24);
-        if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr) {
-            ASSERT_EQ(form_.txtResult.lineCount(), form_.Runs.size() + 3);
-        }
+        require(sets == runNumber(form_), "the counter shows another number of data sets");
+        require(sets <= 24, "there are more than 24 data sets");
+        if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr)
+            require(form_.txtResult.lineCount() == form_.Runs.size() + 3,
+                    "the table has another number of rows");
+    }
+    void require(bool holds, const char* fault) const {
+        if (holds)
+            return;
+        std::fprintf(stderr, "With %ld events to go, %s.\n", left_, fault);
+        std::exit(EXIT_FAILURE);
     }
 
     const MainForm& form_;
@@ -132,64 +128,35 @@ private:
     QString folder_;
 };
 
-TEST(Endurance, ARandomUserBreaksNothing) {
-    const auto seed = static_cast<std::uint32_t>(setting("PARABOLT_MONKEY_SEED", 1));
-    const long events = setting("PARABOLT_MONKEY_EVENTS", 1500);
-    std::printf("PARABOLT_MONKEY_SEED=%u PARABOLT_MONKEY_EVENTS=%ld\n", seed, events);
-    const support::TemporaryFolder folder;
-    support::putContent(folder.path("good.opt"), std::string(66, '\0'));
-    support::putContent(folder.path("short.opt"), "short");
-    support::putContent(folder.path("noise.clb"), std::string(900, '\x7F'));
+void putFile(const QString& name, const QByteArray& content) {
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("Cannot write %s.", qPrintable(name));
+}
+
+} // namespace
+} // namespace parabolt
+
+int main(int argc, char** argv) {
+    using namespace parabolt;
+    const QTemporaryDir folder;
+    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8()); // the preferences of a user of its own
+    qputenv("CUPS_SERVER", "/nonexistent");             // it must not reach a printer
+    QApplication application(argc, argv);
+    const auto seed = static_cast<std::uint32_t>(argc > 1 ? std::atol(argv[1]) : 1);
+    const long events = argc > 2 ? std::atol(argv[2]) : 1500;
+    std::printf("parabolt_random_user %u %ld\n", seed, events);
+    std::fflush(stdout);
+    putFile(folder.filePath("good.opt"), QByteArray(66, '\0'));
+    putFile(folder.filePath("short.opt"), "short");
+    putFile(folder.filePath("noise.clb"), QByteArray(900, '\x7F'));
     QTextBrowser nowhere; // takes the addresses that would leave the program
     for (const char* scheme : {"http", "https", "callto"})
         QDesktopServices::setUrlHandler(scheme, &nowhere, "setSource");
     Program program;
     program.showMainForm();
-    Monkey(program.mainForm(), seed, events, toQt(folder.path(""))).run();
+    RandomUser(program.mainForm(), seed, events, folder.path()).run();
     for (const char* scheme : {"http", "https", "callto"})
         QDesktopServices::unsetUrlHandler(scheme);
+    return EXIT_SUCCESS;
 }
-
-/// Resident memory of the process in MB.
-double residentMegabytes() {
-    std::ifstream status("/proc/self/statm");
-    double size = 0;
-    double resident = 0;
-    status >> size >> resident;
-    return resident * 4096 / 1e6;
-}
-
-TEST(Endurance, LongUseTakesNoMoreMemory) {
-    support::ScriptedForm user;
-    MainWindow window(user.main);
-    window.show();
-    QtPrinter printer;
-    const auto round = [&] {
-        user.run(10);
-        user.form.mnuStyLaunch.Click();
-        user.messages.answers = {MessageBoxes::Answer::Yes};
-        user.press(user.form.Command2);
-        user.messages.texts.clear();
-        frmClubParams editor(user.form.clubs, {user.messages, user.files, user.preferences,
-                                               user.desktop, "/", [] {}});
-        ClubEditorWindow(editor).show();
-        PrintView view(user.form.printPlot(), user.form.txtResult, printer, user.messages);
-        PrintViewWindow(view).show();
-        QApplication::processEvents();
-    };
-    const long rounds = setting("PARABOLT_ROUNDS", 20);
-    for (long i = 0; i < rounds / 4 + 5; ++i)
-        round();
-    const double before = residentMegabytes();
-    for (long i = 0; i < rounds; ++i)
-        round();
-    const double growth = residentMegabytes() - before;
-    std::printf("%ld rounds of ten runs, a study and two windows: %.1f MB more\n", rounds, growth);
-    // The address sanitizer keeps freed memory for a while, and counts leaks itself.
-    if (dlsym(RTLD_DEFAULT, "__asan_init") == nullptr) {
-        EXPECT_LT(growth, 4);
-    }
-}
-
-} // namespace
-} // namespace parabolt
