@@ -6,6 +6,24 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <cstdlib>
+#include <new>
+
+namespace {
+std::size_t allocations = 0; ///< since the start of the process
+}
+
+void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size > 0 ? size : 1))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
 
 namespace {
 
@@ -49,6 +67,7 @@ void carry(benchmark::State& state) {
 void flight(benchmark::State& state) {
     ShotState shot = driver();
     std::size_t points = 0;
+    const std::size_t before = allocations;
     for (auto _ : state) {
         RunRecord record;
         benchmark::DoNotOptimize(shot);
@@ -56,6 +75,8 @@ void flight(benchmark::State& state) {
         benchmark::DoNotOptimize(record.Path.data());
         points = record.Path.size();
     }
+    state.counters["allocations"] =
+        static_cast<double>(allocations - before) / static_cast<double>(state.iterations());
     state.counters["steps"] = static_cast<double>(points - 1);
 }
 

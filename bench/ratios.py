@@ -49,13 +49,15 @@ def rows(report, names):
 
 
 engine, form = (json.loads(Path(path).read_text(encoding="utf-8")) for path in sys.argv[1:3])
-steps = next(run["steps"] for run in engine["benchmarks"] if "steps" in run)
+flight = next(run for run in engine["benchmarks"] if "steps" in run)
+steps = flight["steps"]
 least_ns = min(run["cpu_time"] for run in engine["benchmarks"]
                if run["run_name"] == "flight" and run["run_type"] == "iteration")
 head = ["| | us | each flight against the bare loop | target |", "|---|---|---|---|"]
 context = form["context"]
 lines = [
-    f"One flight of {steps:.0f} steps: {least_ns / steps:.1f} ns a step, {1e9 / least_ns:.0f} flights a second.",
+    f"One flight of {steps:.0f} steps: {least_ns / steps:.1f} ns a step, {1e9 / least_ns:.0f} flights a second, "
+    f"{flight['allocations']:.3g} allocations a flight.",
     "", *head, *rows(engine, ENGINE),
     "", "In the form, on a virtual display:",
     "", *head, *rows(form, FORM),

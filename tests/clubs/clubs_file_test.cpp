@@ -9,15 +9,6 @@
 namespace parabolt {
 namespace {
 
-TEST(ClubTables, OnlySomeClubsCanBePlayed) {
-    const ClubTables tables = InitClubTables();
-    EXPECT_EQ(playableClubs(false).size(), 7U);
-    EXPECT_EQ(playableClub(tables, false, 7), &tables.Woods[7]);
-    EXPECT_EQ(playableClub(tables, true, 13), nullptr);
-    for (const std::int16_t number : std::initializer_list<std::int16_t>{-1, 0, 6, 10, 32767})
-        EXPECT_EQ(playableClub(tables, false, number), nullptr) << number;
-}
-
 Bytes defaultFile() {
     return encodeClubs(InitClubTables()).value();
 }

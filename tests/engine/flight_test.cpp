@@ -2,45 +2,14 @@
 
 #include <bit>
 #include <cmath>
-#include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iomanip>
 #include <limits>
-#include <new>
 #include <sstream>
-
-namespace {
-int allocations = 0; ///< since the start of the process
-}
-
-// Counts for this whole program; the sanitizers see the memory all the same.
-void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size > 0 ? size : 1))
-        return memory;
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace parabolt::support {
 namespace {
-
-TEST(Flight, AllocatesItsPathAndNothingElse) {
-    ShotState shot = workedShot();
-    ASSERT_FALSE(prepare(shot));
-    RunRecord record;
-    const int before = allocations;
-    ASSERT_FALSE(SimulateFlight(shot, {}, record));
-    EXPECT_EQ(allocations - before, 1);
-    EXPECT_GT(SimulateCarry(shot), 0);
-    EXPECT_EQ(allocations - before, 1);
-}
 
 ShotState with(ShotState shot, double wind, float liftExponent) {
     shot.WindSpeed = wind;

@@ -1,5 +1,6 @@
 #include "qt/club_editor_window.h"
 #include "tests/support/scripted_services.h"
+#include "tests/support/temporary_folder.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -8,12 +9,15 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
+#include <sstream>
 
 namespace parabolt::support {
 namespace {
 
-struct ClubEditorShown : testing::Test {
-    ClubEditorShown() {
+/// The editor in its window, with real keys.
+struct ClubEditorTest : testing::Test {
+    ClubEditorTest() {
+        editor.onUnload = [this] { closed = editor.queryUnload(); };
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -22,21 +26,32 @@ struct ClubEditorShown : testing::Test {
     Widget& part(const char* name) {
         return *window.findChild<Widget*>(name);
     }
-    /// Sends keys to whatever has the focus, and returns what has it then.
-    QString key(Qt::Key code) {
-        QTest::keyClick(QApplication::focusWidget(), code);
-        return QApplication::focusWidget()->objectName();
+    /// Types into whatever has the focus; these characters stand for keys: < > ^ v arrows, E Enter,
+    /// X Escape, B backspace, F the key F2, T Tab.
+    static void type(std::string_view text) {
+        const std::string_view names = "<>^vEXBFT";
+        const Qt::Key keys[] = {Qt::Key_Left,      Qt::Key_Right,  Qt::Key_Up,
+                                Qt::Key_Down,      Qt::Key_Return, Qt::Key_Escape,
+                                Qt::Key_Backspace, Qt::Key_F2,     Qt::Key_Tab};
+        for (const char c : text)
+            if (const std::size_t name = names.find(c); name < names.size())
+                QTest::keyClick(QApplication::focusWidget(), keys[name]);
+            else
+                QTest::keyClick(QApplication::focusWidget(), c);
     }
-    void type(const char* text) {
-        for (; *text != '\0'; ++text)
-            QTest::keyClick(QApplication::focusWidget(), *text);
+    static QRect cell(QTableWidget& table, int row, int col) {
+        return table.visualItemRect(table.item(row, col));
     }
-    void clickCell(QTableWidget& table, int row, int col) {
-        QTest::mouseClick(table.viewport(), Qt::LeftButton, {},
-                          table.visualItemRect(table.item(row, col)).center());
+    static std::string focused() { return fromQt(QApplication::focusWidget()->objectName()); }
+    static std::string place(const Grid& grid) {
+        return std::to_string(grid.row()) + "," + std::to_string(grid.col());
     }
-    void click(const char* button) {
-        QTest::mouseClick(&part<QPushButton>(button), Qt::LeftButton);
+    /// Opens or saves, and returns the messages.
+    Texts use(MenuItem& menu, const std::string& fileName) {
+        messages.texts.clear();
+        dialog.choose(folder.path(fileName));
+        menu.Click();
+        return messages.texts;
     }
 
     ClubTables clubs = InitClubTables();
@@ -44,53 +59,234 @@ struct ClubEditorShown : testing::Test {
     ScriptedFileDialog dialog;
     MemoryPreferences preferences;
     RecordingDesktop desktop;
-    frmClubParams frm{clubs, {messages, dialog, preferences, desktop, "/", [] {}}};
+    std::string mainCaption;
+    frmClubParams frm{clubs, {messages, dialog, preferences, desktop, "/app", [this] {
+                                  mainCaption = clubs.ClubsDescription;
+                              }}};
+    ClubForm& form = frm.form;
+    ClubEditor& editor = frm.editor;
+    Grid& irons = form.GridIrons;
+    Grid& woods = form.GridWoods;
+    TemporaryFolder folder;
+    bool closed = false;
     ClubEditorWindow window{frm};
-    QTableWidget& irons = part<QTableWidget>("GridIrons");
-    QTableWidget& woods = part<QTableWidget>("GridWoods");
-    QLineEdit& ironEdit = part<QLineEdit>("txtIronEdit");
 };
 
-TEST_F(ClubEditorShown, ASessionOfTyping) {
+TEST_F(ClubEditorTest, KeysInBothGrids) {
+    const struct {
+        const char* what;
+        int row, col; // where it starts; the cell holds "18" at the start
+        const char* keys;
+        const char* cell;       // what the cell holds in the end
+        const char* box;        // what the open edit box holds; "-" if it is hidden
+        const char* ironsPlace; // the current cell in the end
+        const char* woodsPlace;
+    } table[] = {
+        {"the cell follows", 2, 2, "27.5", "27.5", "27.5", "2,2", "2,2"},
+        {"no number shows 0", 2, 2, "ab", "0", "ab", "2,2", "2,2"},
+        {"no number becomes 0", 2, 2, "abE", "0", "-", "2,3", "3,2"},
+        {"the shortest text", 2, 2, "007.50xE", "7.5", "-", "2,3", "3,2"},
+        {"too large for any number", 2, 2, "1e999E", "1.7976931348623157E+308", "-", "2,3", "3,2"},
+        {"a lone Enter", 2, 2, "E", "18", "-", "2,3", "3,2"},
+        {"backspace inside", 2, 2, "F5<B", "15", "15", "2,2", "2,2"},
+        {"inside, the cell is wrong till the end", 2, 2, "F<9", "189", "198", "2,2", "2,2"},
+        {"inside, then the arrow up", 2, 2, "F<9^", "198", "-", "1,2", "1,2"},
+        {"the arrow down", 2, 2, "F9v", "189", "-", "3,2", "3,2"},
+        {"Escape takes back", 2, 2, "99X", "18", "18", "2,2", "2,2"},
+        {"the first row has none above", 1, 2, "F5^", "185", "185", "1,2", "1,2"},
+        {"the last row has none below", 6, 2, "F5v", "185", "185", "6,2", "6,2"},
+        {"left out of a row", 3, 1, "F<<<", "18", "-", "2,14", "2,8"},
+        {"left of the first cell", 1, 1, "F<<<", "18", "18", "1,1", "1,1"},
+        {"the end of a row", 2, 14, "5E", "5", "-", "3,1", ""},
+        {"the end of a row", 2, 8, "5E", "5", "-", "2,9", "3,8"},
+        {"the end of a row, by arrow", 2, 8, "5>", "5", "-", "2,9", "3,1"},
+        {"the last cell", 6, 14, "5E", "5", "-", "6,14", ""},
+        {"the last cell", 6, 8, "5E", "5", "-", "6,9", "6,8"},
+        {"the last cell, by arrow", 6, 14, "5>", "5", "5", "6,14", ""},
+        {"the last cell, by arrow", 6, 8, "5>", "5", "5", "", "6,8"},
+    };
+    for (const auto& row : table)
+        for (Grid* grid : {&irons, &woods}) {
+            const std::string end = grid == &irons ? row.ironsPlace : row.woodsPlace;
+            TextBox& box = grid == &irons ? form.txtIronEdit : form.txtWoodEdit;
+            if (end.empty()) // not in this grid
+                continue;
+            SCOPED_TRACE(std::string(row.what) + " in " + grid->name());
+            form.focus.give(form.txtComment);
+            grid->moveTo(4, 4);
+            grid->setText(row.row, row.col, "18");
+            grid->moveTo(row.row, row.col);
+            form.focus.give(*grid);
+            type(row.keys);
+            EXPECT_EQ(grid->text(row.row, row.col), row.cell);
+            EXPECT_EQ(box.visible() ? box.text() : "-", row.box);
+            EXPECT_EQ(place(*grid), end);
+            EXPECT_EQ(focused(), box.visible() ? box.name() : grid->name());
+            EXPECT_EQ(grid->cellBackColor(grid->row(), grid->col()).has_value(), !box.visible());
+        }
+}
+
+TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     EXPECT_LE(window.minimumSizeHint().width(), 1024);
-    for (const Control* control : frm.form.controls.all())
+    for (const Control* control : form.controls.all())
         EXPECT_TRUE(window.findChild<QObject*>(toQt(control->name()))) << control->name();
-    clickCell(irons, 1, 4);
+    auto& table = part<QTableWidget>("GridIrons");
+    auto& edit = part<QLineEdit>("txtIronEdit");
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell(table, 1, 4).center());
     type("28");
-    EXPECT_TRUE(ironEdit.hasFocus());
-    EXPECT_EQ(ironEdit.geometry(), irons.visualItemRect(irons.item(1, 4)));
-    EXPECT_EQ(key(Qt::Key_Return), "GridIrons");
-    EXPECT_EQ(irons.currentColumn(), 5);
-    EXPECT_EQ(irons.item(1, 5)->background().color(), QColor(0xC0, 0xFF, 0xC0));
-    key(Qt::Key_F2);
-    key(Qt::Key_Left);
-    type("4"); // 31 becomes 341
-    key(Qt::Key_Up);
-    EXPECT_EQ(irons.item(1, 5)->text(), "341");
-    key(Qt::Key_Down);
-    type("7");
-    key(Qt::Key_Escape);
-    EXPECT_EQ(ironEdit.text(), "341");
-    for (int i = 0; i < 4; ++i)
-        key(Qt::Key_Backspace);
+    EXPECT_EQ(edit.geometry(), cell(table, 1, 4));
+    type("E");
+    EXPECT_EQ(table.item(1, 5)->background().color(), QColor(0xC0, 0xFF, 0xC0));
+    type("FBBB");
     QApplication::clipboard()->setText("32");
-    QTest::keyClick(&ironEdit, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(key(Qt::Key_Tab), "txtWoodsDes");
-    clickCell(woods, 0, 0);
-    EXPECT_TRUE(woods.hasFocus() && ironEdit.isHidden());
+    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    type("<<9"); // 32 becomes 932, and the cell is right once it is left
+    EXPECT_EQ(table.item(1, 5)->text(), "329");
+    auto& woods2 = part<QTableWidget>("GridWoods");
+    QTest::mouseClick(woods2.viewport(), Qt::LeftButton, {}, cell(woods2, 0, 0).center());
+    EXPECT_TRUE(woods2.hasFocus() && edit.isHidden());
+    irons.moveTo(5, 5);
+    EXPECT_EQ(irons.text(2, 6), "932");
+    irons.setText(2, 6, "32");
     part<QPlainTextEdit>("txtComment").setFocus();
-    type("dry");
-    key(Qt::Key_Return);
-    type("fast");
-    click("Command3");
-    EXPECT_TRUE(messages.texts.empty());
+    type("dryEfastT");
+    QTest::mouseClick(&part<QPushButton>("Command3"), Qt::LeftButton);
+    EXPECT_EQ(messages.texts, Texts());
     EXPECT_EQ(clubs.Irons[5].LoftAngle, 28);
     EXPECT_EQ(clubs.Irons[6].LoftAngle, 32);
     EXPECT_EQ(clubs.Comment, "dry\r\nfast");
-    EXPECT_EQ(key(Qt::Key_F1), "txtDescription");
+    QTest::keyClick(&window, Qt::Key_F1);
     EXPECT_EQ(desktop.opened, Texts{"help"});
     window.close(); // nothing to ask
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(ClubEditorTest, AppliesWhatIsWithinItsBounds) {
+    const struct {
+        Grid& grid;
+        int row;
+        const char* taken; // texts between blanks
+        const char* refused;
+        const char* message;
+    } table[] = {
+        {irons, 1, "180 320", "179.9 320.1 abc inf",
+         "Then head weight must between 180 and 320 grams."},
+        {woods, 2, "0 65 x", "-0.1 65.5", "Then loft angle must between 0 and 65 degrees."},
+        {irons, 3, "0.7 0.86", "0.69 0.8601 ?", "Then COR must between 0.7 and 0.86 degrees."},
+        {woods, 3, "0.7 0.87 0.9", "0.91", "Then COR must between 0.7 and 0.9 degrees."},
+        {woods, 4, "-5 20", "-6 21 1e300", "Then Attack angle must between -5 and 20 degrees."},
+        {irons, 5, "30 250", "29 251", "Then Head Speed must between 30 and 250 degrees."},
+        {irons, 6, "-10 10", "-11 11", "Then bend angle must between -10 and 10 degrees."},
+    };
+    for (const auto& row : table) {
+        const std::string before = row.grid.text(row.row, 3);
+        for (const bool refuses : {false, true}) {
+            std::istringstream texts(refuses ? row.refused : row.taken);
+            for (std::string text; texts >> text;) {
+                SCOPED_TRACE(std::string(row.message) + text);
+                messages.texts.clear();
+                row.grid.setText(row.row, 3, text);
+                form.Command3.Click();
+                EXPECT_EQ(messages.texts, refuses ? Texts{row.message} : Texts());
+                EXPECT_EQ(editor.ClubGridsChanged(), refuses);
+                EXPECT_TRUE(!refuses || (place(row.grid) == std::to_string(row.row) + ",3" &&
+                                         form.focus.active() == &row.grid));
+            }
+        }
+        row.grid.setText(row.row, 3, before);
+    }
+    // The first bad cell is told, and nothing applied.
+    irons.setText(1, 1, "200");
+    irons.setText(1, 9, "0");
+    irons.setText(6, 8, "99");
+    form.Command3.Click();
+    EXPECT_EQ(messages.texts.back(), table[6].message);
+    EXPECT_EQ(clubs.Irons[1].HeadWeight, 225);
+}
+
+TEST_F(ClubEditorTest, AsksBeforeEditsAreLost) {
+    const struct {
+        std::function<void()> edit;
+        std::deque<Answer> answers;
+        bool closes;
+        std::size_t questions;
+    } table[] = {
+        {[] {}, {}, true, 0},
+        {[this] { woods.setText(3, 1, "0.830"); }, {}, true, 0},
+        {[this] { woods.setText(6, 8, "1"); }, {Answer::No}, true, 1},
+        {[this] { form.txtIronsDes.setText("default Irons Parameter"); }, {Answer::No}, true, 1},
+        {[this] { form.txtComment.setText(" "); }, {Answer::No}, true, 1},
+        {[this] { irons.setText(1, 2, "7"); }, {Answer::Yes}, false, 2},
+        {[this] { irons.setText(1, 2, "307"); }, {Answer::Yes}, true, 1},
+    };
+    clubs.Irons[4].LoftAngle = 23.456789F; // more digits than its cell shows are no change
+    for (const auto& row : table) {
+        showClubs(form, clubs);
+        messages.texts.clear();
+        messages.answers = row.answers;
+        row.edit();
+        form.Command1.Click();
+        EXPECT_EQ(closed, row.closes);
+        EXPECT_EQ(messages.texts.size(), row.questions);
+    }
+    EXPECT_EQ(clubs.Irons[2].HeadWeight, 307);
+    for (const Answer answer : {Answer::No, Answer::Cancel, Answer::Yes}) {
+        irons.setText(1, 1, "300");
+        messages.answers = {answer};
+        form.Command2.Click();
+        EXPECT_EQ(irons.text(1, 1), answer == Answer::Yes ? "225" : "300");
+    }
+}
+
+TEST_F(ClubEditorTest, ASavedSetComesBackIntoTheGridsOnly) {
+    putContent(folder.path("my.CLB"), std::string(800, 'x'));
+    irons.setText(2, 13, "61.5");
+    woods.setText(2, 8, "25");
+    woods.setText(1, 6, "221");
+    woods.setText(4, 7, "-1.5");
+    form.txtDescription.setText("Mine");
+    EXPECT_EQ(use(form.mnuSave, "my.CLB"), Texts());
+    EXPECT_EQ(clubs.Woods[10].LoftAngle, 25); // each cell has its own field
+    EXPECT_EQ(clubs.Woods[7].HeadWeight, 221);
+    EXPECT_EQ(clubs.Woods[9].AttackAngle, -1.5F);
+    EXPECT_EQ(clubs.Irons[13].LoftAngle, 61.5F);
+    EXPECT_EQ(form.caption, "Clubs Parameter - my.CLB");
+    EXPECT_EQ(contentOf(dialog.fileName).substr(701 - 19), std::string(118, 'x'));
+    clubs = InitClubTables();
+    showClubs(form, clubs);
+    EXPECT_EQ(use(form.mnuOpenClub, "my.CLB"), Texts());
+    EXPECT_EQ(irons.text(2, 13) + " " + woods.text(2, 8), "61.5 25");
+    EXPECT_EQ(form.txtDescription.text(), "Mine");
+    EXPECT_EQ(clubs.Woods[10].LoftAngle, 24);
+    EXPECT_EQ(preferences.lastPath(), folder.path());
+}
+
+TEST_F(ClubEditorTest, FilesThatCannotBeUsed) {
+    putContent(folder.path("short.clb"), std::string(600, '\0'));
+    const std::string old(701, 'o');
+    putContent(folder.path("old.clb"), old);
+    std::filesystem::create_directory(folder.path("dir.clb"));
+    const std::string longName = std::string(300, 'n') + ".clb";
+    const std::pair<std::string, std::string> table[] = {
+        {"short.clb", "File mismatch!"},
+        {"new.clb", "File mismatch!"},
+        {"dir.clb", "File mismatch!"},
+        {longName, "File not found!"}};
+    for (const auto& [name, message] : table)
+        EXPECT_EQ(use(form.mnuOpenClub, name), Texts{message}) << name;
+    EXPECT_TRUE(form.caption.starts_with("Clubs Parameter - nn"));
+    EXPECT_EQ(irons.text(1, 1), "225");
+    {
+        const FailingDisk disk(300);
+        EXPECT_EQ(use(form.mnuSave, "old.clb"), Texts());
+    }
+    EXPECT_EQ(contentOf(folder.path("old.clb")), old);
+    form.txtComment.setText(std::string(70000, 'c'));
+    EXPECT_EQ(use(form.mnuSave, "long.clb").size(), 1U);
+    irons.setText(1, 1, "1");
+    EXPECT_EQ(use(form.mnuSave, "bad.clb"),
+              Texts{"Then head weight must between 180 and 320 grams."});
+    EXPECT_EQ(folder.entries(), 4); // "new.clb" came with the attempt to read it
 }
 
 } // namespace

