@@ -92,16 +92,10 @@ TEST(ClubsText, ShowsTextsAndGridsLineByLine) {
             "No. 11\tNo. 12\tNo. 13\tNo. 14\t"},
         {5, "Head Weight\t225\t232\t239\t246\t253\t260\t267\t274\t281\t284\t291\t298\t298\t298\t"},
         {6, "Loft Angle\t0\t18\t21\t24\t27\t31\t35\t39\t43\t47\t52\t56\t60\t64\t"},
-        {9, "Head Speed\t100\t99\t98\t97\t96\t95\t94\t93\t92\t91\t90\t89\t88\t87\t"},
-        {12, ""},
-        {13, "Clubs Woods"},
         {14, "Woods Clubs Description: Default Woods Parameter"},
         {15, "No. 1\tNo. 2\tNo. 3\tNo. 4\tNo. 5\tNo. 7\tNo. 9\tNo. 10\t"},
-        {16, "198\t203\t208\t213\t218\t228\t233\t233\t"},
         {17, "10\t12\t14\t16\t18\t21\t24\t24\t"},
         {18, "0.83\t0.83\t0.83\t0.83\t0.83\t0.8\t0.8\t0.9\t"},
-        {20, "100\t99\t98\t97\t96\t94\t92\t91\t"},
-        {23, "Comment"},
         {25, "fast"}};
     for (const auto& [number, line] : known)
         EXPECT_EQ(lines[number - 1], line + "\r") << number;
