@@ -27,14 +27,18 @@ std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& 
                                    const RunTags& tags, RunRecord& record) {
     constexpr float kFeetPerYard = 3;
     const FaultWatch watch;
-    record.CarryTime = landing.t;
-    record.ImpactSpin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown);
-    record.ImpactSpeed = store32(landing.vx / kMetresPerSecondPerMph);
-    record.GreenRoll = store32(double{greenRoll(landing)} * kFeetPerYard);
-    record.CarryDist = store32(double{landing.x} * kYardsPerMetre);
+    const float roll = store32(double{greenRoll(landing)} * kFeetPerYard);
+    const float spin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown);
+    const float speed = store32(landing.vx / kMetresPerSecondPerMph);
+    const float carry = store32(double{landing.x} * kYardsPerMetre);
     if (const auto fault = watch.fault())
         return fault;
 
+    record.CarryTime = landing.t;
+    record.ImpactSpin = spin;
+    record.ImpactSpeed = speed;
+    record.GreenRoll = roll;
+    record.CarryDist = carry;
     record.LaunchAngle = shot.LaunchAngle;
     record.RPM = shot.RPM;
     record.LaunchSpeed = shot.LaunchSpeed;

@@ -25,9 +25,9 @@ std::optional<std::string_view> drawAll(const PlotCanvases& plot, std::span<cons
     auto& [outer, inner] = plot;
     for (std::size_t i = 1; i < runs.size(); ++i) {
         const RunRecord& run = runs[i];
+        inner.setForeColor(run.CurveColor);
         if (run.Path.empty())
             return "A data set has no path to draw.";
-        inner.setForeColor(run.CurveColor);
         inner.curve(run.Path);
         if (!inner.setDrawWidth(roundTo<int>(inner.geometry().width / 1750).value_or(0)))
             return "The plot is too narrow for the landing mark.";

@@ -47,7 +47,7 @@ void drawFrame(const PlotCanvases& plot, float range, const FrameStyle& style) {
     outer.line({380, foot}, {380, kTopOfAxis});
 
     for (int i = 1; i <= kTicksAcross; ++i) {
-        const double x = i * double{step} + 400;
+        const float x = store32(i * double{step} + 400);
         const bool labelled = i % 2 == 0;
         outer.line({x, foot}, {x, foot + (labelled ? 200 : 100)});
         if (!labelled)
@@ -56,13 +56,14 @@ void drawFrame(const PlotCanvases& plot, float range, const FrameStyle& style) {
         if (style.grid)
             inner.line({stepYards * i, 0}, {stepYards * i, -double{scaleHeight}});
     }
+    const float tickYards = store32(stepYards);
     int i = 1;
     for (float y = store32(height + double{style.heightTicksFrom} - step); y >= kTopOfAxis;
          y = store32(double{y} - step), ++i) {
         outer.line({380, y}, {280, y});
-        outer.print({20, y + 50.0}, axisLabel(i * stepYards));
+        outer.print({20, y + 50.0}, axisLabel(i * double{tickYards}));
         if (style.grid)
-            inner.line({0, i * stepYards}, {range, i * stepYards});
+            inner.line({0, i * double{tickYards}}, {range, i * double{tickYards}});
     }
 }
 

@@ -1,20 +1,26 @@
 #include "printing/matrix_str.h"
 
-#include <limits>
 #include <stdexcept>
 
 namespace parabolt {
 namespace {
 
+/// The column, if 16 bits hold it.
+long checked(long column) {
+    if (column != static_cast<std::int16_t>(column))
+        throw std::overflow_error("column beyond 16 bits");
+    return column;
+}
+
 /// Last column of a value of `length` bytes; 0 for an unknown alignment.
 long lastColumn(std::int32_t align, long column, long length) {
     switch (align) {
     case clsMatrixStr::Left:
-        return length + column - 1;
+        return checked(length + column) - 1;
     case clsMatrixStr::Right:
         return column;
     case clsMatrixStr::Centred:
-        return (length - 1) / 2 + column;
+        return checked((length - 1) / 2 + column);
     default:
         return 0;
     }
@@ -39,9 +45,9 @@ void clsMatrixStr::Field(std::int32_t veumAlign, std::int16_t vintCol, std::int1
         rows_.resize(rowIndex + 1);
     if (vvntValue.empty())
         return;
-    const long last = lastColumn(veumAlign, vintCol, static_cast<long>(vvntValue.size()));
-    if (last > std::numeric_limits<std::int16_t>::max())
-        throw std::overflow_error("column beyond 16 bits");
+    const long length = checked(static_cast<long>(vvntValue.size()));
+    const long last = lastColumn(veumAlign, vintCol, length);
+    checked(last - length); // the column before the first
     if (last < 1)
         return;
     const auto end = static_cast<std::size_t>(last);

@@ -4,14 +4,37 @@
 #include "qt/form_binding.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 
 namespace parabolt {
 namespace {
 
+/// A message box that closes by its buttons and, without an answer, only where it says so: Esc is
+/// OK or Cancel, but neither Yes nor No, either of which may cost data.
+class Box : public QMessageBox {
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!event->matches(QKeySequence::Cancel) || closes())
+            QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (closes())
+            QMessageBox::closeEvent(event);
+        else
+            event->ignore();
+    }
+
+private:
+    bool closes() const { return (standardButtons() & (Ok | Cancel)) != NoButton; }
+};
+
 QMessageBox::StandardButton ask(std::string_view text, QMessageBox::StandardButtons buttons) {
-    QMessageBox box(QMessageBox::NoIcon, toQt(kApplicationTitle), toQt(text), buttons,
-                    QApplication::activeWindow());
+    Box box(QMessageBox::NoIcon, toQt(kApplicationTitle), toQt(text), buttons,
+            QApplication::activeWindow());
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());

@@ -136,8 +136,10 @@ std::optional<Fault> RunDriver::ComputeEnvironment() {
 std::optional<Fault> RunDriver::PrepareLaunch() {
     if (operatingMode(form_) > 0) {
         const ImpactSources sources = impactSources(form_);
-        if (const auto fault = GetLoftAngle(form_.shot, sources))
+        ShotState launched = form_.shot; // a launch that fails leaves the one that the fields show
+        if (const auto fault = GetLoftAngle(launched, sources))
             return fault;
+        form_.shot = launched;
         showLaunch(form_, sources);
     }
     form_.shot.LaunchSpeedMs = store32(form_.shot.LaunchSpeed * 0.44704);

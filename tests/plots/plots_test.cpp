@@ -79,7 +79,8 @@ TEST(PlotFrame, LabelsFollowTheRangeAndTicksTheShape) {
         std::string labels;
     } table[] = {
         {100, 10000, 2000, " 20 40 60 80 100 10 20"},
-        {333, 10000, 2000, " 66.6 133.2 199.8 266.4 333 33.3 66.6"},
+        // A tenth of the range is kept in 32 bits for the heights alone.
+        {333, 10000, 3000, " 66.6 133.2 199.8 266.4 333 33.3 66.6 99.89999"},
         {300, 10395, 900, " 60 120 180 240 300"},
         {500, 2000, 1000, " 100 200 300 400 500 50 100 150 200 250"},
     };

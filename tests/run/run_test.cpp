@@ -51,12 +51,17 @@ TEST_F(RunDriver, AShotThatFailsIsTold) {
         EXPECT_EQ(form.Runs.size(), 2U);
     }
     form.optLaunch.select();
+    EXPECT_NEAR(form.shot.LaunchSpeed, 148.4, 0.05) << "a launch that failed is not taken";
     form.shot.RPM = -100; // only a file brings that
     run();
-    EXPECT_EQ(messages.texts.size(), 3U);
-    EXPECT_EQ(form.txtRun.text(), "2");
+    form.shot.RPM = 1e25F; // flies, and its roll is beyond all numbers
+    run();
+    EXPECT_EQ(messages.texts.size(), 4U);
+    EXPECT_EQ(form.txtRun.text(), "3");
     EXPECT_EQ(form.Runs.at(2).Path.size(), 1U) << "it stays as far as it came";
+    EXPECT_GT(form.Runs.at(3).Path.size(), 1U);
     EXPECT_EQ(rows().at(1).substr(0, 24), "  I-1/2   LM   .00     0");
+    EXPECT_EQ(rows().at(2).substr(0, 24), "  I-1/3   LM   .00     0");
 }
 
 struct Studies : RunDriver {};
