@@ -2,13 +2,17 @@
 
 #include "numbers/text_number.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace parabolt {
 
 std::string clubCellText(float value) {
-    return std::isfinite(value) ? shortestText(value) : "0";
+    // An infinity shows as the largest number, so that the bounds of its cell refuse it.
+    constexpr float kMost = std::numeric_limits<float>::max();
+    return std::isnan(value) ? "0" : shortestText(std::clamp(value, -kMost, kMost));
 }
 
 namespace {

@@ -183,14 +183,8 @@ std::unique_ptr<GridBinding> ClubEditorWindow::bindGrid(Grid& grid, TextBox& edi
 }
 
 void ClubEditorWindow::bindComment() {
-    // The comment's lines end in CR LF. The widget's plain text would lose fixed blanks.
     auto* widget = findChild<QPlainTextEdit*>(toQt(form_.txtComment.name()));
-    const auto shown = [widget] {
-        return widget->document()
-            ->toRawText()
-            .replace(QChar::ParagraphSeparator, "\r\n")
-            .replace(QChar::LineSeparator, "\r\n"); // of Shift and Enter
-    };
+    const auto shown = [widget] { return textOf(*widget).replace('\n', "\r\n"); };
     const auto show = [this, widget, shown] {
         const QString text = toQt(form_.txtComment.text());
         const QSignalBlocker quiet(widget);

@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -23,6 +24,13 @@ QString toQt(std::string_view utf8) {
 
 std::string fromQt(const QString& text) {
     return text.toStdString();
+}
+
+QString textOf(const QPlainTextEdit& edit) {
+    return edit.document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, '\n')
+        .replace(QChar::LineSeparator, '\n'); // of Shift and Enter
 }
 
 namespace {
@@ -210,7 +218,7 @@ void FormBinding::bindMenuItem(MenuItem& item) {
         connect(menu, &QMenu::aboutToShow, this, [&item] { item.Click(); });
     else
         connect(action, &QAction::triggered, this, [this, &item] {
-            if (settle())
+            if (item.name() == "mnuExit" || settle()) // the end waits for no field
                 item.Click();
         });
 }
@@ -268,6 +276,8 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
         return focusArrived(watched, static_cast<QFocusEvent*>(event)->reason());
     case QEvent::MouseButtonPress:
         return std::exchange(refusedPressOn_, nullptr) == watched;
+    case QEvent::Wheel: // over a list that only happens to lie under the pointer
+        return qobject_cast<QComboBox*>(watched) != nullptr && window_.focusWidget() != watched;
     case QEvent::KeyPress: {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter)

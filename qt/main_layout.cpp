@@ -33,6 +33,7 @@ QLineEdit* field(const TextBox& control, const QString& spoken) {
     auto* edit = named(new QLineEdit, control);
     edit->setAccessibleName(spoken);
     edit->setToolTip(spoken);
+    edit->setAcceptDrops(false); // what is dropped on a field that isn't being edited isn't judged
     edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance("000000000"));
     edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance("0000000"));
     return edit;
@@ -101,6 +102,7 @@ QGroupBox* swingFrame(const MainForm& form) {
     auto* clubs = named(new QComboBox, form.cmbClubNo);
     clubs->setAccessibleName("Club number");
     clubs->setToolTip("Club number");
+    clubs->setFocusPolicy(Qt::StrongFocus); // the wheel alone doesn't bring the focus
     clubs->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     grid.add(label(form.Label8), clubs);
     grid.add(label(form.Label9), field(form.txtHeadSpeed, "Head speed, mph"));

@@ -124,7 +124,7 @@ void MainWindow::buildMenus() {
     QMenu* file = addMenu(form.mnuFile);
     add(file, form.mnuOpen, QKeySequence::Open);
     add(file, form.mnuSave, QKeySequence::Save);
-    add(file, form.mnuSResult, Qt::CTRL | Qt::Key_E);
+    add(file, form.mnuSResult, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     file->addSeparator();
     add(file, form.mnuPrint, QKeySequence::Print);
     file->addSeparator();
@@ -146,7 +146,9 @@ void MainWindow::connectLogic() {
     // "&Run" and the menu "&Reset" both ask for Alt+R: it runs. Reset answers to its own keys.
     run->installEventFilter(this);
     menuBar()->installEventFilter(this);
-    connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, run, &QPushButton::click);
+    auto* runKey = new QShortcut(Qt::Key_F5, this);
+    runKey->setAutoRepeat(false);
+    connect(runKey, &QShortcut::activated, run, &QPushButton::click);
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
         if (!binding_->settle()) // a message has come up, and the field waits
             return;
@@ -160,9 +162,8 @@ void MainWindow::connectLogic() {
     logic_.form.onCaption = showCaption;
     showCaption();
     logic_.frmProgress.onShow = [this](bool shown) {
+        progress_->move(screen()->availableGeometry().center() - progress_->rect().center());
         progress_->setVisible(shown);
-        if (shown)
-            progress_->move(frameGeometry().center() - progress_->rect().center());
     };
     logic_.pause.onRunning = [this](bool running) {
         if (running)

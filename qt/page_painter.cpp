@@ -76,10 +76,7 @@ void PagePainter::Print(std::string_view text) {
 }
 
 void PagePainter::Box(Place corner, Place opposite) {
-    painter_.setRenderHint(QPainter::Antialiasing, false);
-    painter_.setPen(
-        QPen(Qt::black, DrawWidth * kPenUnits, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter_.drawRect(QRectF(units(corner), units(opposite)));
+    paintFrame(painter_, QRectF(units(corner), units(opposite)), DrawWidth * kPenUnits);
 }
 
 void PagePainter::PaintPlot(const PlotCanvases& plot, Place corner, Place size) {

@@ -167,6 +167,16 @@ void paintPicture(QPainter& painter, const PictureBox& picture, const QRectF& ta
     paintShapes(painter, picture, device.map(target));
 }
 
+void paintFrame(QPainter& painter, const QRectF& rect, double pen) {
+    const DevicePixels device(painter);
+    const QRectF edges = device.map(rect);
+    const double width = std::max(1.0, std::round(pen * edges.width() / rect.width()));
+    const double half = width / 2;
+    const QRectF outside = onWholePixels(edges.adjusted(-half, -half, half, half));
+    painter.setPen(QPen(Qt::black, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(outside.adjusted(half, half, -half, -half));
+}
+
 void paintPlot(QPainter& painter, const PlotCanvases& plot, const QRectF& target) {
     if (!paintable(plot.outer, target) || !paintable(plot.inner, target))
         return;

@@ -16,4 +16,8 @@ void paintPicture(QPainter& painter, const PictureBox& picture, const QRectF& ta
 /// Axes and labels lie on top.
 void paintPlot(QPainter& painter, const PlotCanvases& plot, const QRectF& target);
 
+/// Paints the outline of a rectangle in black, as a pen of this width in the painter's units would,
+/// but with the same whole device pixels, at least one, on all four sides.
+void paintFrame(QPainter& painter, const QRectF& rect, double pen);
+
 } // namespace parabolt

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLibrary>
@@ -130,6 +131,8 @@ std::optional<std::string> QtPrinter::print(std::string_view title,
 QString QtPrinter::askFileName() {
     if (lastFolder_.isEmpty())
         lastFolder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QFileInfo(lastFolder_).isDir()) // the dialog would take it for a file's name
+        lastFolder_ = QDir::homePath();
     QFileDialog dialog(QApplication::activeWindow(), "Print Report To A PDF File", lastFolder_,
                        "PDF File(*.pdf)");
     dialog.setObjectName("printFileDialog");
@@ -137,8 +140,9 @@ QString QtPrinter::askFileName() {
     dialog.setDefaultSuffix("pdf");
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    lastFolder_ = dialog.directory().path();
-    return dialog.selectedFiles().value(0);
+    const QString fileName = dialog.selectedFiles().value(0);
+    lastFolder_ = QFileInfo(fileName).path();
+    return fileName;
 }
 
 } // namespace parabolt

@@ -56,14 +56,14 @@ void RichTextBinding::insert(std::size_t position, const std::string& text, Rgb 
 void RichTextBinding::takeCaret() {
     if (showing_)
         return;
-    const QString text = edit_.toPlainText();
+    const QString text = textOf(edit_);
     box_.setCaret(fromQt(text.left(edit_.textCursor().selectionStart())).size());
 }
 
 void RichTextBinding::takeText() {
     if (showing_)
         return;
-    const QString text = edit_.toPlainText();
+    const QString text = textOf(edit_);
     box_.edited(fromQt(text), fromQt(text.left(edit_.textCursor().selectionStart())).size());
 }
 

@@ -11,7 +11,7 @@ namespace {
 class UserSettings : public QSettings {
 public:
     UserSettings(const std::string& application, const std::string& section)
-        : QSettings(IniFormat, UserScope, toQt(application)) {
+        : QSettings(NativeFormat, UserScope, toQt(application)) {
         setFallbacksEnabled(false);
         beginGroup(toQt(section));
     }

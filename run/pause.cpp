@@ -58,7 +58,7 @@ LongRun::~LongRun() {
         pause_.onRunning(false);
     for (Control* control : held_)
         control->setHeld(false);
-    if (focused_ != nullptr)
+    if (focused_ != nullptr && form_.focus.active() == &form_.Picture1)
         form_.focus.give(*focused_);
 }
 

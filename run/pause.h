@@ -31,7 +31,8 @@ private:
 };
 
 /// The time of a study or a batch. Every control that would disturb it is held back from its begin
-/// to its end, however it ends; then the focus goes back to where it was.
+/// to its end, however it ends; then the focus goes back to where it was, unless the user has moved
+/// it to the table meanwhile.
 class LongRun {
 public:
     LongRun(MainForm& form, Pause& pause);

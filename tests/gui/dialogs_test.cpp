@@ -100,15 +100,15 @@ TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
 struct SettingsStoreTest : testing::Test {
     TemporaryFolder folder;
     QString before =
-        QFileInfo(QSettings(QSettings::IniFormat, QSettings::UserScope, "any").fileName()).path();
+        QFileInfo(QSettings(QSettings::NativeFormat, QSettings::UserScope, "any").fileName()).path();
     SettingsStore store;
     std::string application = "SettingsStoreTest";
-    std::string file = folder.path(application + ".ini");
+    std::string file = folder.path(application + ".conf");
 
     SettingsStoreTest() { keepSettingsIn(toQt(folder.path())); }
     ~SettingsStoreTest() override { keepSettingsIn(before); }
     static void keepSettingsIn(const QString& path) {
-        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, path);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path);
     }
     /// The stored text, or why there is none.
     std::string text(std::string_view key) {
@@ -136,7 +136,7 @@ TEST_F(SettingsStoreTest, GivesTextsBackWholeOrSaysWhyNot) {
     }
     EXPECT_NE(contentOf(file).find("/home"), std::string::npos);
     application += "2"; // what Qt knows of a file outlives it
-    std::filesystem::create_directory(folder.path(application + ".ini"));
+    std::filesystem::create_directory(folder.path(application + ".conf"));
     EXPECT_EQ(text("LastPath"), "Could not open registry section");
     EXPECT_EQ(save("/home"), "Could not open/create registry section");
 }
