@@ -73,16 +73,16 @@ std::error_code writeTemporary(const fs::path& temporary, const fs::path& target
     File file(std::fopen(temporary.c_str(), copy ? "r+b" : "wbx"));
     if (file == nullptr)
         return lastError();
-    error = writeAndClose(std::move(file), data);
-    if (!error && fs::exists(old))
+    if (fs::exists(old)) // before anything private stands in it
         fs::permissions(temporary, old.permissions(), error);
-    return error;
+    return error ? error : writeAndClose(std::move(file), data);
 }
 
 bool takesPlaceOfOld(const fs::path& target, const fs::file_status& old) {
     std::error_code ignored;
-    return !fs::exists(old) ||
-           (fs::is_regular_file(old) && fs::hard_link_count(target, ignored) == 1);
+    if (!fs::exists(old)) // a link whose target is missing stays, and gets its target
+        return !fs::is_symlink(fs::symlink_status(target, ignored));
+    return fs::is_regular_file(old) && fs::hard_link_count(target, ignored) == 1;
 }
 
 std::optional<Failure> write(const std::string& fileName, const std::string& data, Tail tail) {

@@ -35,7 +35,7 @@ struct MainForm {
     // Title ------------------------------------------------------------------------------------
     Frame Frame3{controls, "Frame3", ""};
     Label Label5{controls, "Label5", kApplicationTitle};
-    Label Label1{controls, "Label1", kApplicationTitle}; ///< over Label5, 15 twips right, 30 down
+    Label Label1{controls, "Label1", kApplicationTitle}; ///< its shadow: 15 twips right, 30 down
 
     // Run and clear ----------------------------------------------------------------------------
     Label Label4{controls, "Label4", "Data Sets"};

@@ -40,7 +40,10 @@ bool isTiny(std::string_view number) {
     double exponent = 0;
     if (mark < number.size()) {
         const std::size_t start = mark + (number[mark + 1] == '+' ? 2 : 1);
-        std::from_chars(number.data() + start, number.data() + number.size(), exponent);
+        const char* begin = number.data() + start;
+        const auto read = std::from_chars(begin, number.data() + number.size(), exponent);
+        if (read.ec == std::errc::result_out_of_range)
+            return *begin == '-';
     }
     return order + exponent < 0;
 }

@@ -9,8 +9,9 @@
 namespace parabolt {
 
 /// Draws all data sets, elements 1 to the last of `runs`, over the frame: each path in its colour
-/// from the tee to a ring at the landing, and its entry in the legend. Nothing is erased. A failure
-/// ends the drawing at once and gives its description; what was drawn stays.
+/// from the tee to a thick ring at the landing, which closes to a disc on a wide scale, and its
+/// entry in the legend. Nothing is erased. A failure ends the drawing at once and gives its
+/// description; what was drawn stays.
 std::optional<std::string_view> DrawCurves(const PlotCanvases& screen,
                                            std::span<const RunRecord> runs);
 

@@ -31,11 +31,10 @@ public:
 
     State validate(QString& text, int& caret) const override {
         // What came in last stands in front of the caret; its end is what has no room.
-        while (caret > 0 && text.toUcs4().size() > limit_) {
-            const bool pair = caret > 1 && text.at(caret - 1).isLowSurrogate();
-            caret -= pair ? 2 : 1;
-            text.remove(caret, pair ? 2 : 1);
-        }
+        const int end = caret;
+        for (auto excess = text.toUcs4().size() - limit_; caret > 0 && excess > 0; --excess)
+            caret -= caret > 1 && text.at(caret - 1).isLowSurrogate() ? 2 : 1;
+        text.remove(caret, end - caret);
         return Acceptable;
     }
 
@@ -91,7 +90,8 @@ ClubEditorWindow::ClubEditorWindow(frmClubParams& clubEditor, QWidget* parent)
     form_.onCaption = [this] { setWindowTitle(toQt(form_.caption)); };
     form_.onCaption();
     clubEditor_.editor.onUnload = [this] { reject(); };
-    resize(QSize(kStartWidth, sizeHint().height()).boundedTo(screen()->availableSize()));
+    const QSize room = screen()->availableSize() * 0.95; // the title bar wants some
+    resize(QSize(kStartWidth, sizeHint().height()).boundedTo(room));
 }
 
 ClubEditorWindow::~ClubEditorWindow() {
@@ -138,8 +138,10 @@ void ClubEditorWindow::makeText(QGridLayout& layout, const Label& label, const T
 void ClubEditorWindow::makeGrid(QGridLayout& layout, const Grid& grid, const TextBox& edit) {
     auto* table = new QTableWidget;
     name(*table, grid);
+    table->setAccessibleName(&grid == &form_.GridIrons ? "Irons" : "Woods");
     auto* line = new QLineEdit(table->viewport());
     name(*line, edit);
+    line->setAccessibleName("Value of the cell");
     line->setFrame(false);
     line->setAlignment(Qt::AlignCenter);
     QPalette colours = line->palette();

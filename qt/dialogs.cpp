@@ -33,14 +33,24 @@ private:
 };
 
 QMessageBox::StandardButton ask(std::string_view text, QMessageBox::StandardButtons buttons) {
-    Box box(QMessageBox::NoIcon, toQt(kApplicationTitle), toQt(text), buttons,
-            QApplication::activeWindow());
+    Box box(QMessageBox::NoIcon, toQt(kApplicationTitle), toQt(text), buttons, frontWindow());
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
 } // namespace
+
+QWidget* frontWindow() {
+    if (QWidget* active = QApplication::activeWindow())
+        return active;
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == "frmMain")
+            return window;
+    return nullptr;
+}
 
 void QtMessageBoxes::show(std::string_view message) {
     parabolt::ask(message, QMessageBox::Ok);

@@ -6,6 +6,10 @@ class QWidget;
 
 namespace parabolt {
 
+/// The window that a dialog belongs to, also while another program is in front: the innermost modal
+/// one, or else the main form; null before there is one.
+QWidget* frontWindow();
+
 /// Message boxes over the window in front, with the application's title.
 class QtMessageBoxes : public MessageBoxes {
 public:

@@ -1,8 +1,8 @@
 #include "qt/file_dialog.h"
 
+#include "qt/dialogs.h"
 #include "qt/form_binding.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -30,7 +30,7 @@ QString existingFolder(const std::string& folder) {
 } // namespace
 
 void QtFileDialog::show(bool save) {
-    QFileDialog dialog(QApplication::activeWindow(), toQt(title), existingFolder(initialFolder));
+    QFileDialog dialog(frontWindow(), toQt(title), existingFolder(initialFolder));
     dialog.setObjectName("ccrpFileDialogs1");
     dialog.setNameFilters(nameFilters(toQt(filter)));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -183,7 +183,8 @@ QLayout* strip(const MainForm& form) {
 QPlainTextEdit* resultTable(const MainForm& form) {
     auto* table = named(new QPlainTextEdit, form.txtResult);
     QFont font("Courier New");
-    font.setPointSizeF(8.25);
+    // Small, for the many columns, but never much smaller than the rest of the form.
+    font.setPointSizeF(std::max(8.25, table->font().pointSizeF() * 0.75));
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
     table->setFont(font);

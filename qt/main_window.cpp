@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QShortcutEvent>
 #include <QStatusBar>
@@ -65,12 +66,19 @@ private:
 
 MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
     setObjectName("frmMain");
-    auto* centre = new QWidget;
-    setCentralWidget(centre);
-    buildPlots(centre);
-    layout_ = layOutMainForm(logic.form, centre);
+    // Scrolls where a large font leaves the form no room on its screen.
+    auto* room = new QScrollArea;
+    room->setFrameShape(QFrame::NoFrame);
+    room->setFocusPolicy(Qt::NoFocus);
+    room->setWidgetResizable(true);
+    setCentralWidget(room);
+    centre_ = new QWidget;
+    centre_->installEventFilter(this);
+    buildPlots();
+    layout_ = layOutMainForm(logic.form, centre_);
     for (const TextBox* hidden : {&logic.form.txtMode, &logic.form.txtType})
-        (new QLineEdit(centre))->setObjectName(toQt(hidden->name()));
+        (new QLineEdit(centre_))->setObjectName(toQt(hidden->name()));
+    room->setWidget(centre_);
     buildMenus();
     statusBar()->setObjectName(toQt(logic.form.StatusBar1.name()));
     statusBar()->setSizeGripEnabled(false);
@@ -85,10 +93,7 @@ MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
                                                       *findChild<QPlainTextEdit*>("txtResult"));
     connectLogic();
 
-    const double scale = pixelsPerTwip();
-    setMinimumSize(static_cast<int>(std::ceil(kBesideWeather * scale)) +
-                       layout_.weather->minimumSizeHint().width(),
-                   static_cast<int>(std::ceil((kUpperHeight + kLeastPlot) * scale)));
+    setLeastSize();
     resize(1280, 800);
     findChild<QWidget*>(toQt(logic.form.optManual.name()))->setFocus();
 }
@@ -99,11 +104,11 @@ MainWindow::~MainWindow() {
     logic_.pause.onRunning = nullptr;
 }
 
-void MainWindow::buildPlots(QWidget* centre) {
-    auto* outer = new PictureWidget(logic_.form.Picture1, centre);
+void MainWindow::buildPlots() {
+    auto* outer = new PictureWidget(logic_.form.Picture1, centre_);
     outer->setAccessibleName("Plot of the flights");
     new PictureWidget(logic_.form.Picture2, outer);
-    auto* twin = new PictureWidget(logic_.form.Picture3, centre);
+    auto* twin = new PictureWidget(logic_.form.Picture3, centre_);
     new PictureWidget(logic_.form.Picture4, twin);
 }
 
@@ -167,7 +172,7 @@ void MainWindow::connectLogic() {
     };
     logic_.pause.onRunning = [this](bool running) {
         if (running)
-            statusBar()->showMessage(tr("Press Esc to stop after the shot in hand."));
+            statusBar()->showMessage("Press Esc to stop.");
         else
             statusBar()->clearMessage();
     };
@@ -181,9 +186,19 @@ double MainWindow::pixelsPerTwip() const {
                      layout_.panel->minimumSizeHint().height() / kUpperHeight});
 }
 
+void MainWindow::setLeastSize() {
+    const double scale = pixelsPerTwip();
+    const QSize least(static_cast<int>(std::ceil(kBesideWeather * scale)) +
+                          layout_.weather->minimumSizeHint().width(),
+                      static_cast<int>(std::ceil((kUpperHeight + kLeastPlot) * scale)));
+    centre_->setMinimumSize(least);
+    const int bars = menuBar()->sizeHint().height() + statusBar()->sizeHint().height();
+    setMinimumSize((least + QSize(0, bars)).boundedTo(screen()->availableSize() * 0.95));
+}
+
 void MainWindow::fitToSize() {
     const double scale = pixelsPerTwip();
-    const QSize area = centralWidget()->size();
+    const QSize area = centre_->size();
     const double bar = statusBar()->height() / scale;
     logic_.plot.Form_Resize({area.width() / scale + 120, area.height() / scale + bar + 690, bar},
                             isMinimized());
@@ -209,15 +224,12 @@ void MainWindow::place(const PictureBox& picture) {
                       static_cast<int>(std::lround(twips.height * scale)));
 }
 
-void MainWindow::resizeEvent(QResizeEvent* event) {
-    QMainWindow::resizeEvent(event);
-    fitToSize();
-}
-
 void MainWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::FontChange && layout_.panel != nullptr)
+    if (event->type() == QEvent::FontChange && layout_.panel != nullptr) {
+        setLeastSize();
         fitToSize();
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -226,6 +238,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == centre_ && event->type() == QEvent::Resize)
+        fitToSize();
     if (event->type() == QEvent::Shortcut && static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
         findChild<QPushButton*>("Command1")->click();
         return true;

@@ -23,20 +23,21 @@ public:
     ~MainWindow() override;
 
 protected:
-    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildMenus();
-    void buildPlots(QWidget* centre);
+    void buildPlots();
     void connectLogic();
+    void setLeastSize();
     void fitToSize();
     double pixelsPerTwip() const;
     void place(const PictureBox& picture);
 
     frmMain& logic_;
+    QWidget* centre_ = nullptr; ///< what stands between menus and status bar
     MainLayout layout_{};
     std::unique_ptr<QWidget> progress_;
     std::unique_ptr<FormBinding> progressBinding_;

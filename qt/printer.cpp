@@ -1,5 +1,6 @@
 #include "qt/printer.h"
 
+#include "qt/dialogs.h"
 #include "qt/form_binding.h"
 #include "qt/page_painter.h"
 
@@ -63,7 +64,8 @@ std::optional<std::string> spoolerRefusal() {
     constexpr int kFirstError = 0x400; // among the status codes of the Internet Printing Protocol
     if (lastError == nullptr || description == nullptr || lastError() < kFirstError)
         return std::nullopt;
-    return description();
+    const char* reason = description();
+    return reason != nullptr ? reason : "unknown";
 }
 
 std::optional<std::string> printOn(const QPrinterInfo& info, std::string_view title,
@@ -133,8 +135,7 @@ QString QtPrinter::askFileName() {
         lastFolder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     if (!QFileInfo(lastFolder_).isDir()) // the dialog would take it for a file's name
         lastFolder_ = QDir::homePath();
-    QFileDialog dialog(QApplication::activeWindow(), "Print Report To A PDF File", lastFolder_,
-                       "PDF File(*.pdf)");
+    QFileDialog dialog(frontWindow(), "Print Report To A PDF File", lastFolder_, "PDF File(*.pdf)");
     dialog.setObjectName("printFileDialog");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("pdf");
