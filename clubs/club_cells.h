@@ -3,7 +3,6 @@
 #include "clubs/club_tables.h"
 
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 namespace parabolt {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "clubs/club_files.h"
+#include "clubs/club_file_handlers.h"
 
 namespace parabolt {
 
@@ -13,7 +13,7 @@ struct frmClubParams {
 
     ClubForm form;
     ClubEditor editor;
-    ClubFiles files;
+    ClubFileHandlers files;
 };
 
 } // namespace parabolt

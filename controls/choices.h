@@ -46,7 +46,7 @@ public:
 
     const std::string& caption() const { return caption_; }
     bool checked() const { return checked_; }
-    void setChecked(bool checked);
+    void setChecked(bool checked); ///< raises nothing
 
     bool takesFocus() const override { return true; }
 

@@ -11,6 +11,7 @@ namespace parabolt {
 template <class... Args>
 class Event {
 public:
+    /// Not from a handler of the same event.
     void connect(std::function<void(Args...)> handler) { handlers_.push_back(std::move(handler)); }
     void operator()(Args... args) const {
         for (const auto& handler : handlers_)

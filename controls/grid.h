@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/control.h"
-#include "controls/rgb.h"
 #include "controls/text_box.h"
+#include "numbers/rgb.h"
 
 #include <optional>
 
@@ -21,12 +21,13 @@ public:
 
     int row() const { return row_; } ///< of the current cell
     int col() const { return col_; }
-    /// Makes a cell current. Raises `LeaveCell` on the old one and `EnterCell` on
+    /// Makes a cell that the grid has current. Raises `LeaveCell` on the old one and `EnterCell` on
     /// the new one if it is another.
     void moveTo(int row, int col);
 
     const std::string& text() const { return text(row_, col_); } ///< of the current cell
     void setText(std::string_view text) { setText(row_, col_, text); }
+    /// Text of any cell, fixed ones included. Both throw std::out_of_range where there is none.
     const std::string& text(int row, int col) const;
     void setText(int row, int col, std::string_view text);
 

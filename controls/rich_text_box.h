@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/control.h"
-#include "controls/rgb.h"
+#include "numbers/rgb.h"
 
 #include <cstddef>
 #include <optional>

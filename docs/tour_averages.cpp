@@ -3,6 +3,7 @@
 
 #include "engine/air.h"
 #include "engine/flight.h"
+#include "engine/units.h"
 #include "numbers/rounding.h"
 
 #include <array>
@@ -30,8 +31,6 @@ constexpr std::array<TourAverage, 8> kTourAverages = {{
     {"LPGA 7-iron", 106, 18.5F, 6630, 143},
 }};
 
-constexpr double kMetresPerSecondPerMph = 0.44704;
-
 } // namespace
 
 int main() {
@@ -42,7 +41,8 @@ int main() {
         shot.RH = 50;
         shot.LaunchAngle = average.launchAngle;
         shot.RPM = average.spin;
-        shot.LaunchSpeedMs = parabolt::store32(average.ballSpeed * kMetresPerSecondPerMph);
+        shot.LaunchSpeedMs =
+            parabolt::store32(average.ballSpeed * parabolt::kMetresPerSecondPerMph);
         if (parabolt::ComputeEnvironment(shot))
             return 1;
         parabolt::RunRecord record;

@@ -1,5 +1,6 @@
 #include "engine/air.h"
 
+#include "engine/units.h"
 #include "numbers/rounding.h"
 
 #include <cmath>
@@ -14,8 +15,6 @@ constexpr double kSeaLevelKelvin = 288;
 constexpr double kLapsePerFoot = 0.0019812;  ///< kelvin
 constexpr double kPressureExponent = 5.2561; ///< g M / (R L)
 
-constexpr double kMetresPerSecondPerMph = 0.44704;
-
 // Sutherland's law in slugs, feet and Rankine; the last constant brings slug/(ft s) to Pa s.
 constexpr double kSutherlandFactor = 0.0226968;
 constexpr double kSutherlandRankine = 198.72;
@@ -28,9 +27,12 @@ constexpr double kVapourShare =
     0.378; ///< 1 less the ratio of the molar masses of water and dry air
 constexpr double kGasConstantDryAir = 287; ///< J/(kg K)
 
-/// Saturation vapour pressure over water in hectopascals (Magnus form), temperature in Celsius.
+/// Saturation vapour pressure over water in hectopascals, temperature in Celsius.
 double saturationPressure(double celsius) {
-    return 6.11 * std::pow(10.0, (7.5 * celsius) / (celsius + 237.7));
+    constexpr double kAtZero = 6.11; // hectopascals; and the two parameters of Magnus' formula
+    constexpr double kMagnusFactor = 7.5;
+    constexpr double kMagnusCelsius = 237.7;
+    return kAtZero * std::pow(10.0, (kMagnusFactor * celsius) / (celsius + kMagnusCelsius));
 }
 
 } // namespace

@@ -15,7 +15,7 @@ template <class OnStep>
 inline bool fly(FlightState& ball, const FlightAir& air, OnStep onStep) {
     while (!(ball.y < 0)) {
         advance(ball, air);
-        if (!sound(ball) || !onStep(ball))
+        if (!hasResult(ball) || !onStep(ball))
             return false;
         ball.t += kTimeStep;
     }
@@ -30,7 +30,7 @@ Fault diagnose(const ShotState& shot) {
     const FlightAir air = flightAir(shot);
     do // the first step always runs, however the launch stands
         advance(ball, air);
-    while (!watch.fault() && sound(ball));
+    while (!watch.fault() && hasResult(ball));
     // Nothing reads the angle of the last step, so that its division may never have run.
     const Fault silent = ball.vx == 0 ? Fault::DivisionByZero : Fault::InvalidArgument;
     return watch.fault().value_or(silent);

@@ -93,7 +93,7 @@ inline void advance(FlightState& ball, const FlightAir& air) {
 /// True while every formula of the step had a result. Each failing operation of a step leaves its
 /// infinity or NaN in one of these members, but for one: the arctangent swallows a division by a
 /// horizontal speed of exactly 0.
-inline bool sound(const FlightState& ball) {
+inline bool hasResult(const FlightState& ball) {
     return std::isfinite(double{ball.x} + ball.y + ball.vx + ball.vy + ball.w) && ball.vx != 0;
 }
 

@@ -15,6 +15,10 @@ constexpr double kBallGrams = 45.926998138427734;
 /// Share of the shaft and the hands that moves with the head.
 constexpr double kHeadMassFactor = 1.05;
 
+/// Fit of the launch angle to the dynamic loft, both in degrees.
+constexpr double kAnglePerLoft = 0.94275742;
+constexpr double kAnglePerLoftSquared = 0.0065321932;
+
 double cosDegrees(double angle) {
     return std::cos(angle / kDegreesPerRadian);
 }
@@ -44,7 +48,7 @@ std::optional<Fault> GetLoftAngle(ShotState& shot, const ImpactSources& sources)
     const float spinPerDegree = store32((shot.Slope1 + kSpinFactor) * shot.HeadSpeed);
     shot.RPM = store32(double{loft} * spinPerDegree);
     shot.RPM = store32(roundHalfEven(shot.RPM));
-    shot.LaunchAngle = store32(loft * 0.94275742 - (double{loft} * loft) * 0.0065321932);
+    shot.LaunchAngle = store32(loft * kAnglePerLoft - (double{loft} * loft) * kAnglePerLoftSquared);
     const float numerator = store32(((shot.COR + 1.0) * shot.HeadSpeed) * cosDegrees(loft));
     const float cosine = store32(cosDegrees(double{loft} - shot.LaunchAngle));
     const float massTerm =

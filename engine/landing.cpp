@@ -1,16 +1,22 @@
 #include "engine/landing.h"
 
 #include "engine/flight_step.h"
+#include "engine/units.h"
 
 namespace parabolt {
 namespace {
 
-constexpr double kMetresPerSecondPerMph = 0.44704;
 constexpr double kSecondsPerMinute = 60;
 
 // Two divisors that differ in the seventh digit: the shown spin and the roll keep their own.
 constexpr float kRadiansPerTurnShown = 6.28318F;
 constexpr double kRadiansPerTurnRoll = 6.28318;
+
+// Fit of the roll in yards: what the horizontal speed in mph brings, and what the spin in rpm takes
+// for each mph of descent.
+constexpr double kRollPerSpeedSquared = 0.0013;
+constexpr double kRollPerSpeed = 0.144;
+constexpr double kRollPerSpinAndDescent = 2.17e-05;
 
 } // namespace
 
@@ -18,9 +24,9 @@ float greenRoll(const FlightState& landing) {
     const double horizontal = landing.vx / kMetresPerSecondPerMph;
     const double descent = -double{landing.vy} / kMetresPerSecondPerMph;
     const double spin = (landing.w * kSecondsPerMinute) / kRadiansPerTurnRoll;
-    return store32(
-        (horizontal * horizontal * 0.0013 + (landing.vx * 0.144) / kMetresPerSecondPerMph) -
-        (spin * 2.17e-05) * descent);
+    return store32((horizontal * horizontal * kRollPerSpeedSquared +
+                    (landing.vx * kRollPerSpeed) / kMetresPerSecondPerMph) -
+                   (spin * kRollPerSpinAndDescent) * descent);
 }
 
 std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& shot,

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/rgb.h"
+#include "numbers/rgb.h"
 
 #include <cstdint>
 #include <vector>

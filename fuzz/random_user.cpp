@@ -1,7 +1,6 @@
 // A random user of the whole program: keys, clicks, texts, dialogs, files good and broken. Ends
 // with a message at the first inconsistency; the sanitizers, where they are built in, see the rest.
 // Call: parabolt_random_user [SEED [EVENTS]]     the same seed makes the same user
-#include "qt/form_binding.h"
 #include "qt/program.h"
 
 #include <QApplication>

@@ -16,7 +16,7 @@ ClubChoice::ClubChoice(MainForm& form, Validators& validators)
 
 void ClubChoice::cmbClubNo_Click() {
     takeClubNumber(form_);
-    if (operatingMode(form_) != 1)
+    if (operatingMode(form_) != kDefaultMode)
         return;
     const ClubRecord* club = playableClub(form_.clubs, form_.optIron.selected(), form_.shot.ClubNo);
     if (club == nullptr)
@@ -35,10 +35,7 @@ void ClubChoice::cmbClubNo_Click() {
 
 void ClubChoice::txtType_Change() {
     const bool iron = leadingNumber(form_.txtType.text()) != 0;
-    std::vector<std::string> numbers;
-    for (const std::int16_t number : playableClubs(iron))
-        numbers.push_back(std::to_string(number));
-    form_.cmbClubNo.setItems(std::move(numbers));
+    listClubs(form_, iron);
     form_.cmbClubNo.select(0);
     (iron ? form_.optIron : form_.optWood).select();
 }

@@ -3,6 +3,9 @@
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 
+#include <initializer_list>
+#include <utility>
+
 namespace parabolt {
 
 MainForm::MainForm() {
@@ -12,7 +15,14 @@ MainForm::MainForm() {
     for (Control* disabled :
          std::initializer_list<Control*>{&txtMode, &txtType, &txtRun, &chkBatch})
         disabled->setEnabled(false);
-    cmbClubNo.setItems({"1", "2", "3", "4", "5", "7", "9"});
+    listClubs(*this, false);
+}
+
+void listClubs(MainForm& form, bool iron) {
+    std::vector<std::string> numbers;
+    for (const std::int16_t number : playableClubs(iron))
+        numbers.push_back(std::to_string(number));
+    form.cmbClubNo.setItems(std::move(numbers));
 }
 
 int runNumber(const MainForm& form) {

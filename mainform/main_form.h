@@ -145,10 +145,16 @@ struct MainForm {
     PlotCanvases printPlot() { return {Picture3, Picture4}; }
 };
 
+/// Fills the list of club numbers with the irons or woods that can be played. None is selected.
+void listClubs(MainForm& form, bool iron);
+
 /// The run counter n: the number of data sets and the index of the newest.
 int runNumber(const MainForm& form);
 
-/// The operating mode, 0 to 4, as a number.
+/// What `txtMode` numbers.
+enum OperatingMode : int { kLaunchMode, kDefaultMode, kManualMode, kAutoMode, kActualMode };
+
+/// The number in `txtMode`.
 int operatingMode(const MainForm& form);
 
 /// Puts the title and the description of the club set into the form's caption.

@@ -16,7 +16,9 @@ public:
     /// selected club into the fields. A text that is no mode changes nothing.
     void txtMode_Change();
 
+    /// Enables the club parameters and the ball options.
     void EnableClubParameters();
+    /// Disables the club parameters, and leaves the ball options alone.
     void DisableClubParameters();
 
 private:

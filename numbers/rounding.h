@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cmath>
-#include <cstdint>
 #include <limits>
 #include <optional>
 
@@ -21,6 +20,7 @@ inline double roundHalfEven(double value) {
 /// Nearest whole number as an integer of the given width; nothing if it doesn't fit.
 template <class Integer>
 std::optional<Integer> roundTo(double value) {
+    static_assert(sizeof(Integer) <= 4, "a double must hold its limits");
     const double whole = roundHalfEven(value);
     if (!(whole >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
           whole <= static_cast<double>(std::numeric_limits<Integer>::max())))

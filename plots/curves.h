@@ -15,7 +15,8 @@ namespace parabolt {
 std::optional<std::string_view> DrawCurves(const PlotCanvases& screen,
                                            std::span<const RunRecord> runs);
 
-/// The same on the print twin, whose inner canvas is erased first. A failure ends the drawing.
+/// The same on the print twin, whose inner canvas is erased first. A failure ends the drawing and
+/// is not told.
 void DrawPrintCurves(const PlotCanvases& twin, std::span<const RunRecord> runs);
 
 } // namespace parabolt

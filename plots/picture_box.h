@@ -1,8 +1,8 @@
 #pragma once
 
 #include "controls/control.h"
-#include "controls/rgb.h"
 #include "engine/shot_state.h"
+#include "numbers/rgb.h"
 
 #include <span>
 #include <string>

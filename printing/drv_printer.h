@@ -9,7 +9,8 @@ namespace parabolt {
 
 /// Writes on a page by line and column. The cell of this grid is the figure "7" in the fixed font
 /// at a standard size; lines and columns count from 0 and may be fractions. Set the page, then the
-/// standard size, then write.
+/// standard size, then write. For pages laid out like a typewriter's; the report counts in inches
+/// and does without it.
 class clsDrvPrinter {
 public:
     /// How `PrintText` lies to the current column.

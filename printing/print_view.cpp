@@ -1,12 +1,12 @@
 #include "printing/print_view.h"
 
+#include "controls/units.h"
 #include "numbers/rounding.h"
 
 namespace parabolt {
 namespace {
 
 constexpr std::string_view kUntitled = "Parabolt - Report"; ///< of a document without a caption
-constexpr double kTwipsPerInch = 1440;
 
 } // namespace
 

@@ -1,5 +1,7 @@
 #include "qt/club_editor_window.h"
 
+#include "qt/text.h"
+
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>

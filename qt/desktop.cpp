@@ -1,6 +1,6 @@
 #include "qt/desktop.h"
 
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QApplication>
 #include <QDesktopServices>

@@ -1,7 +1,7 @@
 #include "qt/dialogs.h"
 
 #include "mainform/main_form.h"
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "qt/file_dialog.h"
 
 #include "qt/dialogs.h"
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QDir>
 #include <QFileDialog>

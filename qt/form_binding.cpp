@@ -1,5 +1,7 @@
 #include "qt/form_binding.h"
 
+#include "qt/text.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -9,7 +11,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -17,21 +18,6 @@
 #include <utility>
 
 namespace parabolt {
-
-QString toQt(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
-
-std::string fromQt(const QString& text) {
-    return text.toStdString();
-}
-
-QString textOf(const QPlainTextEdit& edit) {
-    return edit.document()
-        ->toRawText()
-        .replace(QChar::ParagraphSeparator, '\n')
-        .replace(QChar::LineSeparator, '\n'); // of Shift and Enter
-}
 
 namespace {
 

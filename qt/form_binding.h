@@ -11,24 +11,17 @@
 #include <QPointer>
 #include <QString>
 
-class QAction;
 class QCheckBox;
 class QComboBox;
 class QEvent;
 class QLineEdit;
 class QMenuBar;
-class QPlainTextEdit;
 class QProgressBar;
 class QPushButton;
 class QRadioButton;
 class QWidget;
 
 namespace parabolt {
-
-QString toQt(std::string_view utf8);
-std::string fromQt(const QString& text);
-/// What stands in a text edit, with \n between lines. Keeps fixed blanks, unlike toPlainText.
-QString textOf(const QPlainTextEdit& edit);
 
 /// Ties the controls of a form to the widgets and actions of its window that carry their names, and
 /// the form's focus to the window's. Each direction passes on only what differs, so that a caret

@@ -1,6 +1,6 @@
 #include "qt/grid_widget.h"
 
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "qt/main_layout.h"
 
 #include "mainform/main_form.h"
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -175,7 +175,9 @@ QLayout* strip(const MainForm& form) {
     row->addWidget(label(form.Label11));
     row->addWidget(field(form.txtRange, "Width of the plot, yards"));
     row->addSpacing(4 * kGap);
-    row->addWidget(button(form.Command1));
+    QPushButton* run = button(form.Command1);
+    run->setToolTip("Run (F5)");
+    row->addWidget(run);
     row->addWidget(button(form.Command2));
     return row;
 }

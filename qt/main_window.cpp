@@ -1,8 +1,10 @@
 #include "qt/main_window.h"
 
+#include "controls/units.h"
 #include "qt/form_binding.h"
 #include "qt/picture_widget.h"
 #include "qt/rich_text_binding.h"
+#include "qt/text.h"
 
 #include <QApplication>
 #include <QBoxLayout>
@@ -29,8 +31,7 @@ constexpr double kBallWidth = 2070;
 constexpr double kBesideWeather = 7140;
 constexpr double kUpperHeight = 4000;
 constexpr double kLeastPlot = 1850;
-constexpr double kTwipsPerPixel = 15; ///< of the form as it was first drawn
-constexpr int kGap = 8;               ///< pixels around a frame, a half on each side
+constexpr int kGap = 8; ///< pixels around a frame, a half on each side
 
 /// The small window of `frmProgress`. It goes when the study ends; Esc, or a desktop that lets it
 /// be closed all the same, stops the study.

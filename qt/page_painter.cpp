@@ -1,7 +1,8 @@
 #include "qt/page_painter.h"
 
-#include "qt/form_binding.h"
+#include "controls/units.h"
 #include "qt/picture_painter.h"
+#include "qt/text.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -10,9 +11,7 @@
 namespace parabolt {
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
 constexpr double kScreenPixelsPerInch = 96;
-constexpr double kPointsPerInch = 72;
 constexpr double kUnitsPerInch = 1200; ///< in which the page is painted
 constexpr double kPenUnits = 4;        ///< a pixel of the printer for whose pens the report is made
 

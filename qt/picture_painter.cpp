@@ -1,5 +1,7 @@
 #include "qt/picture_painter.h"
 
+#include "controls/units.h"
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPaintEngine>
@@ -10,9 +12,7 @@
 namespace parabolt {
 namespace {
 
-constexpr double kTwipsPerPixel = 15;   ///< of a pen of one pixel
 constexpr double kTextSize = 8.25 * 20; ///< of axis labels and legend, in twips
-constexpr double kPointsPerInch = 72;
 
 QColor toQColor(Rgb colour) {
     return {colour.red, colour.green, colour.blue};

@@ -1,7 +1,7 @@
 #include "qt/picture_widget.h"
 
-#include "qt/form_binding.h"
 #include "qt/picture_painter.h"
+#include "qt/text.h"
 
 #include <QPainter>
 

@@ -1,6 +1,8 @@
 #include "qt/print_view_window.h"
 
+#include "controls/units.h"
 #include "qt/page_painter.h"
+#include "qt/text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,8 +14,6 @@
 
 namespace parabolt {
 namespace {
-
-constexpr int kTwipsPerPixel = 15;
 
 /// The page on the screen: white paper, and on it the report once it has been composed.
 class PageSheet : public QWidget {
@@ -52,7 +52,7 @@ QWidget* rowOfControls(const PrintView& form, QWidget* parent) {
     caption->setObjectName(toQt(form.txtCaption.name()));
     label->setBuddy(caption);
     auto* layout = new QHBoxLayout(row);
-    const int gap = PrintView::kGapAtSides / kTwipsPerPixel;
+    const int gap = static_cast<int>(PrintView::kGapAtSides / kTwipsPerPixel);
     layout->setContentsMargins(gap, 0, gap, 0);
     layout->addWidget(label);
     layout->addWidget(caption, 1);
@@ -80,7 +80,7 @@ PrintViewWindow::PrintViewWindow(PrintView& form, QWidget* parent)
     auto* sheet = new PageSheet(form, this);
     sheet->setObjectName(toQt(form.Picture0.name()));
 
-    binding_ = new FormBinding(*this, form.controls, form.focus);
+    binding_ = std::make_unique<FormBinding>(*this, form.controls, form.focus);
     form.Picture0.onViewChange = [&form, sheet] {
         const PictureBox::Geometry& place = form.Picture0.geometry();
         sheet->setGeometry(QRectF(place.left / kTwipsPerPixel, place.top / kTwipsPerPixel,
@@ -94,7 +94,6 @@ PrintViewWindow::PrintViewWindow(PrintView& form, QWidget* parent)
 
 PrintViewWindow::~PrintViewWindow() {
     form_.onUnload = nullptr;
-    delete binding_;
 }
 
 void PrintViewWindow::resizeEvent(QResizeEvent* event) {

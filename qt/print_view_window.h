@@ -4,6 +4,7 @@
 #include "qt/form_binding.h"
 
 #include <QDialog>
+#include <memory>
 
 namespace parabolt {
 
@@ -18,7 +19,7 @@ protected:
 
 private:
     PrintView& form_;
-    FormBinding* binding_;
+    std::unique_ptr<FormBinding> binding_;
 };
 
 } // namespace parabolt

@@ -1,8 +1,8 @@
 #include "qt/printer.h"
 
 #include "qt/dialogs.h"
-#include "qt/form_binding.h"
 #include "qt/page_painter.h"
+#include "qt/text.h"
 
 #include <QApplication>
 #include <QBuffer>

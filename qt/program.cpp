@@ -4,10 +4,12 @@
 #include "qt/club_editor_window.h"
 #include "qt/print_view_window.h"
 #include "qt/splash_window.h"
+#include "qt/text.h"
 #include "shell/build_values.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QShortcut>
 
 namespace parabolt {
 namespace {
@@ -63,7 +65,9 @@ void Program::showClubEditor() {
 
 void Program::showPrintView() {
     PrintView view(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
-    PrintViewWindow(view, window_.get()).exec();
+    PrintViewWindow window(view, window_.get());
+    const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
+    window.exec();
 }
 
 void Program::showAbout() {

@@ -1,6 +1,6 @@
 #include "qt/rich_text_binding.h"
 
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QPlainTextEdit>
 #include <QScopedValueRollback>

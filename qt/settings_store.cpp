@@ -1,6 +1,6 @@
 #include "qt/settings_store.h"
 
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QSettings>
 

@@ -1,6 +1,6 @@
 #include "qt/splash_window.h"
 
-#include "qt/form_binding.h"
+#include "qt/text.h"
 
 #include <QFrame>
 #include <QGridLayout>

@@ -26,7 +26,7 @@ void FillInBatch::RunFillInBatch() {
 bool FillInBatch::shoot(std::int16_t club) {
     form_.cmbClubNo.select(form_.cmbClubNo.indexOf(std::to_string(club)));
     form_.shot.ClubNo = club;
-    if (driver_.told(driver_.PrepareLaunch()))
+    if (driver_.reportFault(driver_.PrepareLaunch()))
         return true;
     driver_.countRun();
     driver_.flyAndDraw();

@@ -12,6 +12,7 @@ class FillInBatch {
 public:
     FillInBatch(MainForm& form, RunDriver& driver, Pause& pause);
 
+    /// The air must have been computed before.
     void RunFillInBatch();
 
 private:

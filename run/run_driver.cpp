@@ -3,6 +3,7 @@
 #include "engine/air.h"
 #include "engine/flight.h"
 #include "engine/impact.h"
+#include "engine/units.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 #include "results/result_table.h"
@@ -35,9 +36,9 @@ constexpr std::array<Rgb, 12> kCurveColors = {{
 ImpactSources impactSources(const MainForm& form) {
     ImpactSources sources;
     const int mode = operatingMode(form);
-    if (mode == 1 || mode == 3)
+    if (mode == kDefaultMode || mode == kAutoMode)
         sources.club = playableClub(form.clubs, form.optIron.selected(), form.shot.ClubNo);
-    sources.wholeRecord = mode == 3 && form.chkBatch.checked();
+    sources.wholeRecord = mode == kAutoMode && form.chkBatch.checked();
     if (form.optActual.selected())
         sources.measuredLaunchAngle = leadingNumber(form.txtLaunchAngle.text());
     return sources;
@@ -83,7 +84,7 @@ void RunDriver::Command1_Click() {
     const std::string& mode = form_.txtMode.text();
     if (mode == "3") {
         ClearRuns();
-        if (!told(ComputeEnvironment()))
+        if (!reportFault(ComputeEnvironment()))
             RunFillInBatch();
     } else if (mode == "0" || mode == "1" || mode == "2" || mode == "4") {
         auto fault = ComputeEnvironment();
@@ -91,7 +92,7 @@ void RunDriver::Command1_Click() {
             fault = PrepareLaunch();
         if (fault)
             takeBackRun();
-        if (told(fault))
+        if (reportFault(fault))
             return;
         flyAndDraw();
         WriteResultRow();
@@ -134,7 +135,7 @@ std::optional<Fault> RunDriver::ComputeEnvironment() {
 }
 
 std::optional<Fault> RunDriver::PrepareLaunch() {
-    if (operatingMode(form_) > 0) {
+    if (operatingMode(form_) > kLaunchMode) {
         const ImpactSources sources = impactSources(form_);
         ShotState launched = form_.shot; // a launch that fails leaves the one that the fields show
         if (const auto fault = GetLoftAngle(launched, sources))
@@ -142,11 +143,11 @@ std::optional<Fault> RunDriver::PrepareLaunch() {
         form_.shot = launched;
         showLaunch(form_, sources);
     }
-    form_.shot.LaunchSpeedMs = store32(form_.shot.LaunchSpeed * 0.44704);
+    form_.shot.LaunchSpeedMs = store32(form_.shot.LaunchSpeed * kMetresPerSecondPerMph);
     return std::nullopt;
 }
 
-bool RunDriver::told(std::optional<Fault> fault) {
+bool RunDriver::reportFault(std::optional<Fault> fault) {
     if (fault)
         messages_.show(faultDescription(*fault));
     return fault.has_value();
@@ -166,7 +167,7 @@ void RunDriver::SetCurveColor() {
 void RunDriver::SimulateFlight() {
     const RunTags tags{roundTo<std::int16_t>(leadingNumber(form_.txtMode.text())).value_or(0),
                        form_.optWood.selected()};
-    told(parabolt::SimulateFlight(form_.shot, tags, form_.Runs.back()));
+    reportFault(parabolt::SimulateFlight(form_.shot, tags, form_.Runs.back()));
 }
 
 void RunDriver::WriteResultRow() {

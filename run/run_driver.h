@@ -34,7 +34,7 @@ public:
     /// shows it in the fields. The fault if the swing has no launch.
     std::optional<Fault> PrepareLaunch();
     /// Tells the user of a fault; true if there is one.
-    bool told(std::optional<Fault> fault);
+    bool reportFault(std::optional<Fault> fault);
     /// Counts one more data set.
     void countRun();
     /// Flies the counted data set, in its colour, and draws all. A failed flight is shown; its data

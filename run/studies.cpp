@@ -48,7 +48,7 @@ void Studies::study(const Sweep& sweep) {
         progress_.ProgressBar1.setValue(progress_.ProgressBar1.least());
         if (progress_.onShow)
             progress_.onShow(true);
-        found = !driver_.told(driver_.PrepareLaunch()) && climb(sweep);
+        found = !driver_.reportFault(driver_.PrepareLaunch()) && climb(sweep);
         if (found)
             set(sweep, leadingNumber((form_.*sweep.field).text()) - sweep.step);
         if (progress_.onShow)
@@ -66,7 +66,8 @@ bool Studies::climb(const Sweep& sweep) {
     for (int value = sweep.first; value <= sweep.last; value += sweep.step) {
         bar.setValue(bar.greatest() > bar.value() ? bar.value() + 1 : 0);
         set(sweep, value);
-        if (driver_.told(driver_.ComputeEnvironment()) || driver_.told(driver_.PrepareLaunch()))
+        if (driver_.reportFault(driver_.ComputeEnvironment()) ||
+            driver_.reportFault(driver_.PrepareLaunch()))
             return false;
         const float carry = SimulateCarry(form_.shot);
         if (previous > carry)

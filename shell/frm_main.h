@@ -31,6 +31,8 @@ public:
 
     MainForm form;
     ProgressForm frmProgress;
+    PlotPanel plot; ///< lays out and draws the plot when the view says what size the form has
+    Pause pause;    ///< of a study or batch; the view can stop it
 
     // The forms and the end of the program, which the view brings about.
     std::function<void()> showClubEditor; ///< `frmClubParams`, modal
@@ -42,11 +44,6 @@ private:
     void wireMenus(Desktop& desktop);
     void ResetAll();
 
-public:
-    PlotPanel plot;
-    Pause pause;
-
-private:
     Validators validators_;
     ClubChoice clubChoice_;
     Modes modes_;

@@ -15,7 +15,7 @@ LOGIC = GROUND | {"engine", "files", "plots", "printing", "clubs", "results"}
 MAY_SEE = {
     "numbers": set(),
     "controls": {"numbers"},
-    "engine": GROUND,
+    "engine": {"numbers"},
     "files": GROUND,
     "plots": GROUND | {"engine"},
     "printing": GROUND | {"engine", "plots"},

@@ -1,4 +1,5 @@
 #include "qt/club_editor_window.h"
+#include "qt/text.h"
 #include "tests/support/scripted_services.h"
 #include "tests/support/temporary_folder.h"
 

@@ -1,6 +1,6 @@
 #include "qt/file_dialog.h"
-#include "qt/form_binding.h"
 #include "qt/settings_store.h"
+#include "qt/text.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QApplication>
@@ -100,7 +100,8 @@ TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
 struct SettingsStoreTest : testing::Test {
     TemporaryFolder folder;
     QString before =
-        QFileInfo(QSettings(QSettings::NativeFormat, QSettings::UserScope, "any").fileName()).path();
+        QFileInfo(QSettings(QSettings::NativeFormat, QSettings::UserScope, "any").fileName())
+            .path();
     SettingsStore store;
     std::string application = "SettingsStoreTest";
     std::string file = folder.path(application + ".conf");

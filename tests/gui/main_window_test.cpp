@@ -1,6 +1,6 @@
 #include "qt/dialogs.h"
-#include "qt/form_binding.h"
 #include "qt/main_window.h"
+#include "qt/text.h"
 #include "tests/support/scripted_form.h"
 
 #include <QApplication>

@@ -1,6 +1,7 @@
 #include "plots/curves.h"
 #include "qt/print_view_window.h"
 #include "qt/printer.h"
+#include "qt/text.h"
 #include "tests/support/scripted_services.h"
 #include "tests/support/temporary_folder.h"
 

@@ -19,10 +19,10 @@ struct ClubServices {
 };
 
 /// Loads club sets into the editor and saves the applied one.
-class ClubFiles {
+class ClubFileHandlers {
 public:
-    ClubFiles(ClubForm& form, const ClubTables& clubs, ClubEditor& editor,
-              const ClubServices& services);
+    ClubFileHandlers(ClubForm& form, const ClubTables& clubs, ClubEditor& editor,
+                     const ClubServices& services);
 
     /// Fills grids and texts from a clubs file; the club set itself stays as it is. Tells the user
     /// if that fails, and leaves grids and texts alone then.

@@ -1,12 +1,12 @@
-#include "clubs/club_files.h"
+#include "clubs/club_file_handlers.h"
 
 #include "clubs/clubs_file.h"
 #include "files/file_access.h"
 
 namespace parabolt {
 
-ClubFiles::ClubFiles(ClubForm& form, const ClubTables& clubs, ClubEditor& editor,
-                     const ClubServices& services)
+ClubFileHandlers::ClubFileHandlers(ClubForm& form, const ClubTables& clubs, ClubEditor& editor,
+                                   const ClubServices& services)
     : form_(form),
       clubs_(clubs),
       editor_(editor),
@@ -19,7 +19,7 @@ ClubFiles::ClubFiles(ClubForm& form, const ClubTables& clubs, ClubEditor& editor
     form_.mnuSave.Click.connect([this] { mnuSave_Click(); });
 }
 
-void ClubFiles::mnuOpenClub_Click() {
+void ClubFileHandlers::mnuOpenClub_Click() {
     editor_.settle();
     const auto load = [this](const std::string& fileName, std::string_view) {
         ReadClubFile(fileName);
@@ -30,7 +30,7 @@ void ClubFiles::mnuOpenClub_Click() {
         messages_.show(failure->description);
 }
 
-void ClubFiles::ReadClubFile(const std::string& FileName) {
+void ClubFileHandlers::ReadClubFile(const std::string& FileName) {
     const Outcome<Bytes> data = readFileStart(FileName, kLongestClubsFile);
     if (const auto* failure = std::get_if<Failure>(&data))
         return messages_.show(readFailureMessage(*failure));
@@ -40,7 +40,7 @@ void ClubFiles::ReadClubFile(const std::string& FileName) {
         messages_.show("File mismatch!");
 }
 
-void ClubFiles::mnuSave_Click() {
+void ClubFileHandlers::mnuSave_Click() {
     editor_.settle();
     if (!editor_.ValidateClubGrids())
         return;
@@ -48,7 +48,7 @@ void ClubFiles::mnuSave_Click() {
     SaveClubFile();
 }
 
-void ClubFiles::SaveClubFile() {
+void ClubFileHandlers::SaveClubFile() {
     const auto save = [this](const std::string& fileName,
                              std::string_view ending) -> std::optional<Failure> {
         std::optional<Failure> failure;
@@ -70,7 +70,7 @@ void ClubFiles::SaveClubFile() {
     routine_.run(DialogPurpose::SaveClubs, save);
 }
 
-void ClubFiles::showPickedName() {
+void ClubFileHandlers::showPickedName() {
     form_.setCaption("Clubs Parameter - " + dialog_.pickedName);
 }
 
