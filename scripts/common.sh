@@ -1,4 +1,4 @@
-# What each command needs of the system, as Debian 12 packages; sourced by the scripts.
+# What the scripts share. First what each needs of the system, as Debian 12 packages.
 
 packages_build="g++ cmake ninja-build qt6-base-dev"
 # Metric twins of the fonts that the forms ask for.
@@ -28,6 +28,9 @@ need() {
     $root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends $missing
 }
 
+# The preset that tests and package are built by; CI takes one that turns warnings into errors.
+preset=${PARABOLT_PRESET:-release}
+
 # A compiler cache helps where there is one.
 if command -v ccache >/dev/null; then
     export CMAKE_CXX_COMPILER_LAUNCHER=ccache
@@ -35,8 +38,21 @@ fi
 
 # Configures a preset and builds a target of it: build_preset PRESET TARGET [OPTION...]
 build_preset() {
-    local preset=$1 target=$2
+    local by=$1 target=$2
     shift 2
-    cmake --preset "$preset" "$@" >/dev/null
-    cmake --build --preset "$preset" --target "$target"
+    cmake --preset "$by" "$@" >/dev/null
+    cmake --build --preset "$by" --target "$target"
+}
+
+# Waits for the window of this title and gives it the keyboard; sets `window`.
+focus() {
+    window=""
+    for _ in $(seq 100); do
+        window=$(xdotool search --onlyvisible --name "$1" || true)
+        [ -n "$window" ] && break
+        sleep 0.1
+    done
+    [ -n "$window" ] || { echo "The window '$1' did not come." >&2; exit 1; }
+    xdotool windowfocus --sync "$window"
+    sleep 0.3
 }
