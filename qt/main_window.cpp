@@ -6,7 +6,6 @@
 #include "qt/rich_text_binding.h"
 #include "qt/text.h"
 
-#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLineEdit>
@@ -182,7 +181,7 @@ void MainWindow::connectLogic() {
 /// The twip grows with the font, so that all that stands above the plot fits into its share.
 double MainWindow::pixelsPerTwip() const {
     const QSize inputs = layout_.inputs->minimumSizeHint();
-    return std::max({1 / kTwipsPerPixel, (inputs.width() + kGap) / kInputsWidth,
+    return std::max({1.0 / kTwipsPerPixel, (inputs.width() + kGap) / kInputsWidth,
                      (layout_.ball->minimumSizeHint().width() + kGap / 2) / kBallWidth,
                      layout_.panel->minimumSizeHint().height() / kUpperHeight});
 }

@@ -52,7 +52,7 @@ QWidget* rowOfControls(const PrintView& form, QWidget* parent) {
     caption->setObjectName(toQt(form.txtCaption.name()));
     label->setBuddy(caption);
     auto* layout = new QHBoxLayout(row);
-    const int gap = static_cast<int>(PrintView::kGapAtSides / kTwipsPerPixel);
+    const int gap = PrintView::kGapAtSides / kTwipsPerPixel;
     layout->setContentsMargins(gap, 0, gap, 0);
     layout->addWidget(label);
     layout->addWidget(caption, 1);
