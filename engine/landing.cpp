@@ -3,6 +3,8 @@
 #include "engine/flight_step.h"
 #include "engine/units.h"
 
+#include <cmath>
+
 namespace parabolt {
 namespace {
 
@@ -32,13 +34,13 @@ float greenRoll(const FlightState& landing) {
 std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& shot,
                                    const RunTags& tags, RunRecord& record) {
     constexpr float kFeetPerYard = 3;
-    const FaultWatch watch;
     const float roll = store32(double{greenRoll(landing)} * kFeetPerYard);
     const float spin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown);
     const float speed = store32(landing.vx / kMetresPerSecondPerMph);
     const float carry = store32(double{landing.x} * kYardsPerMetre);
-    if (const auto fault = watch.fault())
-        return fault;
+    for (const float value : {roll, spin, speed, carry})
+        if (!std::isfinite(value)) // the landing was finite: it is too large for its width
+            return Fault::Overflow;
 
     record.CarryTime = landing.t;
     record.ImpactSpin = spin;

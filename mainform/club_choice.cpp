@@ -16,7 +16,7 @@ ClubChoice::ClubChoice(MainForm& form, Validators& validators)
 
 void ClubChoice::cmbClubNo_Click() {
     takeClubNumber(form_);
-    if (operatingMode(form_) != kDefaultMode)
+    if (operatingMode(form_) != OperatingMode::Default)
         return;
     const ClubRecord* club = playableClub(form_.clubs, form_.optIron.selected(), form_.shot.ClubNo);
     if (club == nullptr)

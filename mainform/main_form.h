@@ -152,7 +152,9 @@ void listClubs(MainForm& form, bool iron);
 int runNumber(const MainForm& form);
 
 /// What `txtMode` numbers.
-enum OperatingMode : int { kLaunchMode, kDefaultMode, kManualMode, kAutoMode, kActualMode };
+struct OperatingMode {
+    enum Number : int { Launch, Default, Manual, Auto, Actual };
+};
 
 /// The number in `txtMode`.
 int operatingMode(const MainForm& form);

@@ -36,9 +36,9 @@ constexpr std::array<Rgb, 12> kCurveColors = {{
 ImpactSources impactSources(const MainForm& form) {
     ImpactSources sources;
     const int mode = operatingMode(form);
-    if (mode == kDefaultMode || mode == kAutoMode)
+    if (mode == OperatingMode::Default || mode == OperatingMode::Auto)
         sources.club = playableClub(form.clubs, form.optIron.selected(), form.shot.ClubNo);
-    sources.wholeRecord = mode == kAutoMode && form.chkBatch.checked();
+    sources.wholeRecord = mode == OperatingMode::Auto && form.chkBatch.checked();
     if (form.optActual.selected())
         sources.measuredLaunchAngle = leadingNumber(form.txtLaunchAngle.text());
     return sources;
@@ -135,7 +135,7 @@ std::optional<Fault> RunDriver::ComputeEnvironment() {
 }
 
 std::optional<Fault> RunDriver::PrepareLaunch() {
-    if (operatingMode(form_) > kLaunchMode) {
+    if (operatingMode(form_) > OperatingMode::Launch) {
         const ImpactSources sources = impactSources(form_);
         ShotState launched = form_.shot; // a launch that fails leaves the one that the fields show
         if (const auto fault = GetLoftAngle(launched, sources))
