@@ -80,15 +80,13 @@ TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
     dialog.showOpen();
     EXPECT_EQ(dialog.pickedName, "set.clb");
     EXPECT_EQ(dialog.finalFolder, folder.path("deeper"));
-    QStringList filters;
     act = [&](QFileDialog& shown) {
-        filters = shown.nameFilters();
+        EXPECT_EQ(shown.nameFilters(), QStringList({"Clubs(*.clb)", "Text (*.txt)"}));
         EXPECT_EQ(fromQt(shown.directory().absolutePath()), folder.path());
         shown.setDirectory(toQt(folder.path("deeper")));
         shown.reject();
     };
     dialog.showOpen();
-    EXPECT_EQ(filters, QStringList({"Clubs(*.clb)", "Text (*.txt)"}));
     EXPECT_EQ(dialog.fileName + dialog.pickedName, "");
     EXPECT_EQ(dialog.finalFolder, folder.path("deeper"));
     dialog.initialFolder = folder.path("gone");
@@ -100,7 +98,8 @@ TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
 struct SettingsStoreTest : testing::Test {
     TemporaryFolder folder;
     QString before =
-        QFileInfo(QSettings(QSettings::NativeFormat, QSettings::UserScope, "any").fileName()).path();
+        QFileInfo(QSettings(QSettings::NativeFormat, QSettings::UserScope, "any").fileName())
+            .path();
     SettingsStore store;
     std::string application = "SettingsStoreTest";
     std::string file = folder.path(application + ".conf");

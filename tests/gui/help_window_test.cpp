@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace parabolt {

@@ -71,18 +71,17 @@ TEST_F(ParameterFile, BringsASetUpBackIntoVariablesAndFields) {
     messages.answers = {Answer::Yes};
     form.mnuReset.Click();
     EXPECT_EQ(open(content), kNone);
-    EXPECT_EQ(bytesOfForm(), content);
-    EXPECT_EQ(form.cmbClubNo.text(), "11");
     EXPECT_TRUE(form.BallOpt2.selected());
-    std::string fields;
+    std::string fields = form.cmbClubNo.text() + " ";
     for (const TextBox* field :
          {&form.txtLaunchAngle, &form.txtBallSpin, &form.txtLaunchSpeed, &form.txtHeadSpeed,
           &form.txtSpeedIncrement, &form.txtCor, &form.txtHeadWeight, &form.txtAttackAngle,
           &form.txtBending, &form.txtLoftAngle, &form.txtTemperature, &form.txtPressure,
           &form.txtRelativeHumidity, &form.txtAltitude, &form.txtWind})
         fields += field->text() + " ";
-    EXPECT_EQ(fields, "1.125 2.125 3.125 4.125 5.125 6.12 7.125 8.125 9.125 10.125 11.125 12.125 "
-                      "13.125 14.125 -3.1 ");
+    EXPECT_EQ(fields,
+              "11 1.125 2.125 3.125 4.125 5.125 6.12 7.125 8.125 9.125 10.125 11.125 12.125 "
+              "13.125 14.125 -3.1 ");
 }
 
 TEST_F(ParameterFile, TheClubIsLookedUpByItsNumber) {
@@ -139,13 +138,10 @@ TEST_F(ParameterFile, FailuresAreToldAndCancelRemembersTheFolder) {
     EXPECT_EQ(preferences.lastPath(), "/open");
     EXPECT_EQ(bytesOfForm(), kDefaultFile);
     messages.texts.clear();
-    for (const std::string& name : {std::string(300, 'x') + ".opt", std::string("gone/shot.opt")}) {
-        files.choose(folder.path(name));
-        form.mnuOpen.Click();
-    }
+    files.choose(folder.path("gone/shot.opt"));
+    form.mnuOpen.Click();
     form.mnuSave.Click();
-    EXPECT_EQ(messages.texts,
-              Texts({"File not found!", "File mismatch!", "No such file or directory"}));
+    EXPECT_EQ(messages.texts, Texts({"File mismatch!", "No such file or directory"}));
 }
 
 } // namespace
