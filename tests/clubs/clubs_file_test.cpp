@@ -44,14 +44,12 @@ TEST(ClubsFile, EndsWhereTheLastRecordEnds) {
             broken[lengthOfText + 1] = static_cast<std::uint8_t>(high);
             EXPECT_FALSE(decodeClubs(broken)) << lengthOfText;
         }
-    for (const std::string character : {"x", "€"}) {
-        ClubTables clubs;
-        for (int i = 0; i < 65535; ++i)
-            clubs.Comment += character;
-        EXPECT_EQ(decodeClubs(encodeClubs(clubs).value())->Comment, clubs.Comment);
-        clubs.Comment += character;
-        EXPECT_FALSE(encodeClubs(clubs));
-    }
+    ClubTables clubs; // the length counts bytes of the file
+    for (int i = 0; i < 65535; ++i)
+        clubs.Comment += "€";
+    EXPECT_EQ(decodeClubs(encodeClubs(clubs).value())->Comment, clubs.Comment);
+    clubs.Comment += "x";
+    EXPECT_FALSE(encodeClubs(clubs));
 }
 
 TEST(ClubsText, ShowsTextsAndGridsLineByLine) {

@@ -4,8 +4,6 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/temporary_folder.h"
 
-#include <sstream>
-
 namespace parabolt::support {
 namespace {
 
@@ -98,12 +96,12 @@ TEST_F(FileAccess, SaysWhyAFileCannotBeUsed) {
 TEST(Preferences, FailsWithNumberAndDescription) {
     using Store = PreferencesStore;
     MemoryPreferences store;
-    std::ostringstream failures;
+    std::map<std::uint32_t, std::string> failures;
     const auto use = [&](const char* app, const char* section, const char* key) {
         const auto read = GetRegString(store, app, section, key, "");
         const auto written = SaveRegString(store, app, section, key, "x");
         for (const Failure& failure : {std::get<Failure>(read), written.value()})
-            failures << std::hex << failure.number << ' ' << failure.description << '\n';
+            failures[failure.number] += failure.description + ".";
     };
     use("a", "s", " ");
     use("a", "  ", "");
@@ -114,13 +112,15 @@ TEST(Preferences, FailsWithNumberAndDescription) {
     store.readRefusal = Store::NotText{4};
     store.writeRefusal = Store::CannotSet{112};
     use("a", "s", "k");
-    EXPECT_EQ(failures.str(),
-              "800403ea Key may not be empty\n800403ea Key may not be empty\n"
-              "800403e9 Section may not be empty\n800403e9 Section may not be empty\n"
-              "800403e8 AppName may not be empty\n800403e8 AppName may not be empty\n"
-              "800407d5 Could not open registry section\n"
-              "800407d6 Could not open/create registry section\n"
-              "800407d4 Registry data not a string\n80040840 Could not set key value\n");
+    const decltype(failures) expected{
+        {0x800403E8, "AppName may not be empty.AppName may not be empty."},
+        {0x800403E9, "Section may not be empty.Section may not be empty."},
+        {0x800403EA, "Key may not be empty.Key may not be empty."},
+        {0x800407D4, "Registry data not a string."},
+        {0x800407D5, "Could not open registry section."},
+        {0x800407D6, "Could not open/create registry section."},
+        {0x80040840, "Could not set key value."}};
+    EXPECT_EQ(failures, expected);
 }
 
 struct DialogRoutineTest : testing::Test {
@@ -142,26 +142,24 @@ struct DialogRoutineTest : testing::Test {
 TEST_F(DialogRoutineTest, JudgesANameByItsLastThreeCharacters) {
     const std::string noOpen = "The file type is not correct!";
     const std::string noSave = "The file type is not support!";
-    const struct {
-        DialogPurpose purpose;
-        const char* name;
-        std::string outcome; ///< the ending that was worked on, or the message
-    } table[] = {{OpenParameters, "/f/A.OPT", "opt"},  {OpenParameters, "/f/myopt", "opt"},
-                 {OpenParameters, "/f/a.clb", noOpen}, {OpenParameters, "a", noOpen},
-                 {SaveParameters, "/f/a.oPt", "opt"},  {SaveParameters, "/f/a", noSave},
-                 {SaveResult, "/f/a.TXT", "txt"},      {SaveResult, "/f/a.txt.bak", noSave},
-                 {OpenClubs, "/f/a.clb", "clb"},       {OpenClubs, "/f/a.txt", noOpen},
-                 {SaveClubs, "/f/a.Clb", "clb"},       {SaveClubs, "/f/a.TXT", "txt"},
-                 {SaveClubs, "/f/a.opt", noSave}};
-    for (const auto& row : table) {
+    // A name, and the ending that is worked on or the message.
+    const std::tuple<DialogPurpose, const char*, std::string> table[] = {
+        {OpenParameters, "/f/A.OPT", "opt"},  {OpenParameters, "/f/myopt", "opt"},
+        {OpenParameters, "/f/a.clb", noOpen}, {OpenParameters, "a", noOpen},
+        {SaveParameters, "/f/a.oPt", "opt"},  {SaveParameters, "/f/a", noSave},
+        {SaveResult, "/f/a.TXT", "txt"},      {SaveResult, "/f/a.txt.bak", noSave},
+        {OpenClubs, "/f/a.clb", "clb"},       {OpenClubs, "/f/a.txt", noOpen},
+        {SaveClubs, "/f/a.Clb", "clb"},       {SaveClubs, "/f/a.TXT", "txt"},
+        {SaveClubs, "/f/a.opt", noSave}};
+    for (const auto& [purpose, name, outcome] : table) {
         worked.clear();
         messages.texts.clear();
-        dialog.choose(row.name);
-        EXPECT_FALSE(run(row.purpose));
-        (row.outcome.size() == 3 ? messages.texts : worked).push_back(row.outcome);
-        EXPECT_EQ(worked, Texts{row.outcome}) << row.name;
-        EXPECT_EQ(messages.texts, Texts{row.outcome}) << row.name;
-        EXPECT_EQ(preferences.lastPath(), dialog.finalFolder) << row.name;
+        dialog.choose(name);
+        EXPECT_FALSE(run(purpose));
+        (outcome.size() == 3 ? messages.texts : worked).push_back(outcome);
+        EXPECT_EQ(worked, Texts{outcome}) << name;
+        EXPECT_EQ(messages.texts, Texts{outcome}) << name;
+        EXPECT_EQ(preferences.lastPath(), dialog.finalFolder) << name;
     }
 }
 
@@ -171,13 +169,13 @@ TEST_F(DialogRoutineTest, AllFiveStartWhereTheLastOneEnded) {
         EXPECT_FALSE(run(purpose));
         dialog.cancel(dialog.finalFolder + "/2");
     }
-    const std::vector<ScriptedFileDialog::Show> expected{
-        {false, "/program", "Open Parameters File", "Parameter File(*.opt)|*.opt"},
-        {true, "/1", "Save All Parameters To File", "Parameters File(*.opt)|*.opt"},
-        {true, "/1/2", "Save Result To A Text File", "Text File(*.txt)|*.txt"},
-        {false, "/1/2/2", "Open Clubs Parameter File", "Clubs Parameter File(*.clb)|*.clb"},
-        {true, "/1/2/2/2", "Save Clubs Parameter To File",
-         "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt"}};
+    const Texts expected{
+        "open in /program: Open Parameters File, Parameter File(*.opt)|*.opt",
+        "save in /1: Save All Parameters To File, Parameters File(*.opt)|*.opt",
+        "save in /1/2: Save Result To A Text File, Text File(*.txt)|*.txt",
+        "open in /1/2/2: Open Clubs Parameter File, Clubs Parameter File(*.clb)|*.clb",
+        "save in /1/2/2/2: Save Clubs Parameter To File, "
+        "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt"};
     EXPECT_EQ(dialog.shows, expected);
 }
 
