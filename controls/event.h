@@ -17,7 +17,6 @@ public:
         for (const auto& handler : handlers_)
             handler(args...);
     }
-    bool connected() const { return !handlers_.empty(); }
 
 private:
     std::vector<std::function<void(Args...)>> handlers_;

@@ -95,31 +95,32 @@ TEST_F(FileAccess, SaysWhyAFileCannotBeUsed) {
 
 TEST(Preferences, FailsWithNumberAndDescription) {
     using Store = PreferencesStore;
-    const struct {
-        const char *app, *section, *key;
-        std::optional<Store::ReadResult> read;
-        std::optional<Store::WriteResult> write;
-        std::uint32_t readNumber, writeNumber;
-        std::string readText, writeText; ///< the latter empty if it is the same
-    } table[] = {{"  ", "", "", {}, {}, 0x800403E8, 0x800403E8, "AppName may not be empty", ""},
-                 {"a", "  ", "", {}, {}, 0x800403E9, 0x800403E9, "Section may not be empty", ""},
-                 {"a", "s", " ", {}, {}, 0x800403EA, 0x800403EA, "Key may not be empty", ""},
-                 {"a", "s", "k", Store::CannotOpen{5}, Store::CannotOpen{6}, 0x800407D5, 0x800407D6,
-                  "Could not open registry section", "Could not open/create registry section"},
-                 {"a", "s", "k", Store::NotText{4}, Store::CannotSet{112}, 0x800407D4, 0x80040840,
-                  "Registry data not a string", "Could not set key value"}};
-    for (const auto& row : table) {
-        MemoryPreferences store;
-        store.readRefusal = row.read;
-        store.writeRefusal = row.write;
-        const auto read = GetRegString(store, row.app, row.section, row.key, "");
-        const auto written = SaveRegString(store, row.app, row.section, row.key, "x");
-        ASSERT_TRUE(std::holds_alternative<Failure>(read) && written);
-        EXPECT_EQ(std::get<Failure>(read).number, row.readNumber);
-        EXPECT_EQ(std::get<Failure>(read).description, row.readText);
-        EXPECT_EQ(written->number, row.writeNumber);
-        EXPECT_EQ(written->description, row.writeText.empty() ? row.readText : row.writeText);
-    }
+    MemoryPreferences store;
+    std::map<std::uint32_t, std::string> failures;
+    const auto use = [&](const char* app, const char* section, const char* key) {
+        const auto read = GetRegString(store, app, section, key, "");
+        const auto written = SaveRegString(store, app, section, key, "x");
+        for (const Failure& failure : {std::get<Failure>(read), written.value()})
+            failures[failure.number] += failure.description + ".";
+    };
+    use("a", "s", " ");
+    use("a", "  ", "");
+    use("  ", "", "");
+    store.readRefusal = Store::CannotOpen{5};
+    store.writeRefusal = Store::CannotOpen{6};
+    use("a", "s", "k");
+    store.readRefusal = Store::NotText{4};
+    store.writeRefusal = Store::CannotSet{112};
+    use("a", "s", "k");
+    const decltype(failures) expected{
+        {0x800403E8, "AppName may not be empty.AppName may not be empty."},
+        {0x800403E9, "Section may not be empty.Section may not be empty."},
+        {0x800403EA, "Key may not be empty.Key may not be empty."},
+        {0x800407D4, "Registry data not a string."},
+        {0x800407D5, "Could not open registry section."},
+        {0x800407D6, "Could not open/create registry section."},
+        {0x80040840, "Could not set key value."}};
+    EXPECT_EQ(failures, expected);
 }
 
 struct DialogRoutineTest : testing::Test {
@@ -141,26 +142,24 @@ struct DialogRoutineTest : testing::Test {
 TEST_F(DialogRoutineTest, JudgesANameByItsLastThreeCharacters) {
     const std::string noOpen = "The file type is not correct!";
     const std::string noSave = "The file type is not support!";
-    const struct {
-        DialogPurpose purpose;
-        const char* name;
-        std::string outcome; ///< the ending that was worked on, or the message
-    } table[] = {{OpenParameters, "/f/A.OPT", "opt"},  {OpenParameters, "/f/myopt", "opt"},
-                 {OpenParameters, "/f/a.clb", noOpen}, {OpenParameters, "a", noOpen},
-                 {SaveParameters, "/f/a.oPt", "opt"},  {SaveParameters, "/f/a", noSave},
-                 {SaveResult, "/f/a.TXT", "txt"},      {SaveResult, "/f/a.txt.bak", noSave},
-                 {OpenClubs, "/f/a.clb", "clb"},       {OpenClubs, "/f/a.txt", noOpen},
-                 {SaveClubs, "/f/a.Clb", "clb"},       {SaveClubs, "/f/a.TXT", "txt"},
-                 {SaveClubs, "/f/a.opt", noSave}};
-    for (const auto& row : table) {
+    // A name, and the ending that is worked on or the message.
+    const std::tuple<DialogPurpose, const char*, std::string> table[] = {
+        {OpenParameters, "/f/A.OPT", "opt"},  {OpenParameters, "/f/myopt", "opt"},
+        {OpenParameters, "/f/a.clb", noOpen}, {OpenParameters, "a", noOpen},
+        {SaveParameters, "/f/a.oPt", "opt"},  {SaveParameters, "/f/a", noSave},
+        {SaveResult, "/f/a.TXT", "txt"},      {SaveResult, "/f/a.txt.bak", noSave},
+        {OpenClubs, "/f/a.clb", "clb"},       {OpenClubs, "/f/a.txt", noOpen},
+        {SaveClubs, "/f/a.Clb", "clb"},       {SaveClubs, "/f/a.TXT", "txt"},
+        {SaveClubs, "/f/a.opt", noSave}};
+    for (const auto& [purpose, name, outcome] : table) {
         worked.clear();
         messages.texts.clear();
-        dialog.choose(row.name);
-        EXPECT_FALSE(run(row.purpose));
-        (row.outcome.size() == 3 ? messages.texts : worked).push_back(row.outcome);
-        EXPECT_EQ(worked, Texts{row.outcome}) << row.name;
-        EXPECT_EQ(messages.texts, Texts{row.outcome}) << row.name;
-        EXPECT_EQ(preferences.lastPath(), dialog.finalFolder) << row.name;
+        dialog.choose(name);
+        EXPECT_FALSE(run(purpose));
+        (outcome.size() == 3 ? messages.texts : worked).push_back(outcome);
+        EXPECT_EQ(worked, Texts{outcome}) << name;
+        EXPECT_EQ(messages.texts, Texts{outcome}) << name;
+        EXPECT_EQ(preferences.lastPath(), dialog.finalFolder) << name;
     }
 }
 
@@ -170,13 +169,13 @@ TEST_F(DialogRoutineTest, AllFiveStartWhereTheLastOneEnded) {
         EXPECT_FALSE(run(purpose));
         dialog.cancel(dialog.finalFolder + "/2");
     }
-    const std::vector<ScriptedFileDialog::Show> expected{
-        {false, "/program", "Open Parameters File", "Parameter File(*.opt)|*.opt"},
-        {true, "/1", "Save All Parameters To File", "Parameters File(*.opt)|*.opt"},
-        {true, "/1/2", "Save Result To A Text File", "Text File(*.txt)|*.txt"},
-        {false, "/1/2/2", "Open Clubs Parameter File", "Clubs Parameter File(*.clb)|*.clb"},
-        {true, "/1/2/2/2", "Save Clubs Parameter To File",
-         "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt"}};
+    const Texts expected{
+        "open in /program: Open Parameters File, Parameter File(*.opt)|*.opt",
+        "save in /1: Save All Parameters To File, Parameters File(*.opt)|*.opt",
+        "save in /1/2: Save Result To A Text File, Text File(*.txt)|*.txt",
+        "open in /1/2/2: Open Clubs Parameter File, Clubs Parameter File(*.clb)|*.clb",
+        "save in /1/2/2/2: Save Clubs Parameter To File, "
+        "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt"};
     EXPECT_EQ(dialog.shows, expected);
 }
 

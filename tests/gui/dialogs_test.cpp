@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -79,16 +78,13 @@ TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
     act = typing(folder.path("deeper/set.clb"));
     dialog.showOpen();
     EXPECT_EQ(dialog.pickedName, "set.clb");
-    EXPECT_EQ(dialog.finalFolder, folder.path("deeper"));
-    QStringList filters;
     act = [&](QFileDialog& shown) {
-        filters = shown.nameFilters();
+        EXPECT_EQ(shown.nameFilters(), QStringList({"Clubs(*.clb)", "Text (*.txt)"}));
         EXPECT_EQ(fromQt(shown.directory().absolutePath()), folder.path());
         shown.setDirectory(toQt(folder.path("deeper")));
         shown.reject();
     };
     dialog.showOpen();
-    EXPECT_EQ(filters, QStringList({"Clubs(*.clb)", "Text (*.txt)"}));
     EXPECT_EQ(dialog.fileName + dialog.pickedName, "");
     EXPECT_EQ(dialog.finalFolder, folder.path("deeper"));
     dialog.initialFolder = folder.path("gone");
@@ -97,39 +93,26 @@ TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
     EXPECT_EQ(dialog.finalFolder, fromQt(QDir::homePath()));
 }
 
-struct SettingsStoreTest : testing::Test {
-    TemporaryFolder folder;
-    QString before =
-        QFileInfo(QSettings(QSettings::NativeFormat, QSettings::UserScope, "any").fileName())
-            .path();
+TEST(SettingsStore, GivesTextsBackWholeOrSaysWhyNot) {
     SettingsStore store;
     std::string application = "SettingsStoreTest";
-    std::string file = folder.path(application + ".conf");
-
-    SettingsStoreTest() { keepSettingsIn(toQt(folder.path())); }
-    ~SettingsStoreTest() override { keepSettingsIn(before); }
-    static void keepSettingsIn(const QString& path) {
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, path);
-    }
-    /// The stored text, or why there is none.
-    std::string text(std::string_view key) {
-        const auto value = GetRegString(store, application, "startup", key, "default");
+    std::string file = fromQt(
+        QSettings(QSettings::NativeFormat, QSettings::UserScope, toQt(application)).fileName());
+    const auto text = [&] { // or why there is none
+        const auto value = GetRegString(store, application, "startup", "LastPath", "default");
         const auto* failure = std::get_if<Failure>(&value);
         return failure != nullptr ? failure->description : std::get<std::string>(value);
-    }
-    std::string save(std::string_view value) {
+    };
+    const auto save = [&](std::string_view value) {
         const auto failure = SaveRegString(store, application, "Startup", "LastPath", value);
         return failure ? failure->description : "";
-    }
-};
-
-TEST_F(SettingsStoreTest, GivesTextsBackWholeOrSaysWhyNot) {
-    EXPECT_EQ(text("LastPath"), "default");
+    };
+    EXPECT_EQ(text(), "default");
     EXPECT_FALSE(std::filesystem::exists(file)) << "reading must not create it";
     for (const char* value : {"/home/j\u00F6rg/\u0141\u00F3d\u017A", "", "a, b;c=\"d\"\\",
                               "@Invalid()", " blanks ", "%41[x]\n/#", "/home"}) {
         EXPECT_EQ(save(value), "");
-        EXPECT_EQ(text("LastPath"), value);
+        EXPECT_EQ(text(), value);
     }
     {
         const FailingDisk disk(10);
@@ -137,8 +120,8 @@ TEST_F(SettingsStoreTest, GivesTextsBackWholeOrSaysWhyNot) {
     }
     EXPECT_NE(contentOf(file).find("/home"), std::string::npos);
     application += "2"; // what Qt knows of a file outlives it
-    std::filesystem::create_directory(folder.path(application + ".conf"));
-    EXPECT_EQ(text("LastPath"), "Could not open registry section");
+    std::filesystem::create_directory(file.insert(file.rfind('.'), "2"));
+    EXPECT_EQ(text(), "Could not open registry section");
     EXPECT_EQ(save("/home"), "Could not open/create registry section");
 }
 

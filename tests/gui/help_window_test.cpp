@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QTest>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace parabolt {
@@ -22,21 +23,16 @@ QString page(const QString& name) {
     return QString::fromUtf8(file.readAll());
 }
 
-struct Help : testing::Test {
-    QStringList listed() const {
-        QStringList titles;
+TEST(Help, ListsEveryPageAndEveryLinkLeadsToOne) {
+    HelpWindow window{kManual};
+    const auto listed = [contents = window.findChild<QListWidget*>("helpContents")] {
+        QStringList shown;
         for (int row = 0; row < contents->count(); ++row)
             if (!contents->item(row)->isHidden())
-                titles += contents->item(row)->text();
-        titles.sort();
-        return titles;
-    }
-
-    HelpWindow window{kManual};
-    QListWidget* contents = window.findChild<QListWidget*>("helpContents");
-};
-
-TEST_F(Help, ListsEveryPageAndEveryLinkLeadsToOne) {
+                shown += contents->item(row)->text();
+        shown.sort();
+        return shown;
+    };
     static const QRegularExpression link("href=\"([^\"]*)\"");
     QStringList titles;
     for (const QString& file : QDir(kManual).entryList({"*.html"})) {

@@ -60,16 +60,13 @@ TEST(TextNumber, ShowsTheFewestDigits) {
 }
 
 TEST(TextNumber, PatternsSetTheDecimals) {
-    const struct {
-        double value;
-        const char *pattern, *text;
-    } table[] = {
+    const std::tuple<double, const char*, const char*> table[] = {
         {0.5, ".0", ".5"},      {0, ".0", ".0"},       {148.356, ".0", "148.4"},
         {-0.5, ".0", "-.5"},    {0.8, "0.00", "0.80"}, {-3.456, "0.00", "-3.46"},
         {2304.4, "0", "2304"},  {2.5, "0", "2"},       {3.5, "0", "4"},
         {99.96, ".0", "100.0"}, {0.96, ".0", "1.0"},   {1e20, "0", "100000000000000000000"}};
-    for (const auto& row : table)
-        EXPECT_EQ(formatPattern(row.value, row.pattern), row.text) << row.value;
+    for (const auto& [value, pattern, text] : table)
+        EXPECT_EQ(formatPattern(value, pattern), text) << value;
 }
 
 TEST(TextNumber, ALocaleWithACommaChangesNothing) {

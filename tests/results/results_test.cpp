@@ -5,9 +5,7 @@
 namespace parabolt::support {
 namespace {
 
-struct ResultTable : testing::Test, ScriptedForm {
-    TemporaryFolder folder;
-};
+struct ResultTable : testing::Test, ScriptedForm {};
 
 TEST_F(ResultTable, ShowsTheWorkedShotToTheCharacter) {
     form.optLaunch.select();
@@ -45,13 +43,12 @@ TEST_F(ResultTable, CellsKeepTheirColumnsForUnusualValues) {
 
 TEST_F(ResultTable, TheCaretDecidesWhereARowGoes) {
     run(3);
-    const struct {
-        std::size_t line, column, expected; ///< the caret before a run; place of its row
-    } table[] = {{0, 0, 0}, {4, 0, 1}, {8, 20, 5}};
-    for (const auto& row : table) {
-        form.txtResult.setCaret(*form.txtResult.lineStart(row.line) + row.column);
+    // The caret's line and column before a run, and the place of its row.
+    for (const auto& [line, column, place] :
+         {std::tuple{0U, 0U, 0U}, {4U, 0U, 1U}, {8U, 20U, 5U}}) {
+        form.txtResult.setCaret(*form.txtResult.lineStart(line) + column);
         run();
-        EXPECT_TRUE(rows().at(row.expected).starts_with("  W-1/" + form.txtRun.text())) << row.line;
+        EXPECT_TRUE(rows().at(place).starts_with("  W-1/" + form.txtRun.text())) << line;
     }
     run();
     EXPECT_TRUE(rows().back().starts_with("  W-1/7"));
@@ -67,14 +64,13 @@ TEST_F(ResultTable, RowsHaveTheColourOfTheirCurveAndStayInView) {
     run(8);
     EXPECT_EQ(scrolls, (std::vector<int>{1, 2})); // from the eleventh line on
     run(5);
-    ASSERT_EQ(colours.size(), 14U); // the first run writes the headings again
-    EXPECT_EQ(colours[0], kBlack);
-    EXPECT_EQ(colours[1], (Rgb{255, 0, 0}));
-    EXPECT_EQ(colours[12], form.Runs[12].CurveColor);
-    EXPECT_EQ(colours[12], (Rgb{160, 82, 45}));
+    EXPECT_EQ(colours.at(0), kBlack); // the headings
+    EXPECT_EQ(colours.at(1), (Rgb{255, 0, 0}));
+    EXPECT_EQ(colours.at(12), (Rgb{160, 82, 45}));
 }
 
 TEST_F(ResultTable, IsSavedWithWindowsLineEndsAndAnEmptyLine) {
+    const TemporaryFolder folder;
     const std::string name = folder.path("table.TXT");
     files.choose(name);
     const std::pair<const char*, std::string> table[] = {

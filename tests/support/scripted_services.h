@@ -34,15 +34,13 @@ struct ScriptedMessageBoxes : MessageBoxes {
 
 /// A file dialog that records how it was shown and ends as a test says beforehand.
 struct ScriptedFileDialog : FileDialog {
-    struct Show {
-        bool save = false;
-        std::string initialFolder, title, filter;
-        friend bool operator==(const Show&, const Show&) = default;
-    };
-    std::vector<Show> shows;
+    Texts shows; ///< how, where, and with which title and filter
 
-    void showOpen() override { shows.push_back({false, initialFolder, title, filter}); }
-    void showSave() override { shows.push_back({true, initialFolder, title, filter}); }
+    void showOpen() override { show("open"); }
+    void showSave() override { show("save"); }
+    void show(const std::string& how) {
+        shows.push_back(how + " in " + initialFolder + ": " + title + ", " + filter);
+    }
 
     /// The user picks a file of this full path.
     void choose(const std::string& path) {
