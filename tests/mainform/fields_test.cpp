@@ -115,6 +115,8 @@ TEST_F(Validators, AcceptLimitsAndRefuseWhatLiesBeyond) {
         {&MainForm::txtWind, "-35", "", "-35"},
         {&MainForm::txtWind, "36", "Enter a value between -35 and 35 mph", "0"},
         {&MainForm::txtWind, "calm", "Enter a value between 0 and 35 mph", "0"},
+        {&MainForm::txtRelativeHumidity, "-1", "Enter a value between 0 and 100 % for rel", "50"},
+        {&MainForm::txtRelativeHumidity, "wet", "Enter a value between 0 and 100 % for Rel", "50"},
         {&MainForm::txtLaunchAngle, "55.5", "The comb", "9.5"},
     };
     for (const auto& row : table) {
