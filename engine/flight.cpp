@@ -8,18 +8,24 @@
 namespace parabolt {
 namespace {
 
+/// How a flight went on as far as it went.
+struct Flown {
+    FlightState ball; ///< behind the last step
+    bool landed;      ///< false if that step had no result, or `onStep` ended the flight
+};
+
 /// Flies the ball down to the first step below the ground and hands each completed step to
-/// `onStep`, which says whether the flight may go on. False if it was ended by that or by a step
-/// without a result; the state is then that of the step. Both kinds of flight are this one loop.
+/// `onStep`, which says whether the flight may go on. Both kinds of flight are this one loop. The
+/// ball is passed by value: nobody else can see it, so it stays in registers.
 template <class OnStep>
-inline bool fly(FlightState& ball, const FlightAir& air, OnStep onStep) {
+inline Flown fly(FlightState ball, const FlightAir& air, OnStep onStep) {
     while (!(ball.y < 0)) {
         advance(ball, air);
         if (!hasResult(ball) || !onStep(ball))
-            return false;
+            return {ball, false};
         ball.t += kTimeStep;
     }
-    return true;
+    return {ball, true};
 }
 
 /// Tells why a flight came to its end in mid-air. Off the path of a sound flight: the faulty step
@@ -45,16 +51,16 @@ std::optional<Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, 
     record.Path.reserve(kUsualSteps);
     record.Path.push_back({});
 
-    FlightState ball = launchState(shot);
     int steps = 0;
-    const bool landed = fly(ball, flightAir(shot), [&](const FlightState& now) {
-        if (steps == kMostSteps)
-            return false;
-        ++steps;
-        record.Path.push_back(
-            {store32(double{now.x} * kYardsPerMetre), store32(double{now.y} * kYardsPerMetre)});
-        return true;
-    });
+    const auto [ball, landed] =
+        fly(launchState(shot), flightAir(shot), [&](const FlightState& now) {
+            if (steps == kMostSteps)
+                return false;
+            ++steps;
+            record.Path.push_back(
+                {store32(double{now.x} * kYardsPerMetre), store32(double{now.y} * kYardsPerMetre)});
+            return true;
+        });
     if (!landed)
         return steps == kMostSteps ? Fault::TooManySteps : diagnose(shot);
     return recordLanding(ball, shot, tags, record);
@@ -74,10 +80,8 @@ float SimulateCarry(const ShotState& shot) {
         return now.x != kept.x || now.y != kept.y || now.vx != kept.vx || now.vy != kept.vy ||
                now.w != kept.w;
     };
-    FlightState ball = launchState(shot);
-    if (!fly(ball, flightAir(shot), goesOn))
-        return 0;
-    return store32(double{ball.x} * kYardsPerMetre);
+    const auto [ball, landed] = fly(launchState(shot), flightAir(shot), goesOn);
+    return landed ? store32(double{ball.x} * kYardsPerMetre) : 0;
 }
 
 } // namespace parabolt

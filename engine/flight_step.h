@@ -53,7 +53,6 @@ inline FlightState launchState(const ShotState& shot) {
 ///     drag  Cd = 0.243 + 0.18 S + 0.06 sin(pi (Re - 90000) / 200000)
 ///     spin  Cm = 0.032 S
 inline void advance(FlightState& ball, const FlightAir& air) {
-    const double theta = ball.theta;
     const double along = double{ball.vx} + air.headWind;
     const float speedSquared = store32(double{ball.vy} * ball.vy + along * along);
     const double speed = std::sqrt(double{speedSquared});
@@ -75,6 +74,9 @@ inline void advance(FlightState& ball, const FlightAir& air) {
     const float moment = store32(
         ((((double{decay} * air.density) * speedSquared) * kFlightPi) * kDiameterCubed) / 16);
 
+    // Widened here and not above: gcc computes both of these where their argument comes into being,
+    // and up there they would wait for the step before and hold up the power and the sine.
+    const double theta = ball.theta;
     const double cosTheta = std::cos(theta);
     const double sinTheta = std::sin(theta);
     const float ax = store32((-double{dragForce} * cosTheta - liftForce * sinTheta) / kBallMass);
