@@ -59,8 +59,7 @@ lines = [
     f"One flight of {steps:.0f} steps: {least_ns / steps:.1f} ns a step, {1e9 / least_ns:.0f} flights a second; "
     f"allocations a flight: {flight['allocations']:.3g}.",
     "", *head, *rows(engine, ENGINE),
-    "", "In the form, on a virtual display. The yardstick is the bare loop in that process: what the window's libraries",
-    "leave in the vector registers slows scalar code down on some processors.",
+    "", "In the form, on a virtual display:",
     "", *head, *rows(form, FORM),
     "", f"Start to a painted main form, splash aside: {context['start_ms']} ms (target: below 500).",
     f"Resident memory with 24 data sets: {context['resident_mb']} MB (target: below 100).",

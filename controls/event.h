@@ -17,6 +17,7 @@ public:
         for (const auto& handler : handlers_)
             handler(args...);
     }
+    bool connected() const { return !handlers_.empty(); }
 
 private:
     std::vector<std::function<void(Args...)>> handlers_;

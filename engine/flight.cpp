@@ -2,6 +2,7 @@
 
 #include "engine/flight_step.h"
 #include "engine/landing.h"
+#include "numbers/vector_state.h"
 
 #include <limits>
 
@@ -19,6 +20,7 @@ struct Flown {
 /// ball is passed by value: nobody else can see it, so it stays in registers.
 template <class OnStep>
 inline Flown fly(FlightState ball, const FlightAir& air, OnStep onStep) {
+    releaseVectorState();
     while (!(ball.y < 0)) {
         advance(ball, air);
         if (!hasResult(ball) || !onStep(ball))

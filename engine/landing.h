@@ -10,7 +10,7 @@ namespace parabolt {
 float greenRoll(const FlightState& landing);
 
 /// Ends a recording flight: the outcome and the copies of the inputs into the record. `Path` and
-/// `CurveColor` stay. A store that overflows leaves the record as far as it has come.
+/// `CurveColor` stay. If one overflows, the record has none of them.
 std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& shot,
                                    const RunTags& tags, RunRecord& record);
 

@@ -26,7 +26,7 @@ public:
     using WriteResult = std::variant<Written, CannotOpen, CannotSet>;
 
     virtual ~PreferencesStore() = default;
-    // The callers have trimmed the names and folded the section's case.
+    // The callers have trimmed application and section and folded the section's case.
     virtual ReadResult read(const std::string& application, const std::string& section,
                             const std::string& key) = 0;
     virtual WriteResult write(const std::string& application, const std::string& section,

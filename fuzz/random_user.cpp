@@ -12,6 +12,8 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <cstdio>
+#include <cstdlib>
 #include <random>
 
 namespace parabolt {
@@ -61,7 +63,11 @@ private:
         QWidget* window = front();
         if (window == nullptr)
             return;
+        if (!window->isActiveWindow()) // no window manager does it
+            window->activateWindow();
         check();
+        if (form_.Timer1.enabled() && roll(20) == 0) // or most would happen in studies and batches
+            return QTest::keyClick(window, Qt::Key_Escape);
         const QList<QWidget*> all = window->findChildren<QWidget*>();
         QWidget* widget =
             all.isEmpty() || roll(6) == 0 ? window : all[roll(static_cast<int>(all.size()))];
@@ -139,8 +145,9 @@ void putFile(const QString& name, const QByteArray& content) {
 int main(int argc, char** argv) {
     using namespace parabolt;
     const QTemporaryDir folder;
-    qputenv("XDG_CONFIG_HOME", folder.path().toUtf8()); // the preferences of a user of its own
-    qputenv("CUPS_SERVER", "/nonexistent");             // it must not reach a printer
+    for (const char* home : {"HOME", "XDG_CONFIG_HOME"}) // a home and preferences of its own
+        qputenv(home, folder.path().toUtf8());
+    qputenv("CUPS_SERVER", "/nonexistent"); // it must not reach a printer
     QApplication application(argc, argv);
     const auto seed = static_cast<std::uint32_t>(argc > 1 ? std::atol(argv[1]) : 1);
     const long events = argc > 2 ? std::atol(argv[2]) : 1500;

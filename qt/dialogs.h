@@ -6,8 +6,8 @@ class QWidget;
 
 namespace parabolt {
 
-/// The window that a dialog belongs to, also while another program is in front: the innermost modal
-/// one, or else the main form; null before there is one.
+/// The window that a dialog belongs to: the active one; while another program is in front, the
+/// innermost modal one or else the main form. Null before there is one.
 QWidget* frontWindow();
 
 /// Message boxes over the window in front, with the application's title.

@@ -263,7 +263,10 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
         return std::exchange(refusedPressOn_, nullptr) == watched;
     case QEvent::Wheel: // over a list that only happens to lie under the pointer
-        return qobject_cast<QComboBox*>(watched) != nullptr && window_.focusWidget() != watched;
+        if (qobject_cast<QComboBox*>(watched) == nullptr || window_.focusWidget() == watched)
+            return false;
+        event->ignore(); // what lies around it may scroll
+        return true;
     case QEvent::KeyPress: {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter)

@@ -30,7 +30,8 @@ namespace parabolt {
 /// A text box counts as left when the focus reaches another control of the window. So a message
 /// box, a menu or another program that comes up in between leaves the edit alone, and a value is
 /// judged once. Buttons and menu commands first take the focus to themselves or to the place where
-/// commands settle it; where the field being edited is refused, the command doesn't run.
+/// commands settle it; where the field being edited is refused, the command doesn't run; only the
+/// end of the program waits for nothing.
 ///
 /// Lets go of the controls when it dies; it must do so before they do.
 class FormBinding : public QObject {

@@ -6,6 +6,7 @@
 #include "qt/rich_text_binding.h"
 #include "qt/text.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLineEdit>
@@ -79,6 +80,10 @@ MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
     for (const TextBox* hidden : {&logic.form.txtMode, &logic.form.txtType})
         (new QLineEdit(centre_))->setObjectName(toQt(hidden->name()));
     room->setWidget(centre_);
+    connect(qApp, &QApplication::focusChanged, room, [this, room](QWidget*, QWidget* now) {
+        if (now != nullptr && layout_.panel->isAncestorOf(now))
+            room->ensureWidgetVisible(now);
+    });
     buildMenus();
     statusBar()->setObjectName(toQt(logic.form.StatusBar1.name()));
     statusBar()->setSizeGripEnabled(false);

@@ -3,6 +3,7 @@
 #include "controls/services.h"
 #include "mainform/main_form.h"
 
+#include <functional>
 #include <vector>
 
 namespace parabolt {

@@ -8,6 +8,8 @@
 #include "run/fill_in_batch.h"
 #include "run/studies.h"
 
+#include <functional>
+
 namespace parabolt {
 
 /// What the main form asks of the world around it.

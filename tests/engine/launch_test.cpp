@@ -69,6 +69,14 @@ TEST(Launch, ReportsAShotWithoutAResult) {
             EXPECT_TRUE(GetLoftAngle(shot, {}) ||
                         std::isfinite(shot.RPM + shot.LaunchAngle + shot.LaunchSpeed));
         }
+    ShotState shot = swing();
+    shot.h = 200000; // colder than nothing
+    EXPECT_EQ(ComputeEnvironment(shot), Fault::InvalidArgument);
+    shot.HeadWeight = 0;
+    EXPECT_EQ(GetLoftAngle(shot, {}), Fault::DivisionByZero);
+    shot.HeadWeight = 200;
+    shot.HeadSpeed = 3e38F;
+    EXPECT_EQ(GetLoftAngle(shot, {}), Fault::Overflow);
 }
 
 TEST(Impact, GivesTheWorkedFigures) {

@@ -6,6 +6,8 @@
 #include "tests/support/scripted_form.h"
 
 #include <QApplication>
+#include <cstdio>
+#include <cstdlib>
 #include <malloc.h>
 
 namespace parabolt::support {

@@ -73,6 +73,7 @@ TEST_F(MainWindowTest, WidgetsAndControlsAnswerEachOther) {
                      Qt::NoScrollPhase, false);
     QApplication::sendEvent(find("cmbClubNo"), &turn);
     EXPECT_EQ(find<QComboBox>("cmbClubNo")->currentIndex(), 0) << "without the focus";
+    EXPECT_FALSE(turn.isAccepted()) << "what lies around it may scroll";
 }
 
 TEST_F(MainWindowTest, RunFliesDrawsAndWritesARow) {

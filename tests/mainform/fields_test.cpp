@@ -141,6 +141,36 @@ TEST_F(Validators, AcceptLimitsAndRefuseWhatLiesBeyond) {
     EXPECT_EQ(messages.texts.size(), fieldRules().size());
 }
 
+TEST_F(Validators, EachFieldHasItsVariableAndItsMessage) {
+    const std::tuple<TextBox MainForm::*, float ShotState::*, float, const char*> table[] = {
+        {&MainForm::txtLaunchAngle, &ShotState::LaunchAngle, 11, "The combined launch angle"},
+        {&MainForm::txtBallSpin, &ShotState::RPM, 2100, "Enter a value between 0 and 22000 RPM"},
+        {&MainForm::txtLaunchSpeed, &ShotState::LaunchSpeed, 133, "Enter a value between 30 and"},
+        {&MainForm::txtHeadSpeed, &ShotState::HeadSpeed, 91, "Enter a head speed between 50 and"},
+        {&MainForm::txtSpeedIncrement, &ShotState::SpeedIncrement, 2, "Enter a value between 1 an"},
+        {&MainForm::txtCor, &ShotState::COR, 0.75F, "Enter a value between 0.7 and 0.9! Defau"},
+        {&MainForm::txtHeadWeight, &ShotState::HeadWeight, 201, "Enter values between 180 and 320"},
+        {&MainForm::txtAttackAngle, &ShotState::AttackAngle, 4, "Enter a value between -5 and +20"},
+        {&MainForm::txtBending, &ShotState::Bending, 3, "Enter a value between -10 and 10 degrees"},
+        {&MainForm::txtLoftAngle, &ShotState::LoftAngle, 22, "Enter values between 0 and 65 degre"},
+        {&MainForm::txtAltitude, &ShotState::h, 1200, "Enter a value between 0 and 15000 feet"},
+        {&MainForm::txtPressure, &ShotState::BaroPressure, 28,
+         "Enter a value between 25 and 34 in"},
+        {&MainForm::txtRelativeHumidity, &ShotState::RH, 44, "Enter a value between 0 and 100 % f"},
+        {&MainForm::txtTemperature, &ShotState::Temperature, 66, "Enter a value between 20 and 12"},
+    };
+    for (const auto& [field, variable, value, message] : table) {
+        (form.*field).setText(std::to_string(value));
+        (form.*field).LostFocus();
+    }
+    for (const auto& [field, variable, value, message] : table) {
+        EXPECT_EQ(form.shot.*variable, value) << message;
+        (form.*field).setText("?");
+        (form.*field).LostFocus();
+        EXPECT_TRUE(messages.texts.back().starts_with(message)) << messages.texts.back();
+    }
+}
+
 TEST_F(Validators, ARefusedValueReachesNothingUntilTheFallbackPasses) {
     form.optLaunch.select();
     enter(form.txtBallSpin, "2000");

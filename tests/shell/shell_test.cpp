@@ -6,6 +6,23 @@ namespace {
 
 struct FrmMain : testing::Test, ScriptedForm {};
 
+TEST_F(FrmMain, EveryEventHasAHandler) {
+    std::string silent; // what only opens a list, or shows the state of something else
+    for (Control* control : form.controls.all()) {
+        bool connected = true;
+        if (const auto* item = dynamic_cast<MenuItem*>(control))
+            connected = item->Click.connected();
+        else if (const auto* button = dynamic_cast<Button*>(control))
+            connected = button->Click.connected();
+        else if (const auto* option = dynamic_cast<OptionButton*>(control))
+            connected = option->Click.connected();
+        else if (const auto* field = dynamic_cast<TextBox*>(control))
+            connected = field->LostFocus.connected() && field->KeyUp.connected();
+        silent += connected ? "" : control->name() + " ";
+    }
+    EXPECT_EQ(silent, "txtRun txtMode txtType Help ");
+}
+
 TEST_F(FrmMain, MenusJudgeTheEditedFieldAndOpenTheirForms) {
     type(form.txtWind, "gale");
     form.mnuHelp.Click();
