@@ -54,9 +54,10 @@ QLabel* makeLabel(const Label& control) {
     return label;
 }
 
-QAction* makeAction(const MenuItem& item, QObject* parent) {
+QAction* makeAction(const MenuItem& item, QObject* parent, const QKeySequence& key = {}) {
     auto* action = new QAction(toQt(item.caption()), parent);
     name(*action, item);
+    action->setShortcut(key);
     return action;
 }
 
@@ -116,13 +117,11 @@ QMenuBar* ClubEditorWindow::makeMenus() {
     auto* bar = new QMenuBar;
     QMenu* file = bar->addMenu(toQt(form_.mnuFile.caption()));
     name(*file->menuAction(), form_.mnuFile);
-    file->addAction(makeAction(form_.mnuSave, this));
-    file->addAction(makeAction(form_.mnuOpenClub, this));
+    file->addAction(makeAction(form_.mnuSave, this, QKeySequence::Save));
+    file->addAction(makeAction(form_.mnuOpenClub, this, QKeySequence::Open));
     file->addSeparator();
     file->addAction(makeAction(form_.mnuExit, this));
-    QAction* help = makeAction(form_.mnuHelp, this);
-    help->setShortcut(Qt::Key_F1);
-    bar->addAction(help);
+    bar->addAction(makeAction(form_.mnuHelp, this, Qt::Key_F1));
     return bar;
 }
 

@@ -4,17 +4,22 @@
 #include "qt/text.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
 
 namespace parabolt {
 namespace {
 
+constexpr int kLeastWidth = 260; ///< pixels
+
 /// A message box that closes by its buttons and, without an answer, only where it says so: Esc is
 /// OK or Cancel, but neither Yes nor No, either of which may cost data.
 class Box : public QMessageBox {
 public:
     using QMessageBox::QMessageBox;
+
+    bool closes() const { return (standardButtons() & (Ok | Cancel)) != NoButton; }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -27,15 +32,17 @@ protected:
         else
             event->ignore();
     }
-
-private:
-    bool closes() const { return (standardButtons() & (Ok | Cancel)) != NoButton; }
 };
 
 QMessageBox::StandardButton ask(std::string_view text, QMessageBox::StandardButtons buttons) {
     Box box(QMessageBox::NoIcon, toQt(kApplicationTitle), toQt(text), buttons, frontWindow());
     box.setObjectName("MessageBox");
     box.setTextFormat(Qt::PlainText);
+    if (!box.closes())
+        box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    // Wide enough for its title.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(kLeastWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -110,8 +110,10 @@ void FormBinding::bindText(TextBox& box, QLineEdit& edit) {
         const int length = characters(box.text(), box.selStart() + box.selLength()) - start;
         // Out of focus a selection would only look as if the field were being edited. The window
         // itself may be inactive still, behind a message box that is about to go.
-        if (window_.focusWidget() != &edit)
+        if (window_.focusWidget() != &edit) {
+            edit.setCursorPosition(0); // a long number shows its first digits
             return;
+        }
         if (length == 0 && (edit.hasSelectedText() || edit.cursorPosition() != start))
             edit.setCursorPosition(start);
         else if (length > 0 && (edit.selectionStart() != start || edit.selectionLength() != length))
@@ -268,10 +270,11 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
         event->ignore(); // what lies around it may scroll
         return true;
     case QEvent::KeyPress: {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        const auto* press = static_cast<QKeyEvent*>(event);
+        if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter)
             enterPressedIn_ = watched;
-        return false;
+        // A mnemonic without a control that answers it is no text.
+        return press->modifiers() == Qt::AltModifier && !press->text().isEmpty();
     }
     case QEvent::KeyRelease:
         if (!static_cast<QKeyEvent*>(event)->isAutoRepeat())

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
@@ -64,7 +65,7 @@ HelpWindow::HelpWindow(const QString& folder, QWidget* parent)
     setObjectName("helpWindow");
     setWindowTitle(QApplication::applicationDisplayName() + " - Help");
     setAttribute(Qt::WA_QuitOnClose, false); // the program ends with the main form
-    resize(kStartSize);
+    resize(kStartSize.boundedTo(screen()->availableSize() * 0.9));
 
     search_->setObjectName("helpSearch");
     search_->setPlaceholderText("Search the pages");
@@ -121,7 +122,10 @@ QToolBar* HelpWindow::makeToolBar() {
 
     auto* find = new QAction(this);
     find->setShortcut(QKeySequence::Find);
-    connect(find, &QAction::triggered, search_, [this] { search_->setFocus(); });
+    connect(find, &QAction::triggered, search_, [this] {
+        search_->setFocus();
+        search_->selectAll();
+    });
     auto* close = new QAction(this);
     close->setShortcut(QKeySequence(Qt::Key_Escape));
     connect(close, &QAction::triggered, this, &QWidget::close);

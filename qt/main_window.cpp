@@ -31,7 +31,8 @@ constexpr double kBallWidth = 2070;
 constexpr double kBesideWeather = 7140;
 constexpr double kUpperHeight = 4000;
 constexpr double kLeastPlot = 1850;
-constexpr int kGap = 8; ///< pixels around a frame, a half on each side
+constexpr double kLegendWidth = 12340; ///< of twelve entries
+constexpr int kGap = 8;                ///< pixels around a frame, a half on each side
 
 /// The small window of `frmProgress`. It goes when the study ends; Esc, or a desktop that lets it
 /// be closed all the same, stops the study.
@@ -154,11 +155,12 @@ void MainWindow::buildMenus() {
 void MainWindow::connectLogic() {
     auto* run = findChild<QPushButton*>("Command1");
     // "&Run" and the menu "&Reset" both ask for Alt+R: it runs. Reset answers to its own keys.
-    run->installEventFilter(this);
-    menuBar()->installEventFilter(this);
+    for (QObject* answering :
+         std::initializer_list<QObject*>{run, findChild<QPushButton*>("Command2"), menuBar()})
+        answering->installEventFilter(this);
     auto* runKey = new QShortcut(Qt::Key_F5, this);
     runKey->setAutoRepeat(false);
-    connect(runKey, &QShortcut::activated, run, &QPushButton::click);
+    connect(runKey, &QShortcut::activated, this, [this] { runInPlace(); });
     connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this, [this] {
         if (!binding_->settle()) // a message has come up, and the field waits
             return;
@@ -180,7 +182,21 @@ void MainWindow::connectLogic() {
             statusBar()->showMessage("Press Esc to stop.");
         else
             statusBar()->clearMessage();
+        // Rows go where the caret stands: it stays until the last has been written.
+        findChild<QPlainTextEdit*>("txtResult")
+            ->setTextInteractionFlags(running ? Qt::NoTextInteraction : Qt::TextEditorInteraction);
     };
+}
+
+/// A run by its key: the field being edited is judged, and keeps the focus for the next value.
+void MainWindow::runInPlace() {
+    MainForm& form = logic_.form;
+    Control* edited = form.focus.active();
+    if (!form.Command1.enabled() || !binding_->settle())
+        return;
+    form.Command1.Click();
+    if (edited != nullptr && form.focus.active() == &form.Picture1)
+        form.focus.give(*edited);
 }
 
 /// The twip grows with the font, so that all that stands above the plot fits into its share.
@@ -201,30 +217,43 @@ void MainWindow::setLeastSize() {
     setMinimumSize((least + QSize(0, bars)).boundedTo(screen()->availableSize() * 0.95));
 }
 
+/// What a twip measures in the plot: no more than lets the whole legend stand in its width.
+double MainWindow::pixelsPerPlotTwip() const {
+    return std::min(pixelsPerTwip(), centre_->width() / kLegendWidth);
+}
+
 void MainWindow::fitToSize() {
     const double scale = pixelsPerTwip();
-    const QSize area = centre_->size();
-    const double bar = statusBar()->height() / scale;
-    logic_.plot.Form_Resize({area.width() / scale + 120, area.height() / scale + bar + 690, bar},
-                            isMinimized());
+    const double plotScale = pixelsPerPlotTwip();
     const auto pixels = [scale](double twips) {
         return static_cast<int>(std::lround(twips * scale));
     };
-    layout_.panel->setGeometry(0, 0, area.width(), pixels(kUpperHeight));
+    const QSize area = centre_->size();
+    const int upper = pixels(kUpperHeight);
+    // The form as the plot sees it; what stands above takes the form's own twips.
+    const double width = area.width() / plotScale + 120;
+    const double bar = statusBar()->height() / plotScale;
+    logic_.plot.Form_Resize(
+        {width, kUpperHeight + (area.height() - upper) / plotScale + bar + 690, bar},
+        isMinimized());
+    const auto reachingRight = [&](double twips) {
+        return area.width() - pixels(width - 120 - twips);
+    };
+    layout_.panel->setGeometry(0, 0, area.width(), upper);
     layout_.inputs->setFixedWidth(pixels(kInputsWidth) - kGap);
     layout_.ball->setFixedWidth(pixels(kBallWidth) - kGap / 2);
-    layout_.table->setFixedWidth(pixels(logic_.form.txtResult.width()));
-    layout_.weather->setFixedWidth(pixels(logic_.form.Frame7.width()));
+    layout_.table->setFixedWidth(reachingRight(logic_.form.txtResult.width()));
+    layout_.weather->setFixedWidth(reachingRight(logic_.form.Frame7.width()));
     for (const PictureBox* picture : {&logic_.form.Picture1, &logic_.form.Picture2})
-        place(*picture);
+        place(*picture, picture == &logic_.form.Picture1 ? upper - kUpperHeight * plotScale : 0);
 }
 
-void MainWindow::place(const PictureBox& picture) {
-    const double scale = pixelsPerTwip();
+void MainWindow::place(const PictureBox& picture, double down) {
+    const double scale = pixelsPerPlotTwip();
     const auto& twips = picture.geometry();
     findChild<QWidget*>(toQt(picture.name()))
         ->setGeometry(static_cast<int>(std::lround(twips.left * scale)),
-                      static_cast<int>(std::lround(twips.top * scale)),
+                      static_cast<int>(std::lround(twips.top * scale + down)),
                       static_cast<int>(std::lround(twips.width * scale)),
                       static_cast<int>(std::lround(twips.height * scale)));
 }
@@ -245,11 +274,25 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == centre_ && event->type() == QEvent::Resize)
         fitToSize();
-    if (event->type() == QEvent::Shortcut && static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
-        findChild<QPushButton*>("Command1")->click();
-        return true;
+    if (event->type() == QEvent::Shortcut) {
+        const bool ambiguous = static_cast<QShortcutEvent*>(event)->isAmbiguous();
+        auto* button =
+            ambiguous ? findChild<QPushButton*>("Command1") : qobject_cast<QPushButton*>(watched);
+        if (button != nullptr) { // at once: by itself it would wait, until a dialog may be up
+            button->click();
+            return true;
+        }
     }
+    // A menu bar that is being walked through by keys takes Esc for itself.
+    if (watched == menuBar() && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        logic_.pause.stop();
     return QMainWindow::eventFilter(watched, event);
+}
+
+bool MainWindow::event(QEvent* event) {
+    // Menus would wipe the status bar with the tips that they don't have.
+    return event->type() == QEvent::StatusTip || QMainWindow::event(event);
 }
 
 } // namespace parabolt

@@ -25,16 +25,19 @@ public:
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void buildMenus();
     void buildPlots();
     void connectLogic();
+    void runInPlace();
     void setLeastSize();
     void fitToSize();
     double pixelsPerTwip() const;
-    void place(const PictureBox& picture);
+    double pixelsPerPlotTwip() const;
+    void place(const PictureBox& picture, double down);
 
     frmMain& logic_;
     QWidget* centre_ = nullptr; ///< what stands between menus and status bar
