@@ -142,10 +142,13 @@ TEST_F(MainWindowTest, TheCaretStaysWhileTheUserTypes) {
 
 TEST_F(MainWindowTest, KeysReachEveryCommand) {
     press(Qt::Key_R, Qt::AltModifier);
-    QTest::qWait(150); // a mnemonic presses the button for a moment
     EXPECT_EQ(runs(), 1);
+    type("txtCor", "0.8");
+    press(Qt::Key_X, Qt::AltModifier); // is no text
     press(Qt::Key_F5);
     EXPECT_EQ(runs(), 2);
+    EXPECT_FLOAT_EQ(user.form.Runs.at(2).COR, 0.8F);
+    EXPECT_EQ(focused() + fromQt(field("txtCor")->selectedText()), "txtCor0.8");
     user.messages.answers = {MessageBoxes::Answer::No};
     press(Qt::Key_R, Qt::ControlModifier);
     EXPECT_EQ(user.messages.texts.size(), 1U);
