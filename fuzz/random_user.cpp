@@ -68,6 +68,14 @@ private:
         check();
         if (form_.Timer1.enabled() && roll(20) == 0) // or most would happen in studies and batches
             return QTest::keyClick(window, Qt::Key_Escape);
+        if (auto* dialog = qobject_cast<QFileDialog*>(window)) {
+            // It must not roam the machine: neither leave its folder nor delete or rename.
+            dialog->setOption(QFileDialog::ReadOnly);
+            if (!dialog->directory().path().startsWith(folder_))
+                dialog->setDirectory(folder_);
+            if (roll(3) == 0)
+                return nameFile(*dialog);
+        }
         const QList<QWidget*> all = window->findChildren<QWidget*>();
         QWidget* widget =
             all.isEmpty() || roll(6) == 0 ? window : all[roll(static_cast<int>(all.size()))];
@@ -76,8 +84,6 @@ private:
         if (!widget->isVisible() || widget == table ||
             (table != nullptr && table->isAncestorOf(widget)))
             return;
-        if (qobject_cast<QFileDialog*>(window) != nullptr && roll(3) == 0)
-            return nameFile(*window);
         if (auto* edit = qobject_cast<QLineEdit*>(widget); edit != nullptr && roll(2) == 0)
             QTest::keyClicks(edit,
                              pick<const char*>({"120", "-1", "x", "0.8", "1e3", "", "30", "9.5"}));
