@@ -24,11 +24,11 @@ CellEditing::CellEditing(Grid& grid, TextBox& edit, Focus& focus, Advance advanc
     grid_.LostFocus.connect([this] { grid_.setCellBackColor(std::nullopt); });
     grid_.DblClick.connect([this] {
         if (grid_.mouseRow() != 0)
-            EditClubCell();
+            open();
     });
     grid_.KeyDown.connect([this](int code) {
         if (code == keys::kF2)
-            EditClubCell();
+            open();
     });
     grid_.KeyPress.connect([this](KeyStroke& key) { gridKeyPress(key); });
     edit_.KeyDown.connect([this](int code) { editKeyDown(code); });
@@ -36,7 +36,7 @@ CellEditing::CellEditing(Grid& grid, TextBox& edit, Focus& focus, Advance advanc
     edit_.LostFocus.connect([this] { edit_.setVisible(false); });
 }
 
-void CellEditing::EditClubCell() {
+void CellEditing::open() {
     if (grid_.row() == 0)
         return;
     edit_.setText(grid_.text());
@@ -45,7 +45,7 @@ void CellEditing::EditClubCell() {
     focus_.give(edit_);
 }
 
-void CellEditing::NextClubCell() {
+void CellEditing::next() {
     const bool lastRow = grid_.row() == grid_.rows() - 1;
     if (advance_ == Advance::AlongRow)
         stepOn();
@@ -82,18 +82,18 @@ void CellEditing::takeEdit() {
 void CellEditing::gridKeyPress(KeyStroke& key) {
     switch (key.code) {
     case keys::kEnter:
-        return NextClubCell();
+        return next();
     case keys::kEscape:
         return;
     case keys::kBackspace: {
         const std::string& text = grid_.text();
         const std::size_t count = characterCount(text);
         grid_.setText(text.substr(0, characterStart(text, count > 0 ? count - 1 : 0)));
-        return EditClubCell();
+        return open();
     }
     default:
         grid_.setText(key.text);
-        EditClubCell();
+        open();
     }
 }
 
@@ -139,7 +139,7 @@ void CellEditing::editKeyPress(KeyStroke& key) {
 void CellEditing::confirm() {
     setCell(edit_.text());
     edit_.setVisible(false);
-    NextClubCell();
+    next();
     focus_.give(grid_);
 }
 

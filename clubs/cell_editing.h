@@ -26,9 +26,9 @@ public:
     CellEditing(Grid& grid, TextBox& edit, Focus& focus, Advance advance);
 
     /// Opens the edit box on the current cell.
-    void EditClubCell();
+    void open();
     /// Moves the current cell on after a confirmed entry; the last one stays.
-    void NextClubCell();
+    void next();
     /// Closes the edit box, if it is open, and puts what it holds into the cell. Commands do this
     /// first, so that they work on what the user sees.
     void settle();

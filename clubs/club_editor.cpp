@@ -80,6 +80,26 @@ bool ClubEditor::ClubGridsChanged() const {
            form_.txtComment.text() != clubs_.Comment;
 }
 
+CellEditing* ClubEditor::editing(std::int16_t GridIndex) {
+    switch (static_cast<ClubKind>(GridIndex)) {
+    case ClubKind::Irons:
+        return &irons_;
+    case ClubKind::Woods:
+        return &woods_;
+    }
+    return nullptr;
+}
+
+void ClubEditor::EditClubCell(std::int16_t GridIndex) {
+    if (CellEditing* grid = editing(GridIndex))
+        grid->open();
+}
+
+void ClubEditor::NextClubCell(std::int16_t GridIndex) {
+    if (CellEditing* grid = editing(GridIndex))
+        grid->next();
+}
+
 void ClubEditor::settle() {
     irons_.settle();
     woods_.settle();

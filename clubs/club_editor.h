@@ -4,6 +4,7 @@
 #include "clubs/club_form.h"
 #include "controls/services.h"
 
+#include <cstdint>
 #include <functional>
 
 namespace parabolt {
@@ -25,6 +26,12 @@ public:
     /// True if grids or texts differ from the club set.
     bool ClubGridsChanged() const;
 
+    /// Opens the edit box of a grid on its current cell. The grids are 0 for the irons and 1 for
+    /// the woods; any other number does nothing.
+    void EditClubCell(std::int16_t GridIndex);
+    /// Moves the current cell of a grid on.
+    void NextClubCell(std::int16_t GridIndex);
+
     /// Closes open edit boxes and puts what they hold into their cells.
     void settle();
 
@@ -38,6 +45,7 @@ private:
     void Command2_Click();
     void Command3_Click();
     void unload() const;
+    CellEditing* editing(std::int16_t GridIndex);
 
     ClubForm& form_;
     ClubTables& clubs_;

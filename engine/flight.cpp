@@ -2,7 +2,7 @@
 
 #include "engine/flight_step.h"
 #include "engine/landing.h"
-#include "numbers/vector_state.h"
+#include "engine/vector_state.h"
 
 #include <limits>
 

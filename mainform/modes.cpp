@@ -79,10 +79,11 @@ void Modes::DisableClubParameters() {
 }
 
 void Modes::txtMode_Change() {
-    const double mode = leadingNumber(form_.txtMode.text());
-    if (mode != 0 && mode != 1 && mode != 2 && mode != 3 && mode != 4)
+    const int mode = operatingMode(form_);
+    if (mode != leadingNumber(form_.txtMode.text()) || mode < OperatingMode::Launch ||
+        mode > OperatingMode::Actual)
         return;
-    if (mode == 2 || mode == 4)
+    if (mode == OperatingMode::Manual || mode == OperatingMode::Actual)
         EnableClubParameters();
     else
         DisableClubParameters();
@@ -90,7 +91,7 @@ void Modes::txtMode_Change() {
         const auto state = row.state.at(static_cast<std::size_t>(mode));
         if (state != kLeft)
             form_.controls.find(row.control)->setEnabled(state == kOn);
-        if (mode == 1 && row.control == "cmbClubNo")
+        if (mode == OperatingMode::Default && row.control == "cmbClubNo")
             clubs_.cmbClubNo_Click();
     }
 }

@@ -22,15 +22,14 @@ QStringList nameFilters(const QString& filter) {
     return filters;
 }
 
-QString existingFolder(const std::string& folder) {
-    const QString wanted = toQt(folder);
+} // namespace
+
+QString existingFolder(const QString& wanted) {
     return QFileInfo(wanted).isDir() ? wanted : QDir::homePath();
 }
 
-} // namespace
-
 void QtFileDialog::show(bool save) {
-    QFileDialog dialog(frontWindow(), toQt(title), existingFolder(initialFolder));
+    QFileDialog dialog(frontWindow(), toQt(title), existingFolder(toQt(initialFolder)));
     dialog.setObjectName("ccrpFileDialogs1");
     dialog.setNameFilters(nameFilters(toQt(filter)));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

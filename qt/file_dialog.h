@@ -2,7 +2,12 @@
 
 #include "controls/services.h"
 
+#include <QString>
+
 namespace parabolt {
+
+/// A folder in which a dialog can start: the wanted one, or the user's home where that is gone.
+QString existingFolder(const QString& wanted);
 
 /// File dialogs over the window in front. Opening takes files that exist; saving asks before it
 /// takes the name of one. A name is taken as typed: no ending is added. Where the folder to start

@@ -244,8 +244,8 @@ void MainWindow::fitToSize() {
     layout_.ball->setFixedWidth(pixels(kBallWidth) - kGap / 2);
     layout_.table->setFixedWidth(reachingRight(logic_.form.txtResult.width()));
     layout_.weather->setFixedWidth(reachingRight(logic_.form.Frame7.width()));
-    for (const PictureBox* picture : {&logic_.form.Picture1, &logic_.form.Picture2})
-        place(*picture, picture == &logic_.form.Picture1 ? upper - kUpperHeight * plotScale : 0);
+    place(logic_.form.Picture1, upper - kUpperHeight * plotScale);
+    place(logic_.form.Picture2, 0);
 }
 
 void MainWindow::place(const PictureBox& picture, double down) {

@@ -1,12 +1,12 @@
 #include "qt/printer.h"
 
 #include "qt/dialogs.h"
+#include "qt/file_dialog.h"
 #include "qt/page_painter.h"
 #include "qt/text.h"
 
 #include <QApplication>
 #include <QBuffer>
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLibrary>
@@ -133,9 +133,8 @@ std::optional<std::string> QtPrinter::print(std::string_view title,
 QString QtPrinter::askFileName() {
     if (lastFolder_.isEmpty())
         lastFolder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    if (!QFileInfo(lastFolder_).isDir()) // the dialog would take it for a file's name
-        lastFolder_ = QDir::homePath();
-    QFileDialog dialog(frontWindow(), "Print Report To A PDF File", lastFolder_, "PDF File(*.pdf)");
+    QFileDialog dialog(frontWindow(), "Print Report To A PDF File", existingFolder(lastFolder_),
+                       "PDF File(*.pdf)");
     dialog.setObjectName("printFileDialog");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("pdf");

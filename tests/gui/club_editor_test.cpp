@@ -122,6 +122,17 @@ TEST_F(ClubEditorTest, KeysInBothGrids) {
         }
 }
 
+TEST_F(ClubEditorTest, ProceduresTellTheGridsApart) {
+    for (const std::int16_t unknown : std::initializer_list<std::int16_t>{-1, 2})
+        editor.EditClubCell(unknown);
+    EXPECT_FALSE(form.txtIronEdit.visible() || form.txtWoodEdit.visible());
+    editor.EditClubCell(1);
+    EXPECT_TRUE(form.txtWoodEdit.visible() && !form.txtIronEdit.visible());
+    editor.NextClubCell(0);
+    editor.NextClubCell(1);
+    EXPECT_EQ(place(irons) + " " + place(woods), "1,2 2,1");
+}
+
 TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     EXPECT_LE(window.minimumSizeHint().width(), 1024);
     for (const Control* control : form.controls.all())

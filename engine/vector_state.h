@@ -3,6 +3,7 @@
 namespace parabolt {
 
 #if defined(__x86_64__) && defined(__GNUC__)
+/// Only for a processor that has the instruction.
 [[gnu::target("avx")]] inline void clearUpperHalves() {
     __builtin_ia32_vzeroupper();
 }
