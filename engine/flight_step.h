@@ -7,8 +7,12 @@
 
 namespace parabolt {
 
-// Held as 32-bit values; the formulas widen them. Near duplicates elsewhere in the model (the other
-// pi, the other turns per minute, the impact model's ball) are different constants and stay apart.
+// Each constant in the width in which the model holds it: the 32-bit ones widen in the formulas.
+// Near duplicates elsewhere in the model (the other pi, the other turns per minute, the impact
+// model's ball) are different constants and stay apart.
+
+// The ball. The rules of golf ask for at least 42.67 mm and at most 45.93 g; the model's own is
+// heavier. Its moment of inertia is nearly that of a solid ball of one density, 2/5 m r^2.
 inline constexpr float kFlightPi = 3.14159F;
 inline constexpr float kBallDiameter = 0.042672F;  ///< m
 inline constexpr float kBallMass = 0.04679476F;    ///< kg
@@ -16,6 +20,19 @@ inline constexpr float kBallWeight = -0.45891622F; ///< N; stored, not computed 
 inline constexpr float kBallInertia = 8.4e-06F;    ///< kg m2
 inline constexpr float kTimeStep = 0.01F;          ///< s
 inline constexpr float kYardsPerMetre = 1.0936133F;
+
+// Aerodynamic coefficients, all without unit, over the spin parameter S (speed of the ball's
+// surface over that of the air) and the Reynolds number Re. Their forms are those of wind-tunnel
+// tests of spinning dimpled balls (P. W. Bearman and J. K. Harvey, Aeronautical Quarterly 27,
+// 1976); the numbers are the model's own fit, for which there is no publication.
+inline constexpr double kLiftFactor = 0.54;     ///< lift at S = 1
+inline constexpr double kLiftExponent = 0.3;    ///< how lift grows with S; a ball option adds to it
+inline constexpr double kDragAtRest = 0.243;    ///< drag without spin, at the middle of the sine
+inline constexpr double kDragPerSpin = 0.18;    ///< drag that each unit of S adds
+inline constexpr double kDragSwing = 0.06;      ///< most that the Reynolds number adds or takes
+inline constexpr double kDragMiddle = 90000;    ///< Re at which it adds nothing, going up
+inline constexpr double kDragHalfWave = 200000; ///< in Re, from there to the next such point
+inline constexpr double kDecayPerSpin = 0.032;  ///< moment against the spin, per unit of S
 
 /// The air of a flight, the same along its whole path.
 struct FlightAir {
@@ -26,7 +43,6 @@ struct FlightAir {
 };
 
 inline FlightAir flightAir(const ShotState& shot) {
-    constexpr double kLiftExponent = 0.3;
     return {shot.AirDensity, shot.AirViscosity, shot.WindSpeedMs, shot.CD1 + kLiftExponent};
 }
 
@@ -48,10 +64,7 @@ inline FlightState launchState(const ShotState& shot) {
 /// the forces are resolved along the path over the ground.
 ///
 /// Each line is one formula in 64-bit arithmetic, rounded to 32 bits where it is stored; results
-/// depend on that. Coefficients, with S the spin parameter and Re the Reynolds number:
-///     lift  Cl = 0.54 S^0.3
-///     drag  Cd = 0.243 + 0.18 S + 0.06 sin(pi (Re - 90000) / 200000)
-///     spin  Cm = 0.032 S
+/// depend on that.
 inline void advance(FlightState& ball, const FlightAir& air) {
     const double along = double{ball.vx} + air.headWind;
     const float speedSquared = store32(double{ball.vy} * ball.vy + along * along);
@@ -59,10 +72,11 @@ inline void advance(FlightState& ball, const FlightAir& air) {
     const float reynolds = store32(((double{air.density} * kBallDiameter) * speed) / air.viscosity);
     const float spin = store32(((double{ball.w} * kBallDiameter) * 0.5) / speed);
 
-    const float lift = store32(std::pow(double{spin}, air.liftExponent) * 0.54);
-    const float drag = store32((spin * 0.18 + 0.243) +
-                               0.06 * std::sin(((reynolds - 90000.0) * kFlightPi) / 200000));
-    const float decay = store32(spin * 0.032);
+    const float lift = store32(std::pow(double{spin}, air.liftExponent) * kLiftFactor);
+    const float drag =
+        store32((spin * kDragPerSpin + kDragAtRest) +
+                kDragSwing * std::sin(((reynolds - kDragMiddle) * kFlightPi) / kDragHalfWave));
+    const float decay = store32(spin * kDecayPerSpin);
 
     constexpr double kDiameter = kBallDiameter;
     constexpr double kDiameterSquared = kDiameter * kDiameter;
