@@ -50,4 +50,9 @@ float bareCarry(const BareShot& shot) {
     return f(double{x} * 1.0936133F);
 }
 
+BareShot bareShot(const ShotState& state) {
+    return {state.LaunchSpeedMs, state.LaunchAngle,  state.RPM, state.WindSpeedMs,
+            state.AirDensity,    state.AirViscosity, state.CD1};
+}
+
 } // namespace parabolt::bench

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/shot_state.h"
+
 namespace parabolt::bench {
 
 /// Launch and air of a flight: SI units, spin in rpm, angle in degrees.
@@ -10,5 +12,8 @@ struct BareShot {
 /// The yardstick of the engine's speed: the formulas of a flight in one loop over local variables,
 /// with no record, no checks and no structure. Gives the carry in yards.
 float bareCarry(const BareShot& shot);
+
+/// The same flight as the engine's own.
+BareShot bareShot(const ShotState& state);
 
 } // namespace parabolt::bench

@@ -1,7 +1,5 @@
 #include "bench/bare_loop.h"
-#include "engine/air.h"
-#include "engine/flight.h"
-#include "numbers/rounding.h"
+#include "shots/fly.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdio>
@@ -31,24 +29,11 @@ using namespace parabolt;
 
 /// A driver's launch in mild weather: 691 steps.
 ShotState driver() {
-    ShotState shot;
-    shot.LaunchAngle = 9.5F;
-    shot.RPM = 3200;
-    shot.LaunchSpeedMs = store32(144 * 1609.344 / 3600);
-    shot.Temperature = 70;
-    shot.BaroPressure = 29.92F;
-    shot.RH = 50;
-    ComputeEnvironment(shot);
-    return shot;
-}
-
-bench::BareShot bare(const ShotState& shot) {
-    return {shot.LaunchSpeedMs, shot.LaunchAngle,  shot.RPM, shot.WindSpeedMs,
-            shot.AirDensity,    shot.AirViscosity, shot.CD1};
+    return *prepare(Shot());
 }
 
 void bareLoop(benchmark::State& state) {
-    bench::BareShot shot = bare(driver());
+    bench::BareShot shot = bench::bareShot(driver());
     for (auto _ : state) {
         benchmark::DoNotOptimize(shot);
         benchmark::DoNotOptimize(bench::bareCarry(shot));
@@ -71,7 +56,7 @@ void flight(benchmark::State& state) {
     for (auto _ : state) {
         RunRecord record;
         benchmark::DoNotOptimize(shot);
-        benchmark::DoNotOptimize(SimulateFlight(shot, {}, record));
+        benchmark::DoNotOptimize(static_cast<bool>(SimulateFlight(shot, {}, record)));
         benchmark::DoNotOptimize(record.Path.data());
         points = record.Path.size();
     }
@@ -89,7 +74,7 @@ BENCHMARK(flight);
 int main(int argc, char** argv) {
     // A yardstick that flies another shot measures nothing.
     const ShotState shot = driver();
-    if (bench::bareCarry(bare(shot)) != SimulateCarry(shot)) {
+    if (bench::bareCarry(bench::bareShot(shot)) != SimulateCarry(shot)) {
         std::fputs("The bare loop and the engine disagree.\n", stderr);
         return EXIT_FAILURE;
     }

@@ -3,7 +3,6 @@
 
 #include "bench/bare_loop.h"
 #include "clubs/frm_club_params.h"
-#include "engine/flight.h"
 #include "qt/club_editor_window.h"
 #include "qt/main_window.h"
 #include "qt/picture_painter.h"
@@ -54,8 +53,8 @@ struct LoadedForm {
         main.Form_Load();
         main.plot.Form_Resize({20000, 12000, 300}, false);
         main.form.optLaunch.select();
-        while (main.form.Runs.size() <= static_cast<std::size_t>(dataSets)) {
-            main.form.shot.WindSpeed = static_cast<double>(main.form.Runs.size()) - 12;
+        while (main.form.Runs.count() < dataSets) {
+            main.form.shot.WindSpeed = main.form.Runs.count() - 11;
             main.form.Command1.Click();
         }
     }
@@ -64,10 +63,7 @@ struct LoadedForm {
 };
 
 void bareFlight(benchmark::State& state) {
-    const LoadedForm loaded(1);
-    const ShotState& shot = loaded.main.form.shot;
-    bench::BareShot bare{shot.LaunchSpeedMs, shot.LaunchAngle,  shot.RPM, shot.WindSpeedMs,
-                         shot.AirDensity,    shot.AirViscosity, shot.CD1};
+    bench::BareShot bare = bench::bareShot(*prepare(Shot()));
     for (auto _ : state) {
         benchmark::DoNotOptimize(bare);
         benchmark::DoNotOptimize(bench::bareCarry(bare));
@@ -88,8 +84,7 @@ void spinStudy(benchmark::State& state) {
 
 /// All flights that a spin study can make.
 void longestSpinStudy(benchmark::State& state) {
-    LoadedForm loaded(1);
-    ShotState shot = loaded.main.form.shot;
+    ShotState shot = *prepare(Shot());
     for (auto _ : state) {
         for (int spin = 0; spin <= 22000; spin += 100) {
             shot.RPM = static_cast<float>(spin);
@@ -121,7 +116,7 @@ void draw(benchmark::State& state) {
         QPainter painter(&image);
         paintPlot(painter, loaded.main.form.screenPlot(), QRectF(0, 0, 1280, 520));
     }
-    state.counters["points"] = static_cast<double>(loaded.main.form.Runs.back().Path.size()) *
+    state.counters["points"] = static_cast<double>(loaded.main.form.Runs.newest().Path.size()) *
                                static_cast<double>(state.range(0));
 }
 
@@ -138,7 +133,7 @@ void pressRun(benchmark::State& state) {
         QApplication::processEvents();
         state.PauseTiming();
         loaded.main.form.Command2.Click();
-        while (loaded.main.form.Runs.size() < 24)
+        while (loaded.main.form.Runs.count() < 23)
             loaded.main.form.Command1.Click();
         QApplication::processEvents();
         state.ResumeTiming();
@@ -204,7 +199,7 @@ void measureStart(std::chrono::steady_clock::time_point begin) {
     QApplication::processEvents();
     const std::chrono::duration<double, std::milli> start =
         std::chrono::steady_clock::now() - begin;
-    while (loaded.main.form.Runs.size() <= 24)
+    while (loaded.main.form.Runs.count() < 24)
         loaded.main.form.Command1.Click();
     QApplication::processEvents();
     benchmark::AddCustomContext("start_ms", std::to_string(std::lround(start.count())));

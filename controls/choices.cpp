@@ -7,7 +7,7 @@ namespace parabolt {
 
 OptionButton::OptionButton(ControlSet& form, OptionGroup& group, std::string_view name,
                            std::string_view caption, bool selected)
-    : Control(form, name),
+    : Control(form, name, WhileBusy::Held),
       group_(group),
       caption_(caption),
       selected_(selected) {
@@ -32,7 +32,7 @@ void OptionButton::deselect() {
 }
 
 CheckBox::CheckBox(ControlSet& form, std::string_view name, std::string_view caption)
-    : Control(form, name),
+    : Control(form, name, WhileBusy::Held),
       caption_(caption) {}
 
 void CheckBox::setChecked(bool checked) {
@@ -42,7 +42,8 @@ void CheckBox::setChecked(bool checked) {
     viewChanged();
 }
 
-DropDownList::DropDownList(ControlSet& form, std::string_view name) : Control(form, name) {}
+DropDownList::DropDownList(ControlSet& form, std::string_view name)
+    : Control(form, name, WhileBusy::Held) {}
 
 void DropDownList::setItems(std::vector<std::string> items) {
     items_ = std::move(items);

@@ -11,7 +11,9 @@ Control* ControlSet::find(std::string_view name) const {
     return found == controls_.end() ? nullptr : *found;
 }
 
-Control::Control(ControlSet& form, std::string_view name) : name_(name) {
+Control::Control(ControlSet& form, std::string_view name, WhileBusy whileBusy)
+    : name_(name),
+      whileBusy_(whileBusy) {
     form.controls_.push_back(this);
 }
 

@@ -24,11 +24,14 @@ private:
     std::vector<Control*> controls_;
 };
 
+/// Whether a control is held back while the form is busy with a study or a batch.
+enum class WhileBusy { Held, Free };
+
 /// What all controls have: a name, and whether they can be used and seen. The logic works on
 /// controls only; it never learns whether a widget shows them.
 class Control {
 public:
-    Control(ControlSet& form, std::string_view name);
+    Control(ControlSet& form, std::string_view name, WhileBusy whileBusy = WhileBusy::Free);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -39,6 +42,7 @@ public:
     /// Holds the control back, whatever else enables or disables it meanwhile: it is disabled until
     /// it is let go, and then as enabled as it would be without.
     void setHeld(bool held);
+    WhileBusy whileBusy() const { return whileBusy_; }
     bool visible() const { return visible_; }
     void setVisible(bool visible);
 
@@ -58,6 +62,7 @@ protected:
 
 private:
     std::string name_;
+    WhileBusy whileBusy_;
     bool enabled_ = true;
     bool held_ = false;
     bool visible_ = true;

@@ -7,8 +7,9 @@ namespace parabolt {
 /// A control that shows one unchanging line of text; base of those that differ by what they do.
 class CaptionedControl : public Control {
 public:
-    CaptionedControl(ControlSet& form, std::string_view name, std::string_view caption)
-        : Control(form, name),
+    CaptionedControl(ControlSet& form, std::string_view name, std::string_view caption,
+                     WhileBusy whileBusy = WhileBusy::Free)
+        : Control(form, name, whileBusy),
           caption_(caption) {}
     const std::string& caption() const { return caption_; }
 
@@ -36,7 +37,8 @@ private:
 /// A push button.
 class Button : public CaptionedControl {
 public:
-    using CaptionedControl::CaptionedControl;
+    Button(ControlSet& form, std::string_view name, std::string_view caption)
+        : CaptionedControl(form, name, caption, WhileBusy::Held) {}
     bool takesFocus() const override { return true; }
     Event<> Click;
 };
@@ -44,8 +46,18 @@ public:
 /// A menu title or an entry of a menu. A title's `Click` comes when its menu opens.
 class MenuItem : public CaptionedControl {
 public:
-    using CaptionedControl::CaptionedControl;
+    /// What a command does first: settle the field being edited, or nothing.
+    enum class First { Settles, WaitsForNothing };
+
+    MenuItem(ControlSet& form, std::string_view name, std::string_view caption,
+             WhileBusy whileBusy = WhileBusy::Held, First first = First::Settles)
+        : CaptionedControl(form, name, caption, whileBusy),
+          first_(first) {}
+    First first() const { return first_; }
     Event<> Click;
+
+private:
+    First first_;
 };
 
 /// A clock that raises its event after each interval while it is enabled. It starts disabled.

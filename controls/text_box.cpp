@@ -24,7 +24,7 @@ std::size_t characterStart(std::string_view text, std::size_t character) {
 }
 
 TextBox::TextBox(ControlSet& form, std::string_view name, std::string_view text)
-    : Control(form, name),
+    : Control(form, name, WhileBusy::Held),
       text_(text) {}
 
 void TextBox::setText(std::string_view text) {

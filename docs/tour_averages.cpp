@@ -1,13 +1,10 @@
 // Flies the public tour averages in still air at sea level and prints how the computed carry
 // compares with the measured one: the rows of the table in docs/physics.md.
 
-#include "engine/air.h"
-#include "engine/flight.h"
-#include "engine/units.h"
-#include "numbers/rounding.h"
+#include "shots/figures.h"
+#include "shots/fly.h"
 
 #include <array>
-#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -35,26 +32,18 @@ constexpr std::array<TourAverage, 8> kTourAverages = {{
 
 int main() {
     for (const TourAverage& average : kTourAverages) {
-        parabolt::ShotState shot;
-        shot.Temperature = 70;
-        shot.BaroPressure = 29.92F;
-        shot.RH = 50;
+        parabolt::Shot shot;
+        shot.LaunchSpeed = average.ballSpeed;
         shot.LaunchAngle = average.launchAngle;
         shot.RPM = average.spin;
-        shot.LaunchSpeedMs =
-            parabolt::store32(average.ballSpeed * parabolt::kMetresPerSecondPerMph);
-        if (parabolt::ComputeEnvironment(shot))
+        const auto flown = parabolt::fly(shot);
+        if (!flown)
             return 1;
-        parabolt::RunRecord record;
-        if (parabolt::SimulateFlight(shot, {}, record))
-            return 1;
-        double top = 0;
-        for (const parabolt::TrajectoryPoint& point : record.Path)
-            top = std::fmax(top, double{point.y});
-        const double off = double{record.CarryDist} - average.carry;
+        const parabolt::Figures figures = parabolt::figuresOf(flown->record);
+        const double off = figures.carry - average.carry;
         std::printf("| %s | %.0f | %.1f | %.0f | %.0f | %.0f | %+.0f (%+.1f %%) | %.0f | %.1f |\n",
                     average.club, double{average.ballSpeed}, double{average.launchAngle},
-                    double{average.spin}, average.carry, double{record.CarryDist}, off,
-                    100 * off / average.carry, top, double{record.CarryTime});
+                    double{average.spin}, average.carry, figures.carry, off,
+                    100 * off / average.carry, figures.height, figures.time);
     }
 }

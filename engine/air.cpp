@@ -37,7 +37,7 @@ double saturationPressure(double celsius) {
 
 } // namespace
 
-std::optional<Fault> ComputeEnvironment(ShotState& shot) {
+Outcome<void, Fault> ComputeEnvironment(ShotState& shot) {
     const FaultWatch watch;
     shot.StationPressure = store32(
         std::pow((kSeaLevelKelvin - shot.h * kLapsePerFoot) / kSeaLevelKelvin, kPressureExponent) *
@@ -45,9 +45,7 @@ std::optional<Fault> ComputeEnvironment(ShotState& shot) {
     shot.WindSpeedMs = store32(shot.WindSpeed * kMetresPerSecondPerMph);
     shot.AirViscosity = ComputeAirViscosity(shot.Temperature);
     shot.AirDensity = ComputeAirDensity(shot, shot.RH);
-    if (const auto fault = watch.fault())
-        return fault;
-    return silentFault(double{shot.StationPressure} + shot.WindSpeedMs + shot.AirViscosity +
+    return watch.judge(double{shot.StationPressure} + shot.WindSpeedMs + shot.AirViscosity +
                        shot.AirDensity);
 }
 

@@ -9,7 +9,7 @@ namespace parabolt {
 /// `AirViscosity` and `AirDensity`, which stay the same along the whole flight. Must run before
 /// each flight. Weather for which the formulas have no value (only a file can bring it) gives the
 /// fault; the derived values are then not to be used.
-std::optional<Fault> ComputeEnvironment(ShotState& shot);
+Outcome<void, Fault> ComputeEnvironment(ShotState& shot);
 
 /// Dynamic viscosity of air in Pa s at a temperature in degrees Fahrenheit.
 /// Sutherland's law (W. Sutherland, Philosophical Magazine 36, 1893) in Rankine.

@@ -46,7 +46,7 @@ Fault diagnose(const ShotState& shot) {
 
 } // namespace
 
-std::optional<Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, RunRecord& record) {
+Outcome<void, Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, RunRecord& record) {
     constexpr int kMostSteps = std::numeric_limits<std::int16_t>::max();
     constexpr std::size_t kUsualSteps = 1024; // about ten seconds, longer than nearly all shots
     record.Path.clear();
@@ -64,7 +64,7 @@ std::optional<Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, 
             return true;
         });
     if (!landed)
-        return steps == kMostSteps ? Fault::TooManySteps : diagnose(shot);
+        return because(steps == kMostSteps ? Fault::TooManySteps : diagnose(shot));
     return recordLanding(ball, shot, tags, record);
 }
 

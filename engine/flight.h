@@ -3,8 +3,6 @@
 #include "engine/fault.h"
 #include "engine/shot_state.h"
 
-#include <optional>
-
 namespace parabolt {
 
 /// The ball in flight. Lives only while the flight runs.
@@ -18,17 +16,17 @@ struct FlightState {
     float t = 0;     ///< seconds since the launch
 };
 
-/// What a record keeps of the form besides the shot.
+/// What a record keeps besides the inputs and the outcome of its shot.
 struct RunTags {
-    std::int16_t Mode = 0;
-    bool IsWood = false;
+    std::int16_t Mode = 0; ///< operating mode, 0 to 4
+    bool IsWood = true;    ///< the club is a wood, not an iron
 };
 
 /// Flies the shot from the launch to the first step below the ground and completes the record of
 /// its run: `Path`, the outcome and the copies of the inputs; `CurveColor` stays. Expects the
 /// shot's derived quantities to be up to date. A fault ends the flight at once: the record keeps
 /// the path up to the last completed step and nothing else. More than 32767 steps are such a fault.
-std::optional<Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, RunRecord& record);
+Outcome<void, Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, RunRecord& record);
 
 /// The carry in yards of the same flight, equal to the last bit, without a record and without a
 /// limit on the steps; 0 after a fault and for a ball that never comes down.

@@ -24,7 +24,7 @@ double cosDegrees(double angle) {
 }
 
 void takeClub(ShotState& shot, const ImpactSources& sources) {
-    if (sources.club == nullptr)
+    if (!sources.club)
         return;
     shot.LoftAngle = sources.club->LoftAngle;
     shot.HeadWeight = sources.club->HeadWeight;
@@ -38,7 +38,7 @@ void takeClub(ShotState& shot, const ImpactSources& sources) {
 
 } // namespace
 
-std::optional<Fault> GetLoftAngle(ShotState& shot, const ImpactSources& sources) {
+Outcome<void, Fault> GetLoftAngle(ShotState& shot, const ImpactSources& sources) {
     takeClub(shot, sources);
 
     // Spin and angle come from the dynamic loft by a linear and a quadratic fit; the speed from the
@@ -63,9 +63,7 @@ std::optional<Fault> GetLoftAngle(ShotState& shot, const ImpactSources& sources)
     } else {
         shot.LaunchAngle = store32(double{shot.AttackAngle} + shot.LaunchAngle);
     }
-    if (const auto fault = watch.fault())
-        return fault;
-    return silentFault(double{shot.RPM} + shot.LaunchAngle + shot.LaunchSpeed);
+    return watch.judge(double{shot.RPM} + shot.LaunchAngle + shot.LaunchSpeed);
 }
 
 } // namespace parabolt

@@ -10,8 +10,8 @@ namespace parabolt {
 
 /// Where the impact model takes its inputs from, besides the shot.
 struct ImpactSources {
-    /// The club whose loft and head mass replace those of the shot; null to keep the shot's own.
-    const ClubRecord* club = nullptr;
+    /// The club whose loft and head mass replace those of the shot; none to keep the shot's own.
+    std::optional<ClubRecord> club;
     /// Take the rest of the club's record too: `COR`, `HeadSpeed`, `AttackAngle`, `Bending`.
     bool wholeRecord = false;
     /// A launch angle that was measured: the attack angle then follows from it, not the other way.
@@ -22,6 +22,6 @@ struct ImpactSources {
 /// shot, and what `sources` replaces. With a measured launch angle it sets `AttackAngle`, to one
 /// decimal. Values without a result (only a file can bring them: a head without mass, say) give the
 /// fault; the launch is then not to be flown.
-std::optional<Fault> GetLoftAngle(ShotState& shot, const ImpactSources& sources);
+Outcome<void, Fault> GetLoftAngle(ShotState& shot, const ImpactSources& sources);
 
 } // namespace parabolt

@@ -31,7 +31,7 @@ float greenRoll(const FlightState& landing) {
                    (spin * kRollPerSpinAndDescent) * descent);
 }
 
-std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& shot,
+Outcome<void, Fault> recordLanding(const FlightState& landing, const ShotState& shot,
                                    const RunTags& tags, RunRecord& record) {
     constexpr float kFeetPerYard = 3;
     const float roll = store32(double{greenRoll(landing)} * kFeetPerYard);
@@ -40,7 +40,7 @@ std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& 
     const float carry = store32(double{landing.x} * kYardsPerMetre);
     for (const float value : {roll, spin, speed, carry})
         if (!std::isfinite(value)) // the landing was finite: it is too large for its width
-            return Fault::Overflow;
+            return because(Fault::Overflow);
 
     record.CarryTime = landing.t;
     record.ImpactSpin = spin;
@@ -66,7 +66,7 @@ std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& 
     record.Bending = shot.Bending;
     record.Mode = tags.Mode;
     record.IsWood = tags.IsWood;
-    return std::nullopt;
+    return {};
 }
 
 } // namespace parabolt

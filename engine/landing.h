@@ -11,7 +11,7 @@ float greenRoll(const FlightState& landing);
 
 /// Ends a recording flight: the outcome and the copies of the inputs into the record. `Path` and
 /// `CurveColor` stay. If one overflows, the record has none of them.
-std::optional<Fault> recordLanding(const FlightState& landing, const ShotState& shot,
+Outcome<void, Fault> recordLanding(const FlightState& landing, const ShotState& shot,
                                    const RunTags& tags, RunRecord& record);
 
 } // namespace parabolt

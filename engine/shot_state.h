@@ -7,39 +7,41 @@
 
 namespace parabolt {
 
-/// The one set of numbers from which a shot is computed. The widths are part of the model: a 32-bit
-/// quantity is rounded each time it is stored.
-struct ShotState {
-    // Launch of the ball: typed in, or computed by the impact model.
-    float LaunchAngle = 0; ///< degrees
-    float RPM = 0;         ///< back spin, rpm
-    float LaunchSpeed = 0; ///< mph
+/// What goes into a shot, in the units in which users know it. A new one is the shot with which the
+/// form starts: a driver in mild weather at sea level. The widths are part of the model: a 32-bit
+/// quantity is rounded each time it is stored. The ranges are those that the form accepts.
+struct ShotInputs {
+    // Launch of the ball: typed in, or computed by the impact model. Unit, range, meaning.
+    float LaunchAngle = 9.5F; ///< degrees, 0 to 55
+    float RPM = 3200;         ///< rpm, 0 to 22000: back spin
+    float LaunchSpeed = 144;  ///< mph, 30 to 250
 
     // Swing and club.
-    float HeadSpeed = 0;      ///< club-head speed at impact, mph
-    std::int16_t ClubNo = 0;  ///< the club's own number in its table
-    float SpeedIncrement = 0; ///< fall of HeadSpeed from club to club in the fill-in batch, mph
-    float COR = 0;            ///< coefficient of restitution between head and ball
-    float HeadWeight = 0;     ///< club-head mass, grams
-    float AttackAngle = 0;    ///< degrees, positive upward
-    float LoftAngle = 0;      ///< degrees
-    float Bending = 0;        ///< shaft bend at impact, degrees; adds to the loft
+    float HeadSpeed = 100;    ///< mph, 50 to 165: club-head speed at impact
+    std::int16_t ClubNo = 1;  ///< the club's own number in its table
+    float SpeedIncrement = 1; ///< mph, 1 to 3: fall of HeadSpeed from club to club in the batch
+    float COR = 0.83F;        ///< 0.7 to 0.9: coefficient of restitution between head and ball
+    float HeadWeight = 198;   ///< grams, 180 to 320: club-head mass
+    float AttackAngle = 0;    ///< degrees, -5 to 20, positive upward
+    float LoftAngle = 10;     ///< degrees, 0 to 65
+    float Bending = 0;        ///< degrees, -10 to 10: shaft bend at impact; adds to the loft
 
     // Weather and course.
-    double WindSpeed = 0;   ///< along the line of play, mph; positive against the ball
-    float Temperature = 0;  ///< degrees Fahrenheit
-    float BaroPressure = 0; ///< inches of mercury, as read at sea level
-    float RH = 0;           ///< relative humidity, percent
-    float h = 0;            ///< altitude of the course, feet
+    double WindSpeed = 0;        ///< mph, -35 to 35, along the line of play; positive is a head wind
+    float Temperature = 70;      ///< degrees Fahrenheit, 20 to 120
+    float BaroPressure = 29.92F; ///< inches of mercury, 25 to 34, as read at sea level
+    float RH = 50;               ///< percent, 0 to 100: relative humidity
+    float h = 0;                 ///< feet, 0 to 15000: altitude of the course
 
     // Ball option.
-    float Slope1 = 0;          ///< added to the spin factor of the impact model
+    float Slope1 = 0;          ///< rpm per degree and mph, added to the impact model's spin factor
     float CD1 = 0;             ///< added to the exponent of the lift law
-    std::int16_t BallType = 0; ///< selected option, 1 to 4
+    std::int16_t BallType = 4; ///< selected option, 1 to 4
+};
 
-    float sRange = 0; ///< width of the plot, yards; no part of the flight
-
-    // Derived before each shot and valid for it alone.
+/// The one set of numbers from which the engine computes a shot: its inputs, and what is derived
+/// from them before each flight and holds for it alone.
+struct ShotState : ShotInputs {
     float StationPressure = 0; ///< BaroPressure carried to altitude h, inches of mercury
     float WindSpeedMs = 0;     ///< m/s
     float AirViscosity = 0;    ///< dynamic viscosity, Pa s

@@ -1,6 +1,8 @@
 #include "mainform/defaults.h"
+#include "mainform/form_shot.h"
 #include "mainform/modes.h"
 #include "mainform/parameter_handlers.h"
+#include "shots/fly.h"
 
 #include <cstdlib>
 
@@ -28,9 +30,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     MainForm form;
     form.clubs = InitClubTables();
     SilentMessages messages;
-    PlotPanel plot(form, messages);
+    PlotPanel plot(form, form, form.Frame7, messages);
     Validators validators(form, plot, messages);
-    ClubChoice clubChoice(form, validators);
+    ClubChoice clubChoice(form, form.clubs, validators);
     Modes modes(form, clubChoice);
     Defaults defaults(form, messages);
     defaults.SetSwingDefaults();
@@ -42,8 +44,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (known && form.cmbClubNo.text() != std::to_string(record.ClubNo))
             std::abort();
         collectParameters(form);
+        // The shot flies or doesn't: it must not crash.
+        static_cast<void>(prepare(takeShot(form, form.clubs)));
         for (const FieldRule& rule : fieldRules())
-            validators.validate(rule.field);
+            validators.validate(form.*rule.field);
     }
     return 0;
 }

@@ -119,11 +119,11 @@ private:
     /// Counter, data sets and table agree, whatever has been done. Not while a study or batch is
     /// between a curve and its row.
     void check() const {
-        const auto sets = static_cast<int>(form_.Runs.size()) - 1;
+        const int sets = form_.Runs.count();
         require(sets == runNumber(form_), "the counter shows another number of data sets");
         require(sets <= 24, "there are more than 24 data sets");
         if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr)
-            require(form_.txtResult.lineCount() == form_.Runs.size() + 3,
+            require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
     }
     void require(bool holds, const char* fault) const {

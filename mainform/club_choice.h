@@ -7,7 +7,7 @@ namespace parabolt {
 /// Choosing a club: its type, its number in the list, and in mode 1 its values in the fields.
 class ClubChoice {
 public:
-    ClubChoice(MainForm& form, Validators& validators);
+    ClubChoice(ShotControls& form, const ClubTables& clubs, Validators& validators);
 
     /// The list's selection has changed: takes the club number and, in mode 1, loads the club.
     void cmbClubNo_Click();
@@ -15,11 +15,12 @@ public:
     void txtType_Change();
 
 private:
-    MainForm& form_;
+    ShotControls& form_;
+    const ClubTables& clubs_;
     Validators& validators_;
 };
 
 /// Takes the number in the list into the shot.
-void takeClubNumber(MainForm& form);
+void takeClubNumber(ShotControls& form);
 
 } // namespace parabolt

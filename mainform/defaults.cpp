@@ -1,8 +1,7 @@
 #include "mainform/defaults.h"
 
 #include "mainform/club_choice.h"
-#include "numbers/rounding.h"
-#include "numbers/text_number.h"
+#include "mainform/form_shot.h"
 
 #include <array>
 
@@ -11,13 +10,13 @@ namespace {
 
 constexpr std::array<BallOption, 4> kBallOptions = {{
     // button                Slope1  CD1    BallType
-    {&MainForm::BallOpt1, 0.5F, 0.0F, 1},
-    {&MainForm::BallOpt2, 0.0F, -0.1F, 2},
-    {&MainForm::BallOpt3, -0.5F, 0.0F, 3},
-    {&MainForm::BallOpt4, 0.0F, 0.0F, 4},
+    {&ShotControls::BallOpt1, 0.5F, 0.0F, 1},
+    {&ShotControls::BallOpt2, 0.0F, -0.1F, 2},
+    {&ShotControls::BallOpt3, -0.5F, 0.0F, 3},
+    {&ShotControls::BallOpt4, 0.0F, 0.0F, 4},
 }};
 
-void apply(ShotState& shot, const BallOption& option) {
+void apply(ShotInputs& shot, const BallOption& option) {
     shot.BallType = option.BallType;
     shot.Slope1 = option.Slope1;
     shot.CD1 = option.CD1;
@@ -29,30 +28,32 @@ std::span<const BallOption> ballOptions() {
     return kBallOptions;
 }
 
-Defaults::Defaults(MainForm& form, MessageBoxes& messages) : form_(form), messages_(messages) {
+Defaults::Defaults(ShotControls& form, MessageBoxes& messages) : form_(form), messages_(messages) {
     for (const BallOption& option : kBallOptions)
         (form_.*option.button).Click.connect([this, &option] { apply(form_.shot, option); });
 }
 
 void Defaults::SetSwingDefaults() {
+    constexpr ShotInputs kFresh;
     form_.cmbClubNo.select(0);
-    ShotState& shot = form_.shot;
-    shot.LaunchAngle = 9.5F;
-    shot.RPM = 3200;
-    shot.LaunchSpeed = 144;
-    shot.HeadSpeed = 100;
+    ShotInputs& shot = form_.shot;
+    shot.LaunchAngle = kFresh.LaunchAngle;
+    shot.RPM = kFresh.RPM;
+    shot.LaunchSpeed = kFresh.LaunchSpeed;
+    shot.HeadSpeed = kFresh.HeadSpeed;
     takeClubNumber(form_);
-    shot.SpeedIncrement = 1;
+    shot.SpeedIncrement = kFresh.SpeedIncrement;
     showSwing(form_);
 }
 
 void Defaults::SetClubDefaults() {
-    ShotState& shot = form_.shot;
-    shot.COR = 0.83F;
-    shot.HeadWeight = 198;
-    shot.AttackAngle = 0;
-    shot.LoftAngle = 10;
-    shot.Bending = 0;
+    constexpr ShotInputs kFresh;
+    ShotInputs& shot = form_.shot;
+    shot.COR = kFresh.COR;
+    shot.HeadWeight = kFresh.HeadWeight;
+    shot.AttackAngle = kFresh.AttackAngle;
+    shot.LoftAngle = kFresh.LoftAngle;
+    shot.Bending = kFresh.Bending;
     apply(shot, kBallOptions.back());
     form_.BallOpt4.select();
     showClub(form_);
@@ -60,12 +61,13 @@ void Defaults::SetClubDefaults() {
 }
 
 void Defaults::SetEnvironmentDefaults() {
-    ShotState& shot = form_.shot;
-    shot.WindSpeed = 0;
-    shot.Temperature = 70;
-    shot.BaroPressure = 29.92F;
-    shot.RH = 50;
-    shot.h = 0;
+    constexpr ShotInputs kFresh;
+    ShotInputs& shot = form_.shot;
+    shot.WindSpeed = kFresh.WindSpeed;
+    shot.Temperature = kFresh.Temperature;
+    shot.BaroPressure = kFresh.BaroPressure;
+    shot.RH = kFresh.RH;
+    shot.h = kFresh.h;
     showEnvironment(form_);
 }
 
@@ -76,30 +78,6 @@ void Defaults::mnuReset_Click() {
     SetSwingDefaults();
     SetClubDefaults();
     SetEnvironmentDefaults();
-}
-
-void showSwing(MainForm& form) {
-    form.txtLaunchAngle.setText(shortestText(form.shot.LaunchAngle));
-    form.txtLaunchSpeed.setText(shortestText(form.shot.LaunchSpeed));
-    form.txtBallSpin.setText(shortestText(form.shot.RPM));
-    form.txtHeadSpeed.setText(shortestText(form.shot.HeadSpeed));
-    form.txtSpeedIncrement.setText(shortestText(form.shot.SpeedIncrement));
-}
-
-void showClub(MainForm& form) {
-    form.txtCor.setText(formatPattern(form.shot.COR, "0.00"));
-    form.txtHeadWeight.setText(shortestText(form.shot.HeadWeight));
-    form.txtAttackAngle.setText(shortestText(form.shot.AttackAngle));
-    form.txtBending.setText(shortestText(form.shot.Bending));
-    form.txtLoftAngle.setText(shortestText(form.shot.LoftAngle));
-}
-
-void showEnvironment(MainForm& form) {
-    form.txtWind.setText(shortestText(store32(form.shot.WindSpeed)));
-    form.txtTemperature.setText(shortestText(form.shot.Temperature));
-    form.txtPressure.setText(shortestText(form.shot.BaroPressure));
-    form.txtRelativeHumidity.setText(shortestText(form.shot.RH));
-    form.txtAltitude.setText(shortestText(form.shot.h));
 }
 
 } // namespace parabolt

@@ -9,7 +9,7 @@ namespace parabolt {
 
 /// What choosing a ball option writes into the shot.
 struct BallOption {
-    OptionButton MainForm::*button;
+    OptionButton ShotControls::*button;
     float Slope1;
     float CD1;
     std::int16_t BallType;
@@ -22,7 +22,7 @@ std::span<const BallOption> ballOptions();
 /// the ball.
 class Defaults {
 public:
-    Defaults(MainForm& form, MessageBoxes& messages);
+    Defaults(ShotControls& form, MessageBoxes& messages);
 
     void SetSwingDefaults();
     /// Ends by choosing woods, which in mode 1 loads wood 1 where irons were chosen before.
@@ -33,14 +33,8 @@ public:
     void mnuReset_Click();
 
 private:
-    MainForm& form_;
+    ShotControls& form_;
     MessageBoxes& messages_;
 };
-
-// The fields that show a group of variables, each written from its variable in the order in which
-// the form shows them.
-void showSwing(MainForm& form);
-void showClub(MainForm& form);
-void showEnvironment(MainForm& form);
 
 } // namespace parabolt

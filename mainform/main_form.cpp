@@ -15,22 +15,22 @@ MainForm::MainForm() {
     for (Control* disabled :
          std::initializer_list<Control*>{&txtMode, &txtType, &txtRun, &chkBatch})
         disabled->setEnabled(false);
-    listClubs(*this, false);
+    listClubs(cmbClubNo, false);
 }
 
-void listClubs(MainForm& form, bool iron) {
+void listClubs(DropDownList& cmbClubNo, bool iron) {
     std::vector<std::string> numbers;
     for (const std::int16_t number : playableClubs(iron))
         numbers.push_back(std::to_string(number));
-    form.cmbClubNo.setItems(std::move(numbers));
+    cmbClubNo.setItems(std::move(numbers));
 }
 
-int runNumber(const MainForm& form) {
+int runNumber(const RunControls& form) {
     return roundTo<int>(leadingNumber(form.txtRun.text())).value_or(0);
 }
 
-int operatingMode(const MainForm& form) {
-    return roundTo<int>(leadingNumber(form.txtMode.text())).value_or(0);
+std::int16_t operatingMode(const ShotControls& form) {
+    return roundTo<std::int16_t>(leadingNumber(form.txtMode.text())).value_or(0);
 }
 
 void showClubsInCaption(MainForm& form) {

@@ -6,44 +6,46 @@
 #include "controls/rich_text_box.h"
 #include "controls/simple_controls.h"
 #include "controls/text_box.h"
-#include "engine/shot_state.h"
 #include "plots/curves.h"
+#include "shots/run_book.h"
 
 #include <string>
-#include <vector>
 
 namespace parabolt {
 
 /// The application's title, in captions and message boxes.
 inline constexpr std::string_view kApplicationTitle = "Parabolt";
 
-/// The inventory of the main form `frmMain`: its controls under their given names, grouped by
-/// frame, and its state. It has no behaviour; the handler groups work on it.
-struct MainForm {
-    // State ------------------------------------------------------------------------------------
-    ShotState shot;
-    /// Data sets 1 to n, n being the number in `txtRun`. Element 0 stays empty.
-    std::vector<RunRecord> Runs{1};
-    ClubTables clubs;
-    bool blFormLoaded = false; ///< read by the splash: is there a main form already?
-    std::string caption{kApplicationTitle};
-    std::function<void()> onCaption; ///< set by the view
+// The inventory of the main form `frmMain`: its controls under their given names, and its state. It
+// has no behaviour. It comes in parts, so that each group of handlers gets those that it works on.
 
+/// What all parts of the form share.
+struct FormCore {
     ControlSet controls;
     Focus focus;
+};
 
-    // Title ------------------------------------------------------------------------------------
+/// The title, and what counts, scales, starts and clears the data sets.
+struct RunControls : virtual FormCore {
+    RunBook Runs;       ///< the data sets
+    float sRange = 300; ///< width of the plot, yards
+
     Frame Frame3{controls, "Frame3", ""};
     Label Label5{controls, "Label5", kApplicationTitle};
     Label Label1{controls, "Label1", kApplicationTitle}; ///< its shadow: 15 twips right, 30 down
 
-    // Run and clear ----------------------------------------------------------------------------
     Label Label4{controls, "Label4", "Data Sets"};
     TextBox txtRun{controls, "txtRun", "0"}; ///< the run counter n
     Label Label11{controls, "Label11", "Scale (Yard)"};
     TextBox txtRange{controls, "txtRange", "300"};
     Button Command1{controls, "Command1", "&Run"};
     Button Command2{controls, "Command2", "&Clear"};
+    Timer Timer1{controls, "Timer1", 10}; ///< paces studies and batch
+};
+
+/// What is given of a shot.
+struct ShotControls : virtual FormCore {
+    ShotInputs shot; ///< the values that the fields have passed on
 
     // Mode -------------------------------------------------------------------------------------
     Frame Frame1{controls, "Frame1", "Mode"};
@@ -111,53 +113,64 @@ struct MainForm {
     TextBox txtTemperature{controls, "txtTemperature", "70"};
     Label Label19{controls, "Label19", "Humidity(%)"};
     TextBox txtRelativeHumidity{controls, "txtRelativeHumidity", "50"};
+};
 
-    // Results ----------------------------------------------------------------------------------
+/// Table and plots.
+struct ResultControls : virtual FormCore {
     RichTextBox txtResult{controls, "txtResult"};
     PictureBox Picture1{controls, "Picture1", kBlack, kWhite}; ///< the plot with axes and labels
     PictureBox Picture2{controls, "Picture2", kBlack, kWhite}; ///< inside it, the curves
     PictureBox Picture3{controls, "Picture3", kWhite, kBlack}; ///< hidden print twin of Picture1
     PictureBox Picture4{controls, "Picture4", kWhite, kBlack}; ///< hidden print twin of Picture2
     Label StatusBar1{controls, "StatusBar1", ""};
-    Timer Timer1{controls, "Timer1", 10};
-
-    // Menus ------------------------------------------------------------------------------------
-    MenuItem mnuFile{controls, "mnuFile", "&File"};
-    MenuItem mnuOpen{controls, "mnuOpen", "&Open Param."};
-    MenuItem mnuSave{controls, "mnuSave", "&Save Param."};
-    MenuItem mnuSResult{controls, "mnuSResult", "Save &Result"};
-    MenuItem mnuPrint{controls, "mnuPrint", "&Print"};
-    MenuItem mnuExit{controls, "mnuExit", "E&xit"};
-    MenuItem mnuDefault{controls, "mnuDefault", "&DefaultClub"};
-    MenuItem mnuStudies{controls, "mnuStudies", "&Studies"};
-    MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
-    MenuItem mnuStySpin{controls, "mnuStySpin", "Spin &Rate"};
-    MenuItem mnuReset{controls, "mnuReset", "&Reset"};
-    MenuItem Help{controls, "Help", "&Help"};
-    MenuItem mnuHelp{controls, "mnuHelp", "&Help"};
-    MenuItem mnuSkype{controls, "mnuSkype", "&Skype"};
-    MenuItem mnuAbout{controls, "mnuAbout", "&About"};
-
-    /// Hides what the user never sees and disables what starts disabled.
-    MainForm();
 
     PlotCanvases screenPlot() { return {Picture1, Picture2}; }
     PlotCanvases printPlot() { return {Picture3, Picture4}; }
 };
 
-/// Fills the list of club numbers with the irons or woods that can be played. None is selected.
-void listClubs(MainForm& form, bool iron);
-
-/// The run counter n: the number of data sets and the index of the newest.
-int runNumber(const MainForm& form);
-
-/// What `txtMode` numbers.
-struct OperatingMode {
-    enum Number : int { Launch, Default, Manual, Auto, Actual };
+/// The menus. What leaves a study or batch alone stays in use during it; the end of the program
+/// waits for no field.
+struct MenuControls : virtual FormCore {
+    MenuItem mnuFile{controls, "mnuFile", "&File", WhileBusy::Free};
+    MenuItem mnuOpen{controls, "mnuOpen", "&Open Param."};
+    MenuItem mnuSave{controls, "mnuSave", "&Save Param."};
+    MenuItem mnuSResult{controls, "mnuSResult", "Save &Result"};
+    MenuItem mnuPrint{controls, "mnuPrint", "&Print"};
+    MenuItem mnuExit{controls, "mnuExit", "E&xit", WhileBusy::Free,
+                     MenuItem::First::WaitsForNothing};
+    MenuItem mnuDefault{controls, "mnuDefault", "&DefaultClub"};
+    MenuItem mnuStudies{controls, "mnuStudies", "&Studies", WhileBusy::Free};
+    MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
+    MenuItem mnuStySpin{controls, "mnuStySpin", "Spin &Rate"};
+    MenuItem mnuReset{controls, "mnuReset", "&Reset"};
+    MenuItem Help{controls, "Help", "&Help", WhileBusy::Free};
+    MenuItem mnuHelp{controls, "mnuHelp", "&Help", WhileBusy::Free};
+    MenuItem mnuSkype{controls, "mnuSkype", "&Skype", WhileBusy::Free};
+    MenuItem mnuAbout{controls, "mnuAbout", "&About"};
 };
 
-/// The number in `txtMode`.
-int operatingMode(const MainForm& form);
+/// The fields that a validator judges.
+struct InputControls : RunControls, ShotControls {};
+
+/// The whole form.
+struct MainForm : InputControls, ResultControls, MenuControls {
+    ClubTables clubs;
+    bool blFormLoaded = false; ///< read by the splash: is there a main form already?
+    std::string caption{kApplicationTitle};
+    std::function<void()> onCaption; ///< set by the view
+
+    /// Hides what the user never sees and disables what starts disabled.
+    MainForm();
+};
+
+/// Fills the list of club numbers with the irons or woods that can be played. None is selected.
+void listClubs(DropDownList& cmbClubNo, bool iron);
+
+/// The run counter n: the number of data sets and the index of the newest.
+int runNumber(const RunControls& form);
+
+/// The number in `txtMode`, an `OperatingMode`.
+std::int16_t operatingMode(const ShotControls& form);
 
 /// Puts the title and the description of the club set into the form's caption.
 void showClubsInCaption(MainForm& form);

@@ -1,22 +1,35 @@
 #include "mainform/modes.h"
 
 #include "numbers/text_number.h"
+#include "shots/shot.h"
 
 #include <array>
 
 namespace parabolt {
 namespace {
 
-constexpr std::array<std::string_view, 11> kClubParameters = {
-    "Frame5", "Label6",        "Label12",        "Label13",    "Label20",     "Label14",
-    "txtCor", "txtHeadWeight", "txtAttackAngle", "txtBending", "txtLoftAngle"};
+/// A control of the form, whatever its kind.
+using ControlOf = Control& (*)(ShotControls&);
+template <auto Member>
+Control& at(ShotControls& form) {
+    return form.*Member;
+}
 
-constexpr std::array<std::string_view, 5> kBallOptions = {"Frame6", "BallOpt1", "BallOpt2",
-                                                          "BallOpt3", "BallOpt4"};
+constexpr std::array<ControlOf, 11> kClubParameters = {
+    at<&ShotControls::Frame5>,         at<&ShotControls::Label6>,
+    at<&ShotControls::Label12>,        at<&ShotControls::Label13>,
+    at<&ShotControls::Label20>,        at<&ShotControls::Label14>,
+    at<&ShotControls::txtCor>,         at<&ShotControls::txtHeadWeight>,
+    at<&ShotControls::txtAttackAngle>, at<&ShotControls::txtBending>,
+    at<&ShotControls::txtLoftAngle>};
+
+constexpr std::array<ControlOf, 5> kBallFrame = {
+    at<&ShotControls::Frame6>, at<&ShotControls::BallOpt1>, at<&ShotControls::BallOpt2>,
+    at<&ShotControls::BallOpt3>, at<&ShotControls::BallOpt4>};
 
 /// Whether a control is enabled in each mode. `Left` leaves it as the club parameters were set.
 struct ModeRow {
-    std::string_view control;
+    ControlOf control;
     enum State : std::uint8_t { Off, On, Left };
     std::array<State, 5> state;
 };
@@ -28,35 +41,35 @@ constexpr auto kLeft = ModeRow::Left;
 // The rows stand in the order in which they take effect.
 constexpr std::array<ModeRow, 18> kModeTable = {{
     // control              Launch Default Manual Auto Actual
-    {"Label13", {kLeft, kLeft, kLeft, kLeft, kOff}},
-    {"txtAttackAngle", {kLeft, kLeft, kLeft, kLeft, kOff}},
-    {"Label2", {kOn, kOff, kOff, kOff, kOff}},
-    {"txtBallSpin", {kOn, kOff, kOff, kOff, kOff}},
-    {"Label3", {kOn, kOff, kOff, kOff, kOn}},
-    {"txtLaunchAngle", {kOn, kOff, kOff, kOff, kOn}},
-    {"Label7", {kOn, kOff, kOff, kOff, kOff}},
-    {"txtLaunchSpeed", {kOn, kOff, kOff, kOff, kOff}},
-    {"Label8", {kOff, kOn, kOn, kOn, kOn}},
-    {"cmbClubNo", {kOff, kOn, kOn, kOn, kOn}},
-    {"Label9", {kOff, kOn, kOn, kOn, kOn}},
-    {"txtHeadSpeed", {kOff, kOn, kOn, kOn, kOn}},
-    {"Label10", {kOff, kOff, kOff, kOn, kOff}},
-    {"txtSpeedIncrement", {kOff, kOff, kOff, kOn, kOff}},
-    {"Frame4", {kOff, kOn, kOn, kOn, kOn}},
-    {"optIron", {kOff, kOn, kOn, kOn, kOn}},
-    {"optWood", {kOff, kOn, kOn, kOn, kOn}},
-    {"chkBatch", {kOff, kOff, kOff, kOn, kOff}},
+    {at<&ShotControls::Label13>, {kLeft, kLeft, kLeft, kLeft, kOff}},
+    {at<&ShotControls::txtAttackAngle>, {kLeft, kLeft, kLeft, kLeft, kOff}},
+    {at<&ShotControls::Label2>, {kOn, kOff, kOff, kOff, kOff}},
+    {at<&ShotControls::txtBallSpin>, {kOn, kOff, kOff, kOff, kOff}},
+    {at<&ShotControls::Label3>, {kOn, kOff, kOff, kOff, kOn}},
+    {at<&ShotControls::txtLaunchAngle>, {kOn, kOff, kOff, kOff, kOn}},
+    {at<&ShotControls::Label7>, {kOn, kOff, kOff, kOff, kOff}},
+    {at<&ShotControls::txtLaunchSpeed>, {kOn, kOff, kOff, kOff, kOff}},
+    {at<&ShotControls::Label8>, {kOff, kOn, kOn, kOn, kOn}},
+    {at<&ShotControls::cmbClubNo>, {kOff, kOn, kOn, kOn, kOn}},
+    {at<&ShotControls::Label9>, {kOff, kOn, kOn, kOn, kOn}},
+    {at<&ShotControls::txtHeadSpeed>, {kOff, kOn, kOn, kOn, kOn}},
+    {at<&ShotControls::Label10>, {kOff, kOff, kOff, kOn, kOff}},
+    {at<&ShotControls::txtSpeedIncrement>, {kOff, kOff, kOff, kOn, kOff}},
+    {at<&ShotControls::Frame4>, {kOff, kOn, kOn, kOn, kOn}},
+    {at<&ShotControls::optIron>, {kOff, kOn, kOn, kOn, kOn}},
+    {at<&ShotControls::optWood>, {kOff, kOn, kOn, kOn, kOn}},
+    {at<&ShotControls::chkBatch>, {kOff, kOff, kOff, kOn, kOff}},
 }};
 
-template <class Names>
-void setEnabled(const MainForm& form, const Names& names, bool enabled) {
-    for (const std::string_view name : names)
-        form.controls.find(name)->setEnabled(enabled);
+template <class Controls>
+void setEnabled(ShotControls& form, const Controls& controls, bool enabled) {
+    for (const ControlOf control : controls)
+        control(form).setEnabled(enabled);
 }
 
 } // namespace
 
-Modes::Modes(MainForm& form, ClubChoice& clubs) : form_(form), clubs_(clubs) {
+Modes::Modes(ShotControls& form, ClubChoice& clubs) : form_(form), clubs_(clubs) {
     form_.optLaunch.Click.connect([this] { form_.txtMode.setText("0"); });
     form_.optStandard.Click.connect([this] { form_.txtMode.setText("1"); });
     form_.optManual.Click.connect([this] { form_.txtMode.setText("2"); });
@@ -71,7 +84,7 @@ void Modes::SetAutoMode() {
 
 void Modes::EnableClubParameters() {
     setEnabled(form_, kClubParameters, true);
-    setEnabled(form_, kBallOptions, true);
+    setEnabled(form_, kBallFrame, true);
 }
 
 void Modes::DisableClubParameters() {
@@ -90,8 +103,8 @@ void Modes::txtMode_Change() {
     for (const ModeRow& row : kModeTable) {
         const auto state = row.state.at(static_cast<std::size_t>(mode));
         if (state != kLeft)
-            form_.controls.find(row.control)->setEnabled(state == kOn);
-        if (mode == OperatingMode::Default && row.control == "cmbClubNo")
+            row.control(form_).setEnabled(state == kOn);
+        if (mode == OperatingMode::Default && &row.control(form_) == &form_.cmbClubNo)
             clubs_.cmbClubNo_Click();
     }
 }

@@ -8,7 +8,7 @@ namespace parabolt {
 /// the text of the hidden `txtMode`.
 class Modes {
 public:
-    Modes(MainForm& form, ClubChoice& clubs);
+    Modes(ShotControls& form, ClubChoice& clubs);
 
     /// Mode 3: a press of Run shoots a whole club set.
     void SetAutoMode();
@@ -22,7 +22,7 @@ public:
     void DisableClubParameters();
 
 private:
-    MainForm& form_;
+    ShotControls& form_;
     ClubChoice& clubs_;
 };
 

@@ -3,6 +3,7 @@
 #include "files/file_access.h"
 #include "mainform/club_choice.h"
 #include "mainform/defaults.h"
+#include "mainform/form_shot.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 
@@ -14,7 +15,7 @@ namespace {
 
 constexpr std::uint32_t kNoSuchClub = 380; ///< number of the failure
 
-void takeSwingAndClub(ShotState& shot, const ParameterRecord& record) {
+void takeSwingAndClub(ShotInputs& shot, const ParameterRecord& record) {
     shot.AttackAngle = record.AttackAngle;
     shot.Bending = record.Bending;
     shot.LoftAngle = record.LoftAngle;
@@ -28,7 +29,7 @@ void takeSwingAndClub(ShotState& shot, const ParameterRecord& record) {
     shot.SpeedIncrement = record.SpeedIncrement;
 }
 
-std::optional<Failure> selectClub(MainForm& form, std::int16_t clubNo) {
+std::optional<Failure> selectClub(ShotControls& form, std::int16_t clubNo) {
     DropDownList& list = form.cmbClubNo;
     const int index = list.indexOf(std::to_string(clubNo));
     if (index < 0)
@@ -42,8 +43,8 @@ std::optional<Failure> selectClub(MainForm& form, std::int16_t clubNo) {
     return std::nullopt;
 }
 
-void takeWeather(MainForm& form, const ParameterRecord& record) {
-    ShotState& shot = form.shot;
+void takeWeather(ShotControls& form, const ParameterRecord& record) {
+    ShotInputs& shot = form.shot;
     if (record.RH == shot.RH && record.BaroPressure == shot.BaroPressure &&
         record.Temperature == shot.Temperature && record.h == shot.h &&
         static_cast<double>(record.WindSpeed) == shot.WindSpeed)
@@ -56,7 +57,7 @@ void takeWeather(MainForm& form, const ParameterRecord& record) {
     showEnvironment(form);
 }
 
-void takeBall(MainForm& form, std::int16_t ballType) {
+void takeBall(ShotControls& form, std::int16_t ballType) {
     for (const BallOption& option : ballOptions()) {
         if (option.BallType != ballType)
             continue;
@@ -69,20 +70,17 @@ void takeBall(MainForm& form, std::int16_t ballType) {
 
 } // namespace
 
-ParameterHandlers::ParameterHandlers(MainForm& form, FileDialog& dialog,
+ParameterHandlers::ParameterHandlers(ShotControls& form, FileDialog& dialog,
                                      PreferencesStore& preferences, MessageBoxes& messages,
                                      std::string applicationFolder)
     : form_(form),
       messages_(messages),
-      dialogs_(dialog, preferences, messages, std::move(applicationFolder)) {
-    form_.mnuOpen.Click.connect([this] { mnuOpen_Click(); });
-    form_.mnuSave.Click.connect([this] { mnuSave_Click(); });
-}
+      dialogs_(dialog, preferences, messages, std::move(applicationFolder)) {}
 
 void ParameterHandlers::mnuOpen_Click() {
     const auto load = [this](const std::string& fileName,
                              std::string_view) -> std::optional<Failure> {
-        const Outcome<Bytes> data = readFileStart(fileName, kParametersFileSize);
+        const FileOutcome<Bytes> data = readFileStart(fileName, kParametersFileSize);
         if (const auto* failure = std::get_if<Failure>(&data))
             return *failure;
         const ParameterRecord record = decodeParameters(std::get<Bytes>(data));
@@ -102,8 +100,8 @@ void ParameterHandlers::mnuSave_Click() {
         messages_.show(failure->description);
 }
 
-ParameterRecord collectParameters(const MainForm& form) {
-    const ShotState& shot = form.shot;
+ParameterRecord collectParameters(const ShotControls& form) {
+    const ShotInputs& shot = form.shot;
     ParameterRecord record;
     record.LaunchAngle = shot.LaunchAngle;
     record.RPM = shot.RPM;
@@ -128,7 +126,7 @@ ParameterRecord collectParameters(const MainForm& form) {
     return record;
 }
 
-std::optional<Failure> applyParameters(MainForm& form, const ParameterRecord& record) {
+std::optional<Failure> applyParameters(ShotControls& form, const ParameterRecord& record) {
     takeSwingAndClub(form.shot, record);
     form.txtType.setText(std::to_string(record.ClubType));
     if (auto failure = selectClub(form, record.ClubNo))

@@ -10,7 +10,7 @@ namespace parabolt {
 /// tables, data sets and scale are no part of it.
 class ParameterHandlers {
 public:
-    ParameterHandlers(MainForm& form, FileDialog& dialog, PreferencesStore& preferences,
+    ParameterHandlers(ShotControls& form, FileDialog& dialog, PreferencesStore& preferences,
                       MessageBoxes& messages, std::string applicationFolder);
 
     /// Asks for a file, and once more before its values replace those of the form.
@@ -19,17 +19,17 @@ public:
     void mnuSave_Click();
 
 private:
-    MainForm& form_;
+    ShotControls& form_;
     MessageBoxes& messages_;
     DialogRoutine dialogs_;
 };
 
 /// The set-up of the form.
-ParameterRecord collectParameters(const MainForm& form);
+ParameterRecord collectParameters(const ShotControls& form);
 
 /// Lays a set-up into variables and fields. The validators judge none of it. In mode 1 the club
 /// tables have the last word on the club's values. Fails half-way if there is no club of that
 /// number: the variables hold the new values then, the fields still the old ones.
-std::optional<Failure> applyParameters(MainForm& form, const ParameterRecord& record);
+std::optional<Failure> applyParameters(ShotControls& form, const ParameterRecord& record);
 
 } // namespace parabolt

@@ -5,33 +5,33 @@ namespace parabolt {
 void PlotPanel::Form_Resize(const FormSize& size, bool minimized) {
     if (minimized || size.height <= 5000 || size.width <= 1000)
         return;
-    LayoutPlots(size, form_.screenPlot());
+    LayoutPlots(size, results_.screenPlot());
     DrawPlotFrame();
     if (size.width > 7300) {
-        form_.txtResult.setWidth(size.width - 5190);
-        form_.Frame7.setWidth(size.width - 7260);
+        results_.txtResult.setWidth(size.width - 5190);
+        weather_.setWidth(size.width - 7260);
     }
     DrawCurves();
 }
 
 void PlotPanel::DrawPlotFrame() {
-    parabolt::DrawPlotFrame(form_.screenPlot(), form_.shot.sRange);
+    parabolt::DrawPlotFrame(results_.screenPlot(), run_.sRange);
 }
 
 void PlotPanel::DrawCurves() {
-    if (runNumber(form_) < 1)
+    if (runNumber(run_) < 1)
         return;
-    if (const auto failure = parabolt::DrawCurves(form_.screenPlot(), form_.Runs))
-        messages_.show(*failure);
+    if (const auto drawn = parabolt::DrawCurves(results_.screenPlot(), run_.Runs.records()); !drawn)
+        messages_.show(drawn.why());
 }
 
 void PlotPanel::PreparePrintPlots() {
-    form_.Picture3.setGeometry(form_.Picture1.geometry());
-    const auto& inner = form_.Picture2.geometry();
-    form_.Picture4.setGeometry({390, 420, inner.width, inner.height});
-    DrawPrintFrame(form_.printPlot(), form_.shot.sRange);
-    if (runNumber(form_) >= 1)
-        DrawPrintCurves(form_.printPlot(), form_.Runs);
+    results_.Picture3.setGeometry(results_.Picture1.geometry());
+    const auto& inner = results_.Picture2.geometry();
+    results_.Picture4.setGeometry({390, 420, inner.width, inner.height});
+    DrawPrintFrame(results_.printPlot(), run_.sRange);
+    if (runNumber(run_) >= 1)
+        DrawPrintCurves(results_.printPlot(), run_.Runs.records());
 }
 
 } // namespace parabolt

@@ -9,7 +9,12 @@ namespace parabolt {
 /// its data sets.
 class PlotPanel {
 public:
-    PlotPanel(MainForm& form, MessageBoxes& messages) : form_(form), messages_(messages) {}
+    /// `weather` is the frame that grows with the form's width.
+    PlotPanel(RunControls& run, ResultControls& results, Frame& weather, MessageBoxes& messages)
+        : run_(run),
+          results_(results),
+          weather_(weather),
+          messages_(messages) {}
 
     /// Lays out the form for a new outer size in twips. A size too small for it changes nothing.
     void Form_Resize(const FormSize& size, bool minimized);
@@ -22,7 +27,9 @@ public:
     void PreparePrintPlots();
 
 private:
-    MainForm& form_;
+    RunControls& run_;
+    ResultControls& results_;
+    Frame& weather_;
     MessageBoxes& messages_;
 };
 

@@ -10,8 +10,8 @@ namespace parabolt {
 
 /// What the validator of one field knows.
 struct FieldRule {
-    TextBox MainForm::*field;
-    std::variant<float ShotState::*, double ShotState::*> variable;
+    TextBox InputControls::*field;
+    std::variant<float ShotInputs::*, double ShotInputs::*, float RunControls::*> variable;
     double lowest;  ///< accepted itself
     double highest; ///< accepted itself
     std::string_view fallback;
@@ -27,16 +27,17 @@ std::span<const FieldRule> fieldRules();
 /// variable keeps its value until the field passes.
 class Validators {
 public:
-    Validators(MainForm& form, PlotPanel& plot, MessageBoxes& messages);
+    Validators(InputControls& form, PlotPanel& plot, MessageBoxes& messages);
 
     /// Judges a field now. A disabled field can't keep the focus; all else holds for it too.
-    void validate(TextBox MainForm::*field);
+    void validate(const TextBox& field);
 
 private:
-    void validate(const FieldRule& rule);
+    void judge(const FieldRule& rule);
     void store(const FieldRule& rule, double value);
+    void rescale(float RunControls::*scale, float yards);
 
-    MainForm& form_;
+    InputControls& form_;
     PlotPanel& plot_;
     MessageBoxes& messages_;
 };

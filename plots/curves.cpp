@@ -20,32 +20,32 @@ void drawLegendEntry(PictureBox& outer, std::size_t number, const RunRecord& run
                 "Club " + std::to_string(run.ClubNo) + "/" + std::to_string(number));
 }
 
-std::optional<std::string_view> drawAll(const PlotCanvases& plot, std::span<const RunRecord> runs,
+Outcome<void, std::string_view> drawAll(const PlotCanvases& plot, std::span<const RunRecord> runs,
                                         Rgb legendGround, Rgb restColour) {
     auto& [outer, inner] = plot;
     for (std::size_t i = 1; i < runs.size(); ++i) {
         const RunRecord& run = runs[i];
         inner.setForeColor(run.CurveColor);
         if (run.Path.empty())
-            return "A data set has no path to draw.";
+            return because(std::string_view("A data set has no path to draw."));
         inner.curve(run.Path);
         if (!inner.setDrawWidth(roundTo<int>(inner.geometry().width / 1750).value_or(0)))
-            return "The plot is too narrow for the landing mark.";
+            return because(std::string_view("The plot is too narrow for the landing mark."));
         const TrajectoryPoint& last = run.Path.back();
         inner.circle({last.x, last.y + 1.0}, 1);
         inner.setDrawWidth(1);
         drawLegendEntry(outer, i, run, legendGround);
     }
     inner.setForeColor(restColour);
-    return std::nullopt;
+    return {};
 }
 
 } // namespace
 
-std::optional<std::string_view> DrawCurves(const PlotCanvases& screen,
+Outcome<void, std::string_view> DrawCurves(const PlotCanvases& screen,
                                            std::span<const RunRecord> runs) {
     if (runs.size() < 2)
-        return std::nullopt;
+        return {};
     return drawAll(screen, runs, kBlack, kWhite);
 }
 
@@ -53,7 +53,7 @@ void DrawPrintCurves(const PlotCanvases& twin, std::span<const RunRecord> runs) 
     if (runs.size() < 2)
         return;
     twin.inner.cls();
-    drawAll(twin, runs, kWhite, kBlack);
+    static_cast<void>(drawAll(twin, runs, kWhite, kBlack));
 }
 
 } // namespace parabolt

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "numbers/outcome.h"
 #include "plots/plot_frame.h"
 
-#include <optional>
 #include <span>
 #include <string_view>
 
@@ -12,7 +12,7 @@ namespace parabolt {
 /// from the tee to a thick ring at the landing, which closes to a disc on a wide scale, and its
 /// entry in the legend. Nothing is erased. A failure ends the drawing at once and gives its
 /// description; what was drawn stays.
-std::optional<std::string_view> DrawCurves(const PlotCanvases& screen,
+Outcome<void, std::string_view> DrawCurves(const PlotCanvases& screen,
                                            std::span<const RunRecord> runs);
 
 /// The same on the print twin, whose inner canvas is erased first. A failure ends the drawing and

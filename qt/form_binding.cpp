@@ -206,7 +206,7 @@ void FormBinding::bindMenuItem(MenuItem& item) {
         connect(menu, &QMenu::aboutToShow, this, [&item] { item.Click(); });
     else
         connect(action, &QAction::triggered, this, [this, &item] {
-            if (item.name() == "mnuExit" || settle()) // the end waits for no field
+            if (item.first() == MenuItem::First::WaitsForNothing || settle())
                 item.Click();
         });
 }

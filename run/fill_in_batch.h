@@ -1,7 +1,7 @@
 #pragma once
 
 #include "run/pause.h"
-#include "run/run_driver.h"
+#include "run/shot_run.h"
 
 namespace parabolt {
 
@@ -10,16 +10,17 @@ namespace parabolt {
 /// its field from shot to shot and stays there.
 class FillInBatch {
 public:
-    FillInBatch(MainForm& form, RunDriver& driver, Pause& pause);
+    FillInBatch(InputControls& form, ShotRun& run, Pause& pause);
 
-    /// The air must have been computed before.
-    void RunFillInBatch();
+    /// Shoots a shot of the mode Auto with each club in turn. Weather without air is told once, and
+    /// nothing is shot.
+    void RunFillInBatch(Shot shot);
 
 private:
-    bool shoot(std::int16_t club);
+    bool shoot(const Shot& shot);
 
-    MainForm& form_;
-    RunDriver& driver_;
+    InputControls& form_;
+    ShotRun& run_;
     Pause& pause_;
 };
 

@@ -12,7 +12,8 @@ namespace parabolt {
 /// ten times. Studies and batch show their steps by it.
 class Pause {
 public:
-    Pause(MainForm& form, EventLoop& events);
+    /// `rest` is where the focus waits during a study or batch.
+    Pause(FormCore& form, Timer& Timer1, Control& rest, EventLoop& events);
 
     /// Waits ten ticks. False if the user has asked to stop meanwhile, or before.
     bool wait();
@@ -25,24 +26,25 @@ public:
 private:
     friend class LongRun;
 
-    MainForm& form_;
+    FormCore& form_;
+    Timer& Timer1_;
+    Control& rest_;
     EventLoop& events_;
     int TimerTicks_ = 0;
     bool stopped_ = false;
 };
 
-/// The time of a study or a batch. Every control that would disturb it is held back from its begin
-/// to its end, however it ends; then the focus goes back to where it was, unless the user has moved
-/// it to the table meanwhile.
+/// The time of a study or a batch. The controls that are to be held back meanwhile are so from its
+/// begin to its end, however it ends, while the focus waits elsewhere; then it goes back to where
+/// it was, unless the user has moved it.
 class LongRun {
 public:
-    LongRun(MainForm& form, Pause& pause);
+    explicit LongRun(Pause& pause);
     ~LongRun();
     LongRun(const LongRun&) = delete;
     LongRun& operator=(const LongRun&) = delete;
 
 private:
-    MainForm& form_;
     Pause& pause_;
     Control* focused_;
     std::vector<Control*> held_;

@@ -1,56 +1,49 @@
 #include "run/studies.h"
 
-#include "engine/flight.h"
-#include "numbers/rounding.h"
-#include "numbers/text_number.h"
+#include "shots/climb.h"
 
 namespace parabolt {
 
 /// In what the studies differ.
-struct Studies::Sweep {
-    TextBox MainForm::*field;
-    float ShotState::*variable;
-    int first;
-    int last;
-    int step;
+struct Studies::Study {
+    TextBox ShotControls::*field;
+    ClimbRange range;
     int tickMs; ///< interval of the timer that paces the study
 };
 
-Studies::Studies(MainForm& form, RunDriver& driver, Pause& pause, ProgressForm& progress)
+Studies::Studies(ShotControls& form, Timer& Timer1, ShotRun& run, RunDriver& driver, Pause& pause,
+                 ProgressForm& progress)
     : form_(form),
+      Timer1_(Timer1),
+      run_(run),
       driver_(driver),
       pause_(pause),
-      progress_(progress) {
-    form_.mnuStyLaunch.Click.connect([this] { mnuStyLaunch_Click(); });
-    form_.mnuStySpin.Click.connect([this] { mnuStySpin_Click(); });
-}
+      progress_(progress) {}
 
 void Studies::mnuStyLaunch_Click() {
-    study({&MainForm::txtLaunchAngle, &ShotState::LaunchAngle, 2, 55, 1, 20});
+    study({&ShotControls::txtLaunchAngle, {&ShotInputs::LaunchAngle, 2, 55, 1}, 20});
 }
 
 void Studies::mnuStySpin_Click() {
-    study({&MainForm::txtBallSpin, &ShotState::RPM, 0, 22000, 100, 10});
+    study({&ShotControls::txtBallSpin, {&ShotInputs::RPM, 0, 22000, 100}, 10});
 }
 
-void Studies::set(const Sweep& sweep, double value) {
-    (form_.*sweep.field).setText(shortestText(value));
-    form_.shot.*sweep.variable = store32(leadingNumber((form_.*sweep.field).text()));
+void Studies::set(const Study& study, int value) {
+    (form_.*study.field).setText(std::to_string(value));
+    form_.shot.*study.range.input = static_cast<float>(value);
 }
 
-void Studies::study(const Sweep& sweep) {
+void Studies::study(const Study& study) {
     bool found = false;
     {
-        const LongRun busy(form_, pause_);
+        const LongRun busy(pause_);
         form_.optLaunch.select();
         form_.txtMode.setText("0");
-        form_.Timer1.setInterval(sweep.tickMs);
+        Timer1_.setInterval(study.tickMs);
         progress_.ProgressBar1.setValue(progress_.ProgressBar1.least());
         if (progress_.onShow)
             progress_.onShow(true);
-        found = !driver_.reportFault(driver_.PrepareLaunch()) && climb(sweep);
-        if (found)
-            set(sweep, leadingNumber((form_.*sweep.field).text()) - sweep.step);
+        found = climb(study);
         if (progress_.onShow)
             progress_.onShow(false);
     }
@@ -58,24 +51,22 @@ void Studies::study(const Sweep& sweep) {
         driver_.Command1_Click();
 }
 
-/// Climbs until the carry drops or the values end. False if the user stopped it or a shot has no
-/// environment or launch: then nothing was found.
-bool Studies::climb(const Sweep& sweep) {
+/// Climbs, and shows what was found. False if the user stopped it or the shot has no air: then
+/// nothing was found.
+bool Studies::climb(const Study& study) {
     ProgressBar& bar = progress_.ProgressBar1;
-    float previous = 0;
-    for (int value = sweep.first; value <= sweep.last; value += sweep.step) {
+    Climb climb(run_.take(), study.range);
+    while (climb.goesOn()) {
         bar.setValue(bar.greatest() > bar.value() ? bar.value() + 1 : 0);
-        set(sweep, value);
-        if (driver_.reportFault(driver_.ComputeEnvironment()) ||
-            driver_.reportFault(driver_.PrepareLaunch()))
+        set(study, climb.next());
+        if (const auto flown = climb.advance(); !flown) {
+            run_.report(flown.why());
             return false;
-        const float carry = SimulateCarry(form_.shot);
-        if (previous > carry)
-            return true;
-        previous = carry;
-        if (!pause_.wait())
+        }
+        if (!climb.dropped() && !pause_.wait())
             return false;
     }
+    set(study, climb.found());
     return true;
 }
 

@@ -13,24 +13,26 @@ struct ProgressForm {
     std::function<void(bool shown)> onShow; ///< set by the view: shows the form or closes it
 };
 
-/// Climbs to the launch angle, or to the spin, that carries furthest: up through the values with
-/// the flight that records nothing, to the first that carries less than the one before, one step
-/// back, and one normal run with what was found. Equal carries don't stop the climb. Leaves the
-/// mode Launch.
+/// Climbs to the launch angle, or to the spin, that carries furthest: up through the values to the
+/// first that carries less than the one before, one step back, and one normal run with what was
+/// found. Leaves the mode Launch.
 class Studies {
 public:
-    Studies(MainForm& form, RunDriver& driver, Pause& pause, ProgressForm& progress);
+    Studies(ShotControls& form, Timer& Timer1, ShotRun& run, RunDriver& driver, Pause& pause,
+            ProgressForm& progress);
 
     void mnuStyLaunch_Click();
     void mnuStySpin_Click();
 
 private:
-    struct Sweep;
-    void study(const Sweep& sweep);
-    bool climb(const Sweep& sweep);
-    void set(const Sweep& sweep, double value);
+    struct Study;
+    void study(const Study& study);
+    bool climb(const Study& study);
+    void set(const Study& study, int value);
 
-    MainForm& form_;
+    ShotControls& form_;
+    Timer& Timer1_;
+    ShotRun& run_;
     RunDriver& driver_;
     Pause& pause_;
     ProgressForm& progress_;

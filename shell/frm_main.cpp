@@ -6,19 +6,21 @@
 namespace parabolt {
 
 frmMain::frmMain(const FormServices& services)
-    : plot(form, services.messages),
-      pause(form, services.events),
+    : plot(form, form, form.Frame7, services.messages),
+      pause(form, form.Timer1, form.Picture1, services.events),
       validators_(form, plot, services.messages),
-      clubChoice_(form, validators_),
+      clubChoice_(form, form.clubs, validators_),
       modes_(form, clubChoice_),
       defaults_(form, services.messages),
       resultExport_(form.txtResult, services.ccrpFileDialogs1, services.preferences,
                     services.messages, services.applicationFolder),
       parameters_(form, services.ccrpFileDialogs1, services.preferences, services.messages,
                   services.applicationFolder),
-      driver_(form, plot, services.messages, [this] { resultExport_.mnuSResult_Click(); }),
-      studies_(form, driver_, pause, frmProgress),
-      batch_(form, driver_, pause) {
+      run_(form, form.clubs, form.txtResult, plot, services.messages),
+      batch_(form, run_, pause),
+      driver_(form, form.txtResult, plot, run_, batch_, services.messages,
+              [this] { resultExport_.mnuSResult_Click(); }),
+      studies_(form, form.Timer1, run_, driver_, pause, frmProgress) {
     wireMenus(services.desktop);
 }
 
@@ -27,6 +29,8 @@ void frmMain::wireMenus(Desktop& desktop) {
     const auto settle = [this] { form.focus.give(form.Picture1); };
     form.mnuFile.Click.connect(settle);
     form.mnuStudies.Click.connect(settle);
+    form.mnuOpen.Click.connect([this] { parameters_.mnuOpen_Click(); });
+    form.mnuSave.Click.connect([this] { parameters_.mnuSave_Click(); });
     form.mnuSResult.Click.connect([this] { resultExport_.mnuSResult_Click(); });
     form.mnuPrint.Click.connect([this] {
         plot.PreparePrintPlots();
@@ -37,6 +41,8 @@ void frmMain::wireMenus(Desktop& desktop) {
         settle();
         showClubEditor();
     });
+    form.mnuStyLaunch.Click.connect([this] { studies_.mnuStyLaunch_Click(); });
+    form.mnuStySpin.Click.connect([this] { studies_.mnuStySpin_Click(); });
     form.mnuReset.Click.connect([this] { defaults_.mnuReset_Click(); });
     form.mnuHelp.Click.connect([settle, &desktop] {
         settle();
@@ -62,8 +68,8 @@ void frmMain::Form_Load() {
 
 void frmMain::ResetAll() {
     form.txtRun.setText("0");
-    form.shot.sRange = 300;
-    driver_.ClearRuns();
+    form.sRange = 300;
+    run_.ClearRuns();
     defaults_.SetSwingDefaults();
     defaults_.SetEnvironmentDefaults();
     defaults_.SetClubDefaults();

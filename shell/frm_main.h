@@ -5,7 +5,6 @@
 #include "mainform/modes.h"
 #include "mainform/parameter_handlers.h"
 #include "results/result_export.h"
-#include "run/fill_in_batch.h"
 #include "run/studies.h"
 
 #include <functional>
@@ -52,9 +51,10 @@ private:
     Defaults defaults_;
     ResultExport resultExport_;
     ParameterHandlers parameters_;
+    ShotRun run_;
+    FillInBatch batch_;
     RunDriver driver_;
     Studies studies_;
-    FillInBatch batch_;
 };
 
 } // namespace parabolt

@@ -10,7 +10,7 @@ import sys
 from pathlib import Path
 
 GROUND = {"numbers", "controls"}
-LOGIC = GROUND | {"engine", "files", "plots", "printing", "clubs", "results"}
+LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -18,6 +18,7 @@ MAY_SEE = {
     "controls": {"numbers"},
     "engine": {"numbers"},
     "files": GROUND,
+    "shots": {"numbers", "engine"},
     "plots": GROUND | {"engine"},
     "printing": GROUND | {"engine", "plots"},
     "clubs": GROUND | {"engine", "files"},
@@ -27,7 +28,7 @@ MAY_SEE = {
     "shell": LOGIC | {"mainform", "run"},
     "qt": LOGIC | {"mainform", "run", "shell"},
     # Around the program.
-    "docs": {"engine", "numbers"},
+    "docs": {"shots"},
     "fuzz": LOGIC | {"mainform", "run", "shell", "qt"},
     "bench": LOGIC | {"mainform", "run", "shell", "qt"},
 }

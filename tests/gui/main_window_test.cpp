@@ -147,7 +147,7 @@ TEST_F(MainWindowTest, KeysReachEveryCommand) {
     press(Qt::Key_X, Qt::AltModifier); // is no text
     press(Qt::Key_F5);
     EXPECT_EQ(runs(), 2);
-    EXPECT_FLOAT_EQ(user.form.Runs.at(2).COR, 0.8F);
+    EXPECT_FLOAT_EQ(user.form.Runs[2].COR, 0.8F);
     EXPECT_EQ(focused() + fromQt(field("txtCor")->selectedText()), "txtCor0.8");
     user.messages.answers = {MessageBoxes::Answer::No};
     press(Qt::Key_R, Qt::ControlModifier);
@@ -270,7 +270,7 @@ TEST_F(RealServicesTest, ClosingTheWindowEndsARunningBatch) {
     QTimer::singleShot(250, [&] { window->close(); });
     main.form.Command1.Click();
     EXPECT_TRUE(ended);
-    EXPECT_LT(main.form.Runs.size(), 7U);
+    EXPECT_LT(main.form.Runs.count(), 6);
 }
 
 } // namespace

@@ -46,7 +46,7 @@ TEST_F(Modes, EachFliesWithItsOwnSources) {
     run();
     form.optLaunch.select();
     run();
-    ASSERT_EQ(form.Runs.size(), 5U);
+    ASSERT_EQ(form.Runs.count(), 4);
     EXPECT_FLOAT_EQ(form.Runs[1].LoftAngle, 12);
     EXPECT_FLOAT_EQ(form.Runs[2].LoftAngle, 10);
     EXPECT_FLOAT_EQ(form.Runs[3].LaunchAngle, 12.3F);
@@ -95,29 +95,31 @@ TEST_F(Modes, ResetRestoresInputsAndKeepsModeDataAndScale) {
     EXPECT_EQ(form.txtWind.text() + form.txtCor.text() + form.txtMode.text(), "00.831");
     EXPECT_TRUE(form.optWood.selected() && form.BallOpt4.selected());
     EXPECT_FLOAT_EQ(form.shot.CD1, 0);
-    EXPECT_FLOAT_EQ(form.shot.sRange, 200);
+    EXPECT_FLOAT_EQ(form.sRange, 200);
 }
 
 struct Validators : Modes {};
 
 TEST_F(Validators, AcceptLimitsAndRefuseWhatLiesBeyond) {
     const struct {
-        TextBox MainForm::*field;
+        TextBox InputControls::*field;
         const char *text, *message, *after; ///< how the message begins; the text afterwards
     } table[] = {
-        {&MainForm::txtRange, "99.99", "The value must between 100 - 500, restore", "300"},
-        {&MainForm::txtRange, "wide", "You must input a number, restore", "300"},
-        {&MainForm::txtCor, "0.9", "", "0.9"},
-        {&MainForm::txtCor, "0.69", "Enter values between 0.7 and 0.9! Try again!", "0.80"},
-        {&MainForm::txtCor, "x", "Enter a value between 0.7 and 0.9! Defaults to 0.8", "0.80"},
-        {&MainForm::txtHeadSpeed, "1e999", "Enter a head speed", "100"},
-        {&MainForm::txtHeadSpeed, "  1.2e2 ", "", "  1.2e2 "},
-        {&MainForm::txtWind, "-35", "", "-35"},
-        {&MainForm::txtWind, "36", "Enter a value between -35 and 35 mph", "0"},
-        {&MainForm::txtWind, "calm", "Enter a value between 0 and 35 mph", "0"},
-        {&MainForm::txtRelativeHumidity, "-1", "Enter a value between 0 and 100 % for rel", "50"},
-        {&MainForm::txtRelativeHumidity, "wet", "Enter a value between 0 and 100 % for Rel", "50"},
-        {&MainForm::txtLaunchAngle, "55.5", "The comb", "9.5"},
+        {&InputControls::txtRange, "99.99", "The value must between 100 - 500, restore", "300"},
+        {&InputControls::txtRange, "wide", "You must input a number, restore", "300"},
+        {&InputControls::txtCor, "0.9", "", "0.9"},
+        {&InputControls::txtCor, "0.69", "Enter values between 0.7 and 0.9! Try again!", "0.80"},
+        {&InputControls::txtCor, "x", "Enter a value between 0.7 and 0.9! Defaults to 0.8", "0.80"},
+        {&InputControls::txtHeadSpeed, "1e999", "Enter a head speed", "100"},
+        {&InputControls::txtHeadSpeed, "  1.2e2 ", "", "  1.2e2 "},
+        {&InputControls::txtWind, "-35", "", "-35"},
+        {&InputControls::txtWind, "36", "Enter a value between -35 and 35 mph", "0"},
+        {&InputControls::txtWind, "calm", "Enter a value between 0 and 35 mph", "0"},
+        {&InputControls::txtRelativeHumidity, "-1", "Enter a value between 0 and 100 % for rel",
+         "50"},
+        {&InputControls::txtRelativeHumidity, "wet", "Enter a value between 0 and 100 % for Rel",
+         "50"},
+        {&InputControls::txtLaunchAngle, "55.5", "The comb", "9.5"},
     };
     for (const auto& row : table) {
         ScriptedForm user;
@@ -142,22 +144,34 @@ TEST_F(Validators, AcceptLimitsAndRefuseWhatLiesBeyond) {
 }
 
 TEST_F(Validators, EachFieldHasItsVariableAndItsMessage) {
-    const std::tuple<TextBox MainForm::*, float ShotState::*, float, const char*> table[] = {
-        {&MainForm::txtLaunchAngle, &ShotState::LaunchAngle, 11, "The combined launch angle"},
-        {&MainForm::txtBallSpin, &ShotState::RPM, 2100, "Enter a value between 0 and 22000 RPM"},
-        {&MainForm::txtLaunchSpeed, &ShotState::LaunchSpeed, 133, "Enter a value between 30 and"},
-        {&MainForm::txtHeadSpeed, &ShotState::HeadSpeed, 91, "Enter a head speed between 50 and"},
-        {&MainForm::txtSpeedIncrement, &ShotState::SpeedIncrement, 2, "Enter a value between 1 an"},
-        {&MainForm::txtCor, &ShotState::COR, 0.75F, "Enter a value between 0.7 and 0.9! Defau"},
-        {&MainForm::txtHeadWeight, &ShotState::HeadWeight, 201, "Enter values between 180 and 320"},
-        {&MainForm::txtAttackAngle, &ShotState::AttackAngle, 4, "Enter a value between -5 and +20"},
-        {&MainForm::txtBending, &ShotState::Bending, 3, "Enter a value between -10 and 10 degrees"},
-        {&MainForm::txtLoftAngle, &ShotState::LoftAngle, 22, "Enter values between 0 and 65 degre"},
-        {&MainForm::txtAltitude, &ShotState::h, 1200, "Enter a value between 0 and 15000 feet"},
-        {&MainForm::txtPressure, &ShotState::BaroPressure, 28,
+    const std::tuple<TextBox InputControls::*, float ShotInputs::*, float, const char*> table[] = {
+        {&InputControls::txtLaunchAngle, &ShotInputs::LaunchAngle, 11, "The combined launch angle"},
+        {&InputControls::txtBallSpin, &ShotInputs::RPM, 2100,
+         "Enter a value between 0 and 22000 RPM"},
+        {&InputControls::txtLaunchSpeed, &ShotInputs::LaunchSpeed, 133,
+         "Enter a value between 30 and"},
+        {&InputControls::txtHeadSpeed, &ShotInputs::HeadSpeed, 91,
+         "Enter a head speed between 50 and"},
+        {&InputControls::txtSpeedIncrement, &ShotInputs::SpeedIncrement, 2,
+         "Enter a value between 1 an"},
+        {&InputControls::txtCor, &ShotInputs::COR, 0.75F,
+         "Enter a value between 0.7 and 0.9! Defau"},
+        {&InputControls::txtHeadWeight, &ShotInputs::HeadWeight, 201,
+         "Enter values between 180 and 320"},
+        {&InputControls::txtAttackAngle, &ShotInputs::AttackAngle, 4,
+         "Enter a value between -5 and +20"},
+        {&InputControls::txtBending, &ShotInputs::Bending, 3,
+         "Enter a value between -10 and 10 degrees"},
+        {&InputControls::txtLoftAngle, &ShotInputs::LoftAngle, 22,
+         "Enter values between 0 and 65 degre"},
+        {&InputControls::txtAltitude, &ShotInputs::h, 1200,
+         "Enter a value between 0 and 15000 feet"},
+        {&InputControls::txtPressure, &ShotInputs::BaroPressure, 28,
          "Enter a value between 25 and 34 in"},
-        {&MainForm::txtRelativeHumidity, &ShotState::RH, 44, "Enter a value between 0 and 100 % f"},
-        {&MainForm::txtTemperature, &ShotState::Temperature, 66, "Enter a value between 20 and 12"},
+        {&InputControls::txtRelativeHumidity, &ShotInputs::RH, 44,
+         "Enter a value between 0 and 100 % f"},
+        {&InputControls::txtTemperature, &ShotInputs::Temperature, 66,
+         "Enter a value between 20 and 12"},
     };
     for (const auto& [field, variable, value, message] : table) {
         (form.*field).setText(std::to_string(value));
@@ -179,13 +193,13 @@ TEST_F(Validators, ARefusedValueReachesNothingUntilTheFallbackPasses) {
     EXPECT_EQ(form.txtRun.text(), "0");
     EXPECT_FLOAT_EQ(form.shot.RPM, 2000);
     run(); // the fallback passes
-    EXPECT_FLOAT_EQ(form.Runs.at(1).RPM, 3200);
+    EXPECT_FLOAT_EQ(form.Runs[1].RPM, 3200);
     for (const char* range : {"250", "50"}) { // the second is refused
         enter(form.txtRange, range);
         EXPECT_DOUBLE_EQ(form.Picture2.scale().width, 250);
         EXPECT_EQ(curves().size(), 1U);
     }
-    EXPECT_FLOAT_EQ(form.shot.sRange, 250);
+    EXPECT_FLOAT_EQ(form.sRange, 250);
 }
 
 } // namespace

@@ -105,7 +105,7 @@ std::vector<RunRecord> hops(int count) {
 TEST(Curves, DrawEachPathWithItsMarkAndLegend) {
     Plot plot;
     const auto runs = hops(2);
-    EXPECT_FALSE(DrawCurves(plot.canvases, runs));
+    EXPECT_TRUE(DrawCurves(plot.canvases, runs));
     const Rgb colour{20, 0, 0};
     EXPECT_EQ(shapesOf<DrawnCurve>(plot.inner).at(1), (DrawnCurve{runs[2].Path, colour, 1}));
     EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).at(1), (DrawnCircle{{4, 0.5}, 1, colour, 6}));
@@ -121,14 +121,14 @@ TEST(Curves, DrawEachPathWithItsMarkAndLegend) {
 
 TEST(Curves, TheThirteenthTakesTheFirstSlotOfTheLegendAndNothingPilesUp) {
     Plot plot;
-    DrawCurves(plot.canvases, hops(13));
+    ASSERT_TRUE(DrawCurves(plot.canvases, hops(13)));
     const auto texts = shapesOf<DrawnText>(plot.outer);
     EXPECT_EQ(texts.back(), (DrawnText{{300, 100}, "Club 1/13", kWhite}));
     // What wipes the slot comes after the first entry and before the new text.
     const auto& all = plot.outer.drawings();
     EXPECT_EQ(all.at(all.size() - 2), Drawing(DrawnBox{{250, 100}, {850, 150}, kBlack}));
     for (int count = 14; count <= 24; ++count)
-        DrawCurves(plot.canvases, hops(count));
+        ASSERT_TRUE(DrawCurves(plot.canvases, hops(count)));
     EXPECT_EQ(plot.inner.drawings().size(), 48U);
     EXPECT_LE(plot.outer.drawings().size(), 24U * 3);
     EXPECT_EQ(std::get<DrawnCircle>(plot.inner.drawings().back()).centre.x, 48) << "on top";
@@ -139,7 +139,7 @@ TEST(Curves, TheMarkGrowsWithTheCanvasAndAFailureLeavesWhatWasDrawn) {
         Plot plot(width);
         auto runs = hops(2);
         runs[2].Path.clear();
-        EXPECT_TRUE(DrawCurves(plot.canvases, runs));
+        EXPECT_FALSE(DrawCurves(plot.canvases, runs));
         EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).size(), 1U);
         EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).at(0).pen, pen) << width;
     }

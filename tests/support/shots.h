@@ -1,14 +1,12 @@
 #pragma once
 
-#include "engine/air.h"
-#include "engine/flight.h"
-#include "numbers/rounding.h"
+#include "shots/fly.h"
 
 namespace parabolt::support {
 
 /// A launch in mild weather at sea level without wind: 70 F, 29.92 inches, 50 percent.
-inline ShotState mildShot(float launchSpeed, float launchAngle, float spin) {
-    ShotState shot;
+inline Shot mildShot(float launchSpeed, float launchAngle, float spin) {
+    Shot shot;
     shot.LaunchSpeed = launchSpeed;
     shot.LaunchAngle = launchAngle;
     shot.RPM = spin;
@@ -19,33 +17,34 @@ inline ShotState mildShot(float launchSpeed, float launchAngle, float spin) {
 }
 
 /// The shot that most tests start from: 144 mph, 9.5 degrees, 3200 rpm.
-inline ShotState workedShot() {
+inline Shot workedShot() {
     return mildShot(144, 9.5F, 3200);
 }
 
-/// Derives what a flight needs besides the launch, with the length of the mile and not with the
-/// product's own factor.
-inline std::optional<Fault> prepare(ShotState& shot) {
-    shot.LaunchSpeedMs = store32(shot.LaunchSpeed * 1609.344 / 3600);
-    return ComputeEnvironment(shot);
+/// Why an operation gave nothing; nothing if all went well.
+template <class Value, class Why>
+std::optional<Why> whyNot(const Outcome<Value, Why>& outcome) {
+    return outcome ? std::nullopt : std::optional(outcome.why());
 }
 
-/// How a flight ended, with its record.
-struct Flown {
+/// How a flight ended, with its record as far as it came.
+struct Flight {
     std::optional<Fault> fault;
     RunRecord record;
 };
 
-/// Flies a shot whose derived quantities are set.
-inline Flown flyPrepared(const ShotState& shot) {
-    Flown flown;
-    flown.fault = SimulateFlight(shot, {}, flown.record);
-    return flown;
+inline Flight flightOf(const Shot& shot) {
+    const auto flown = fly(shot);
+    if (flown)
+        return {std::nullopt, flown->record};
+    return {flown.why().fault, flown.why().flight ? flown.why().flight->record : RunRecord()};
 }
 
-inline Flown fly(ShotState shot) {
-    const auto fault = prepare(shot);
-    return fault ? Flown{fault, {}} : flyPrepared(shot);
+/// Flies a state whose derived quantities are set.
+inline Flight flightOf(const ShotState& state) {
+    Flight flight;
+    flight.fault = whyNot(SimulateFlight(state, {}, flight.record));
+    return flight;
 }
 
 } // namespace parabolt::support

@@ -1,0 +1,48 @@
+#include "shots/fly.h"
+
+#include "engine/air.h"
+#include "engine/units.h"
+#include "numbers/rounding.h"
+
+#include <utility>
+
+namespace parabolt {
+
+Outcome<FlownShot, NotFlown> fly(const Shot& shot) {
+    const auto state = prepare(shot);
+    if (!state)
+        return because(NotFlown{state.why(), std::nullopt});
+    FlownShot flown{shot, {}};
+    static_cast<ShotInputs&>(flown.shot) = *state;
+    if (const auto landed = SimulateFlight(*state, shot, flown.record); !landed)
+        return because(NotFlown{landed.why(), std::move(flown)});
+    return flown;
+}
+
+Outcome<ShotState, Fault> deriveAir(const ShotInputs& inputs) {
+    ShotState state{inputs};
+    if (const auto air = ComputeEnvironment(state); !air)
+        return because(air.why());
+    return state;
+}
+
+Outcome<void, Fault> PrepareLaunch(ShotState& state, const Shot& shot) {
+    if (shot.Mode > OperatingMode::Launch) {
+        ShotState launched = state;
+        if (auto launch = GetLoftAngle(launched, shot.sources); !launch)
+            return launch;
+        state = launched;
+    }
+    state.LaunchSpeedMs = store32(state.LaunchSpeed * kMetresPerSecondPerMph);
+    return {};
+}
+
+Outcome<ShotState, Fault> prepare(const Shot& shot) {
+    auto state = deriveAir(shot);
+    if (state)
+        if (const auto launch = PrepareLaunch(*state, shot); !launch)
+            return because(launch.why());
+    return state;
+}
+
+} // namespace parabolt
