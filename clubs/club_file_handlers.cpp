@@ -31,7 +31,7 @@ void ClubFileHandlers::mnuOpenClub_Click() {
 }
 
 void ClubFileHandlers::ReadClubFile(const std::string& FileName) {
-    const FileOutcome<Bytes> data = readFileStart(FileName, kLongestClubsFile);
+    const Outcome<Bytes> data = readFileStart(FileName, kLongestClubsFile);
     if (const auto* failure = std::get_if<Failure>(&data))
         return messages_.show(readFailureMessage(*failure));
     if (const auto clubs = decodeClubs(std::get<Bytes>(data)))

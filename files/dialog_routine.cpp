@@ -81,7 +81,7 @@ DialogRoutine::DialogRoutine(FileDialog& dialog, PreferencesStore& preferences,
 
 std::optional<Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work) {
     const DialogRule& rule = ruleOf(purpose);
-    const FileOutcome<std::string> lastPath =
+    const Outcome<std::string> lastPath =
         GetRegString(preferences_, kAppName, "startup", kLastPath, "");
     if (const auto* failure = std::get_if<Failure>(&lastPath))
         return *failure;

@@ -19,6 +19,6 @@ inline constexpr std::uint32_t kFileFailureBase = 0x80070000;
 
 /// What an operation gives, or why it gives nothing.
 template <class Value>
-using FileOutcome = std::variant<Value, Failure>;
+using Outcome = std::variant<Value, Failure>;
 
 } // namespace parabolt

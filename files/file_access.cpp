@@ -117,7 +117,7 @@ std::optional<Failure> write(const std::string& fileName, const std::string& dat
 
 } // namespace
 
-FileOutcome<Bytes> readFileStart(const std::string& fileName, std::size_t most) {
+Outcome<Bytes> readFileStart(const std::string& fileName, std::size_t most) {
     if (auto bad = nameFailure(fileName))
         return *bad;
     std::error_code error;

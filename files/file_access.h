@@ -18,7 +18,7 @@ namespace parabolt {
 
 /// The first bytes of a file, at most that many. The file is opened for reading and writing, and a
 /// file that doesn't exist comes into being, empty.
-FileOutcome<Bytes> readFileStart(const std::string& fileName, std::size_t most);
+Outcome<Bytes> readFileStart(const std::string& fileName, std::size_t most);
 
 /// Writes over the beginning of a file and leaves what stands behind; creates the file if needed.
 std::optional<Failure> writeFileStart(const std::string& fileName, const Bytes& data);

@@ -40,7 +40,7 @@ std::optional<Failure> addressFailure(std::string_view appName, std::string_view
 
 } // namespace
 
-FileOutcome<std::string> GetRegString(PreferencesStore& store, std::string_view AppName,
+Outcome<std::string> GetRegString(PreferencesStore& store, std::string_view AppName,
                                   std::string_view Section, std::string_view Key,
                                   std::string_view Default) {
     if (auto failure = addressFailure(AppName, Section, Key))

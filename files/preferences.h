@@ -37,7 +37,7 @@ public:
 // regard to case.
 
 /// The stored text, or the default where nothing is stored.
-FileOutcome<std::string> GetRegString(PreferencesStore& store, std::string_view AppName,
+Outcome<std::string> GetRegString(PreferencesStore& store, std::string_view AppName,
                                   std::string_view Section, std::string_view Key,
                                   std::string_view Default);
 

@@ -80,7 +80,7 @@ ParameterHandlers::ParameterHandlers(ShotControls& form, FileDialog& dialog,
 void ParameterHandlers::mnuOpen_Click() {
     const auto load = [this](const std::string& fileName,
                              std::string_view) -> std::optional<Failure> {
-        const FileOutcome<Bytes> data = readFileStart(fileName, kParametersFileSize);
+        const Outcome<Bytes> data = readFileStart(fileName, kParametersFileSize);
         if (const auto* failure = std::get_if<Failure>(&data))
             return *failure;
         const ParameterRecord record = decodeParameters(std::get<Bytes>(data));
