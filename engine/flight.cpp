@@ -11,8 +11,8 @@ namespace {
 
 /// How a flight went on as far as it went.
 struct Flown {
-    FlightState ball; ///< behind the last step
-    bool landed;      ///< false if that step had no result, or `onStep` ended the flight
+    FlightState ball;    ///< behind the last step
+    bool landed = false; ///< false if that step had no result, or `onStep` ended the flight
 };
 
 /// Flies the ball down to the first step below the ground and hands each completed step to
