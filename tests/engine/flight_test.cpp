@@ -134,6 +134,15 @@ TEST(Flight, StopsAtTheLastStepThatARecordCounts) {
     EXPECT_GT(SimulateCarry(airless(1700, 89)), record.Path.back().x);
 }
 
+// With this exponent, which only a file can bring, the ball rises for ever and turns about in each
+// step, and none of its states repeats another.
+TEST(Flight, EndsForABallThatNeverComesDown) {
+    ShotState shot = with(mildShot(227, 43, 7700), 28, -0.3F);
+    ASSERT_FALSE(prepare(shot));
+    EXPECT_EQ(SimulateCarry(shot), 0);
+    EXPECT_EQ(flyPrepared(shot).fault, Fault::TooManySteps);
+}
+
 // Whatever a file puts into a shot: both kinds of flight end, and say the same to the last bit.
 TEST(Flight, BothKindsEndAndAgree) {
     constexpr float kInf = std::numeric_limits<float>::infinity();
