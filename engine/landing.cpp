@@ -31,22 +31,31 @@ float greenRoll(const FlightState& landing) {
                    (spin * kRollPerSpinAndDescent) * descent);
 }
 
-Outcome<void, Fault> recordLanding(const FlightState& landing, const ShotState& shot,
-                                   const RunTags& tags, RunRecord& record) {
+Outcome<LandingFigures, Fault> landingFigures(const FlightState& landing) {
     constexpr float kFeetPerYard = 3;
-    const float roll = store32(double{greenRoll(landing)} * kFeetPerYard);
-    const float spin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown);
-    const float speed = store32(landing.vx / kMetresPerSecondPerMph);
-    const float carry = store32(double{landing.x} * kYardsPerMetre);
-    for (const float value : {roll, spin, speed, carry})
+    const LandingFigures figures{
+        .carry = store32(double{landing.x} * kYardsPerMetre),
+        .roll = store32(double{greenRoll(landing)} * kFeetPerYard),
+        .spin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown),
+        .speed = store32(landing.vx / kMetresPerSecondPerMph),
+    };
+    for (const float value : {figures.carry, figures.roll, figures.spin, figures.speed})
         if (!std::isfinite(value)) // the landing was finite: it is too large for its width
             return because(Fault::Overflow);
+    return figures;
+}
+
+Outcome<void, Fault> recordLanding(const FlightState& landing, const ShotState& shot,
+                                   const RunTags& tags, RunRecord& record) {
+    const auto figures = landingFigures(landing);
+    if (!figures)
+        return because(figures.why());
 
     record.CarryTime = landing.t;
-    record.ImpactSpin = spin;
-    record.ImpactSpeed = speed;
-    record.GreenRoll = roll;
-    record.CarryDist = carry;
+    record.ImpactSpin = figures->spin;
+    record.ImpactSpeed = figures->speed;
+    record.GreenRoll = figures->roll;
+    record.CarryDist = figures->carry;
     record.LaunchAngle = shot.LaunchAngle;
     record.RPM = shot.RPM;
     record.LaunchSpeed = shot.LaunchSpeed;
