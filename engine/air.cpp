@@ -29,8 +29,8 @@ constexpr double kInchesPerHectopascal = 0.02953; ///< inHg/hPa, of mercury at 0
 constexpr double kVapourShare = 0.378; ///< no unit, 1 less the molar mass of water over dry air's
 constexpr double kGasConstantDryAir = 287; ///< J/(kg K), in tables 287.05
 
-// Saturation over water: Magnus' formula with the digits of the American weather service; O. Tetens
-// (Zeitschrift fuer Geophysik 6, 1930) has 237.3.
+// Saturation over water: Magnus' formula after O. Tetens (Zeitschrift fuer Geophysik 6, 1930), who
+// has 237.3; 237.7 is in wide use, and where it comes from isn't known here.
 constexpr double kSaturationAtZero = 6.11; ///< hPa, at 0 C
 constexpr double kMagnusFactor = 7.5;      ///< no unit, how the saturation grows
 constexpr double kMagnusCelsius = 237.7;   ///< C, how the growth bends
