@@ -13,8 +13,7 @@
 
 #include <iterator>
 
-// The vectors that pay: with two lanes of plain SSE2 nothing is won. Those without a fixed length
-// can't stand in a structure.
+// Vectors older than SSE4 win little. Those without a fixed length can't stand in a structure.
 #define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_SVE | HWY_SVE2 | HWY_SVE_256 | HWY_SVE2_128 | HWY_RVV)
 // The file compiles itself once for each of them.
 #define HWY_TARGET_INCLUDE "engine/lanes.cpp"
@@ -50,14 +49,15 @@ static_assert(kVectors * kLanesOfVector <= kMostLanes);
 // Bound of the relative error against the scalar result: 256 units of the last place. The vector
 // functions are off by 4 units at most and the scalar ones by 1. An argument that was off itself
 // adds its absolute error: at most 14 x 5 units to the power below, whose logarithm goes up to 14,
-// and 15 x 2 to the sine of the drag, whose argument goes up to 15.
+// and 18 x 3 to the sine of the drag, whose argument goes up to 18.
 constexpr double kBound = 0x1p-44;
 constexpr float kLeastSpin = 1e-6F; ///< or 0
 constexpr float kMostSpin = 1e+6F;
 constexpr float kMostReynolds = 1e+6F;
 
-// Beyond these a lane has no result, or may be so far out that its scalar must look at it.
-constexpr float kMostOfAll = 1e+30F;
+// Above it the sum of a lane's quantities is infinite, or so large that the scalar check must
+// decide.
+constexpr float kMostSum = 1e+30F;
 
 HWY_INLINE Doubles all(double value) {
     return hn::Set(kDoubles, value);
@@ -187,7 +187,7 @@ HWY_INLINE void move(Step& step, const LaneBalls& from, LaneBalls& to, std::size
 
     const Floats sum = hn::Abs(((x + y) + (vx + vy)) + w);
     step.up =
-        hn::And(hn::And(hn::Lt(sum, all32(kMostOfAll)), hn::Ne(vx, all32(0))), hn::Ge(y, all32(0)));
+        hn::And(hn::And(hn::Lt(sum, all32(kMostSum)), hn::Ne(vx, all32(0))), hn::Ge(y, all32(0)));
 }
 
 HWY_INLINE void turn(Step& step, LaneBalls& to, std::size_t i) {
