@@ -24,7 +24,7 @@ struct FlightOutcome {
 /// The outcome of a recorded flight that came down.
 FlightOutcome outcomeOf(const RunRecord& record);
 
-/// By what many flights are computed. Changes how long they take and no bit of what they give.
+/// By what many flights are computed: changes how long they take, and no bit of what they give.
 struct FlightMeans {
     const LaneWay* lanes; ///< null to fly one by one
     unsigned threads;
@@ -38,7 +38,7 @@ FlightMeans bestFlightMeans();
 /// that of `SimulateCarry` too. Expects the derived quantities of the shots to be up to date.
 ///
 /// Returns when all is done, so a window calls it from a thread of its own. Once a stop is
-/// requested it returns within milliseconds, without any outcome.
+/// requested it returns as soon as a ball lands in each thread, without any outcome.
 std::vector<FlightOutcome> SimulateFlights(std::span<const ShotState> shots, std::stop_token stop,
                                            const FlightMeans& means = bestFlightMeans());
 
