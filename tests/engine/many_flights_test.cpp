@@ -106,7 +106,7 @@ TEST(ManyFlights, ABrokenShotLeavesTheOthersAlone) {
 
 TEST(ManyFlights, FewerThanTheLanesAndNoneAtAll) {
     std::mt19937 random(2);
-    for (const std::size_t shots : {0, 1, 7, 30})
+    for (const std::size_t shots : {0U, 1U, 7U, 30U})
         expectEqual(drawShots(shots, random), {{nullptr, 2}});
 }
 
