@@ -1,6 +1,7 @@
 #include "bench/bare_loop.h"
 #include "engine/lanes.h"
 #include "engine/many_flights.h"
+#include "numbers/rounding.h"
 #include "shots/fly.h"
 
 #include <atomic>
@@ -79,14 +80,15 @@ std::vector<ShotState> clubShots(std::size_t count) {
     const auto draw = [&](double from, double to) {
         return store32(std::uniform_real_distribution(from, to)(random));
     };
-    std::vector<ShotState> shots(count, driver());
-    for (ShotState& shot : shots) {
+    std::vector<ShotState> shots;
+    while (shots.size() < count) {
+        Shot shot;
         shot.LaunchAngle = draw(8, 25);
         shot.RPM = draw(2000, 9000);
-        shot.LaunchSpeedMs = draw(35, 75);
+        shot.LaunchSpeed = draw(80, 168);
         shot.WindSpeed = draw(-15, 15);
         shot.Temperature = draw(40, 100);
-        ComputeEnvironment(shot);
+        shots.push_back(*prepare(shot));
     }
     return shots;
 }
@@ -96,7 +98,7 @@ void bareMany(benchmark::State& state) {
     const auto shots = clubShots(kManyShots);
     for (auto _ : state)
         for (const ShotState& shot : shots)
-            benchmark::DoNotOptimize(bench::bareCarry(bare(shot)));
+            benchmark::DoNotOptimize(bench::bareCarry(bench::bareShot(shot)));
     state.counters["flights"] = static_cast<double>(kManyShots);
 }
 
