@@ -143,11 +143,21 @@ TEST(SettingsStore, GivesTextsBackWholeOrSaysWhyNot) {
     // What can't be used is set aside, and is told once: a folder, then a broken file.
     EXPECT_EQ(text(), "default");
     EXPECT_TRUE(std::filesystem::is_directory(file + ".unreadable"));
-    EXPECT_EQ(save("/home") + text(), "/home");
+    EXPECT_EQ(save("/home"), "");
+    EXPECT_EQ(text(), "/home");
     putContent(file, "[startup\nno line of it");
     EXPECT_EQ(text(), "default");
     EXPECT_EQ(contentOf(file + ".unreadable2"), "[startup\nno line of it");
-    EXPECT_EQ(save("/home") + text(), "/home");
+    EXPECT_EQ(save("/home"), "");
+    EXPECT_EQ(text(), "/home");
+    // What can't even be set aside, as its new name would be too long, leaves the session.
+    application = std::string(245, 'x');
+    const auto stuck = std::filesystem::path(file).replace_filename(application + ".conf");
+    std::filesystem::create_directory(stuck);
+    EXPECT_EQ(text(), "default");
+    EXPECT_EQ(save("/home"), "");
+    EXPECT_EQ(text(), "/home");
+    EXPECT_TRUE(std::filesystem::is_directory(stuck));
     ASSERT_EQ(messages.texts.size(), 1U);
     EXPECT_NE(messages.texts[0].find(".unreadable"), std::string::npos);
 }
