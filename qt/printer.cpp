@@ -1,5 +1,6 @@
 #include "qt/printer.h"
 
+#include "files/file_access.h"
 #include "qt/dialogs.h"
 #include "qt/file_dialog.h"
 #include "qt/page_painter.h"
@@ -7,7 +8,6 @@
 
 #include <QApplication>
 #include <QBuffer>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QLocale>
@@ -15,7 +15,6 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <algorithm>
 #include <array>
@@ -94,20 +93,22 @@ QPageSize::PageSizeId usualPaper(const QLocale& locale) {
 Outcome<void, std::string> writePdf(const QString& fileName, QPageSize::PageSizeId paper,
                                     std::string_view title,
                                     const std::function<void(Page&)>& compose) {
-    // Neither the PDF's own writer nor a commit without a flush would tell that the disk is full.
-    QBuffer bytes;
+    const auto refuse = [&fileName](std::string_view why) {
+        return because("The report can't be written to \"" +
+                       fromQt(QFileInfo(fileName).fileName()) + "\": " + std::string(why));
+    };
+    QBuffer bytes; // the PDF's own writer wouldn't tell that the disk is full
     bytes.open(QIODevice::WriteOnly);
     QPdfWriter writer(&bytes);
     writer.setPageLayout(pdfLayout(paper));
     writer.setResolution(kPdfResolution);
     writer.setTitle(toQt(title));
     writer.setCreator(QApplication::applicationName());
-    QSaveFile file(fileName);
-    if (paint(writer, compose) && file.open(QIODevice::WriteOnly) &&
-        file.write(bytes.data()) == bytes.size() && file.flush() && file.commit())
-        return {};
-    return because("The report can't be written to \"" + fromQt(QFileInfo(fileName).fileName()) +
-                   "\": " + fromQt(file.errorString()));
+    if (!paint(writer, compose))
+        return refuse("The page can't be drawn");
+    if (const auto written = replaceFile(fromQt(fileName), bytes.data().toStdString()); !written)
+        return refuse(written.why().description);
+    return {};
 }
 
 PageSize QtPrinter::paper() {
@@ -133,8 +134,8 @@ Outcome<void, std::string> QtPrinter::print(std::string_view title,
 QString QtPrinter::askFileName() {
     if (lastFolder_.isEmpty())
         lastFolder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QFileDialog dialog(frontWindow(), "Print Report To A PDF File", existingFolder(lastFolder_),
-                       "PDF File(*.pdf)");
+    NamingDialog dialog(frontWindow(), "Print Report To A PDF File", existingFolder(lastFolder_),
+                        "PDF File(*.pdf)");
     dialog.setObjectName("printFileDialog");
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix("pdf");

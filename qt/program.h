@@ -36,7 +36,7 @@ private:
 
     QtMessageBoxes messages_;
     QtFileDialog fileDialog_;
-    SettingsStore preferences_;
+    SettingsStore preferences_{messages_};
     QtDesktop desktop_;
     QtEventLoop events_;
     QtPrinter printer_;

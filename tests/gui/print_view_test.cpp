@@ -108,6 +108,9 @@ TEST_F(PrintedReport, IsTextAndLinesInsideItsFrameOnEachPaper) {
         EXPECT_FALSE(write(file, QPageSize::A4));
     }
     EXPECT_EQ(QFileInfo(file).size(), size);
+    const auto refused = write("/dev/full", QPageSize::A4);
+    ASSERT_FALSE(refused);
+    EXPECT_NE(refused.why().find("not an ordinary file"), std::string::npos) << refused.why();
 }
 
 TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
