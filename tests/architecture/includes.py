@@ -20,7 +20,7 @@ MAY_SEE = {
     "files": GROUND,
     "shots": {"numbers", "engine"},
     "plots": GROUND | {"engine"},
-    "printing": GROUND | {"engine", "plots"},
+    "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
     "results": GROUND | {"engine", "printing", "files"},
     "mainform": LOGIC,

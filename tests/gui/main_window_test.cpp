@@ -1,6 +1,7 @@
 #include "qt/dialogs.h"
 #include "qt/main_window.h"
 #include "qt/text.h"
+#include "tests/gui/as_soon_as.h"
 #include "tests/support/scripted_form.h"
 
 #include <QApplication>
@@ -113,7 +114,7 @@ TEST_F(MainWindowTest, ARefusedFieldIsToldOnceHoweverItIsLeft) {
         user.messages.texts.clear();
         type("txtHeadSpeed", "20");
         leave();
-        QTest::qWait(1);
+        QApplication::processEvents();
         EXPECT_EQ(user.messages.texts.size(), 1U) << about;
         EXPECT_EQ(focused(), "txtHeadSpeed") << about;
         EXPECT_EQ(field("txtHeadSpeed")->selectedText(), "100") << about;
@@ -244,22 +245,24 @@ TEST_F(RealServicesTest, AMessageSwallowsNoMoreThanTheKeyThatClosesIt) {
 }
 
 TEST_F(RealServicesTest, EscAnswersNoQuestion) {
-    QTimer::singleShot(100, [] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        QTest::keyClick(box, Qt::Key_Escape);
-        EXPECT_TRUE(box->isVisible() && !box->close());
-        box->button(QMessageBox::Yes)->click();
-    });
+    const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+    asSoonAs(
+        *window, [=] { return box() != nullptr; },
+        [=] {
+            QTest::keyClick(box(), Qt::Key_Escape);
+            ASSERT_TRUE(box() && !box()->close());
+            box()->button(QMessageBox::Yes)->click();
+        });
     EXPECT_TRUE(messages.ask("All the data?"));
 }
 
 TEST_F(RealServicesTest, EscStopsAStudyAndTheFormIsUsableAgain) {
     const auto* run = window->findChild<QPushButton*>("Command1");
     const auto* progress = window->findChild<QWidget*>("frmProgress");
-    QTimer::singleShot(700, [&] {
-        EXPECT_TRUE(!run->isEnabled() && progress->isVisible());
-        QTest::keyClick(window.get(), Qt::Key_Escape);
-    });
+    ASSERT_TRUE(run && progress);
+    asSoonAs(
+        *window, [&] { return !run->isEnabled() && progress->isVisible(); },
+        [&] { QTest::keyClick(window.get(), Qt::Key_Escape); });
     main.form.mnuStyLaunch.Click();
     EXPECT_EQ(field("txtRun")->text(), "0");
     EXPECT_TRUE(run->isEnabled() && !progress->isVisible());
@@ -267,7 +270,8 @@ TEST_F(RealServicesTest, EscStopsAStudyAndTheFormIsUsableAgain) {
 
 TEST_F(RealServicesTest, ClosingTheWindowEndsARunningBatch) {
     main.form.optAuto.select();
-    QTimer::singleShot(250, [&] { window->close(); });
+    asSoonAs(
+        *window, [&] { return main.form.Runs.count() > 0; }, [&] { window->close(); });
     main.form.Command1.Click();
     EXPECT_TRUE(ended);
     EXPECT_LT(main.form.Runs.count(), 6);
