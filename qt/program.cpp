@@ -8,6 +8,7 @@
 #include "shell/build_values.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QIcon>
 #include <QShortcut>
 
@@ -16,6 +17,13 @@ namespace {
 
 std::string applicationFolder() {
     return fromQt(QApplication::applicationDirPath());
+}
+
+/// Shows a window over the main window, which has the keys again in the end. By itself it wouldn't
+/// where a question came up last, over a window that went at once with it.
+void execute(QDialog& dialog) {
+    dialog.exec();
+    dialog.parentWidget()->activateWindow();
 }
 
 } // namespace
@@ -60,19 +68,21 @@ void Program::showClubEditor() {
     frmClubParams editor(logic_.form.clubs,
                          {messages_, fileDialog_, preferences_, desktop_, applicationFolder(),
                           [this] { showClubsInCaption(logic_.form); }});
-    ClubEditorWindow(editor, window_.get()).exec();
+    ClubEditorWindow window(editor, window_.get());
+    execute(window);
 }
 
 void Program::showPrintView() {
     frmPrintView printView(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
     PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
-    window.exec();
+    execute(window);
 }
 
 void Program::showAbout() {
     frmSplash about(desktop_);
-    SplashWindow(about, window_.get()).exec();
+    SplashWindow window(about, window_.get());
+    execute(window);
 }
 
 } // namespace parabolt

@@ -153,6 +153,11 @@ TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     auto& woods2 = part<QTableWidget>("GridWoods");
     QTest::mouseClick(woods2.viewport(), Qt::LeftButton, {}, cell(woods2, 0, 0).center());
     EXPECT_TRUE(woods2.hasFocus() && edit.isHidden());
+    type("F<7T"); // inside the text
+    EXPECT_EQ(woods2.item(0, 0)->text(), "1978");
+    EXPECT_EQ(form.txtWoodEdit.text(), "1978");
+    woods.setText(1, 1, "198");
+    form.txtWoodEdit.setText("");
     part<QPlainTextEdit>("txtComment").setFocus();
     type("dryEfastT");
     QTest::mouseClick(&part<QPushButton>("Command3"), Qt::LeftButton);

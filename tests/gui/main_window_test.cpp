@@ -1,11 +1,15 @@
 #include "qt/dialogs.h"
 #include "qt/main_window.h"
+#include "qt/splash_window.h"
 #include "qt/text.h"
 #include "tests/gui/as_soon_as.h"
 #include "tests/support/scripted_form.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -47,6 +51,12 @@ struct MainWindowTest : testing::Test {
     }
     std::string focused() { return fromQt(window.focusWidget()->objectName()); }
     int runs() { return field("txtRun")->text().toInt(); }
+    /// Presses and releases as the window system reports it, wherever the focus is.
+    void clickAt(const char* name, Qt::MouseButton button) {
+        QWidget* widget = find(name);
+        QTest::mouseClick(window.windowHandle(), button, {},
+                          widget->mapTo(&window, widget->rect().center()));
+    }
     void press(int key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
     }
@@ -59,7 +69,8 @@ TEST_F(MainWindowTest, WidgetsAndControlsAnswerEachOther) {
     for (const Control* control : user.form.controls.all()) {
         const QString name = toQt(control->name());
         const auto* object = window.findChild<QObject*>(name);
-        ASSERT_NE(object, nullptr) << control->name();
+        // What the user never sees is nothing that a key or a screen reader could come to.
+        ASSERT_EQ(object != nullptr, control->visible()) << control->name();
         if (const auto* widget = qobject_cast<const QWidget*>(object)) {
             EXPECT_EQ(widget->isHidden(), !control->visible()) << control->name();
             EXPECT_EQ(widget->isEnabled(), control->enabled()) << control->name();
@@ -102,6 +113,8 @@ TEST_F(MainWindowTest, ARefusedFieldIsToldOnceHoweverItIsLeft) {
         {"F5", [&] { press(Qt::Key_F5); }},
         {"the mnemonic of Run", [&] { press(Qt::Key_R, Qt::AltModifier); }},
         {"the mnemonic of a menu", [&] { press(Qt::Key_F, Qt::AltModifier); }},
+        {"Alt alone", [&] { QTest::keyClick(window.windowHandle(), Qt::Key_Alt); }},
+        {"the keypad's Enter", [&] { press(Qt::Key_Enter, Qt::KeypadModifier); }},
         {"a menu",
          [&] {
              QMenuBar* bar = window.menuBar();
@@ -127,6 +140,127 @@ TEST_F(MainWindowTest, ARefusedFieldIsToldOnceHoweverItIsLeft) {
     click("Command1");
     EXPECT_EQ(runs(), 1);
     EXPECT_TRUE(user.messages.texts.empty());
+}
+
+TEST_F(MainWindowTest, WhereTheFocusIsRefusedNothingIsPasted) {
+    QClipboard& clipboard = *QApplication::clipboard();
+    clipboard.setText("7");
+    clipboard.setText("7", QClipboard::Selection);
+    const QString table = find<QPlainTextEdit>("txtResult")->toPlainText();
+    for (const char* other : {"txtCor", "txtResult"})
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            user.messages.texts.clear();
+            type("txtHeadSpeed", "20");
+            clickAt(other, button);
+            EXPECT_EQ(user.messages.texts.size(), 1U);
+            EXPECT_EQ(focused(), "txtHeadSpeed");
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a menu with Paste";
+        }
+    EXPECT_EQ(field("txtCor")->text(), "0.83");
+    EXPECT_EQ(find<QPlainTextEdit>("txtResult")->toPlainText(), table);
+    clickAt("txtCor", Qt::MiddleButton); // the safe value passes
+    EXPECT_TRUE(field("txtCor")->text().contains("7"));
+}
+
+TEST_F(MainWindowTest, TheFirstClickSelectsTheFieldAndTheSecondPlacesTheCaret) {
+    clickAt("txtLoftAngle", Qt::LeftButton);
+    EXPECT_EQ(field("txtLoftAngle")->selectedText(), "10");
+    QTest::keyClicks(field("txtLoftAngle"), "12");
+    EXPECT_EQ(user.form.txtLoftAngle.text(), "12");
+    field("txtLoftAngle")->selectAll();
+    clickAt("txtLoftAngle", Qt::LeftButton);
+    EXPECT_FALSE(field("txtLoftAngle")->hasSelectedText());
+    QTest::mousePress(field("txtCor"), Qt::LeftButton, {}, {8, 8});
+    QMouseEvent drag(QEvent::MouseMove, {90, 8}, field("txtCor")->mapToGlobal(QPointF(90, 8)),
+                     Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(field("txtCor"), &drag);
+    const QString passed = field("txtCor")->selectedText();
+    QTest::mouseRelease(field("txtCor"), Qt::LeftButton, {}, {90, 8});
+    EXPECT_EQ(field("txtCor")->selectedText(), passed);
+    EXPECT_TRUE(!passed.isEmpty() && passed != "0.83") << "what the drag selected stays";
+}
+
+TEST_F(MainWindowTest, EnterPressesTheButtonThatHasTheFocus) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        find("Command1")->setFocus();
+        QTest::keyPress(find("Command1"), key);
+        QTest::keyRelease(find("Command1"), key);
+    }
+    EXPECT_EQ(runs(), 2);
+    find("Command2")->setFocus();
+    user.messages.answers = {MessageBoxes::Answer::Yes};
+    QTest::keyPress(find("Command2"), Qt::Key_Return);
+    EXPECT_EQ(runs(), 2) << "a key held down would answer the question";
+    QTest::keyRelease(find("Command2"), Qt::Key_Return);
+    EXPECT_EQ(runs(), 0);
+    click("txtCor");
+    press(Qt::Key_Return);
+    EXPECT_EQ(runs(), 0) << "it is no default button";
+}
+
+TEST_F(MainWindowTest, ARunByItsKeyLeavesTheFieldReadyForTheNextValue) {
+    type("txtLoftAngle", "011"); // the run writes it with fewer digits
+    press(Qt::Key_F5);
+    EXPECT_EQ(focused() + fromQt(field("txtLoftAngle")->selectedText()), "txtLoftAngle11");
+}
+
+TEST_F(MainWindowTest, WhatIsShownIsAlsoTold) {
+    const auto told = [this](const char* name) {
+        QCoreApplication::processEvents();
+        return fromQt(
+            QAccessible::queryAccessibleInterface(find(name))->text(QAccessible::Description));
+    };
+    EXPECT_EQ(told("Picture1"), "0 data sets.");
+    click("Command1");
+    click("Command1");
+    EXPECT_EQ(told("Picture1"), "2 data sets. 1: carry 233 yards. 2: carry 233 yards.");
+    user.messages.answers = {MessageBoxes::Answer::Yes};
+    click("Command2");
+    EXPECT_EQ(told("Picture1"), "0 data sets.");
+
+    const std::pair<const char*, const char*> tips[] = {
+        {"txtHeadSpeed", "mph, 50 to 165"},
+        {"txtCor", "0.7 to 0.9"},
+        {"txtTemperature", "it, 20 to 120"},
+        {"txtBending", "degrees, -10 to 10"},
+        {"optActual", "measured launch angle"},
+        {"BallOpt1", "+0.5 rpm"},
+        {"BallOpt2", "-0.1"},
+        {"txtRun", "24"},
+    };
+    for (const auto& [name, part] : tips)
+        EXPECT_NE(told(name).find(part), std::string::npos) << told(name);
+    for (const Control* control : user.form.controls.all()) {
+        const bool input = control->takesFocus() && control->visible() &&
+                           !control->name().starts_with("Picture") &&
+                           control != &user.form.txtResult;
+        EXPECT_TRUE(!input || told(control->name().c_str()).size() > 5) << control->name();
+    }
+    for (QLabel* label : window.findChildren<QLabel*>())
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name),
+                  label->text())
+            << "a label without a text would be read as the title of its frame";
+}
+
+TEST_F(MainWindowTest, ADoubleClickOnAboutStopsThere) {
+    const int usual = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(1'000'000); // however slow the machine
+    frmSplash about(user.desktop);
+    SplashWindow splash(about, &window);
+    splash.show();
+    QWidget* soft = find("BallOpt1");
+    splash.move(soft->mapToGlobal(QPoint(8, soft->height() / 2)) - QPoint(40, 40));
+    auto* picture = splash.findChild<QWidget*>("Picture1");
+    for (const bool chosen : {false, true}) { // the second press of a double click, and a later one
+        if (!chosen)
+            QTest::mouseClick(
+                picture, Qt::LeftButton, {},
+                picture->mapFromGlobal(soft->mapToGlobal(QPoint(8, soft->height() / 2))));
+        EXPECT_FALSE(splash.isVisible());
+        click("BallOpt1");
+        EXPECT_EQ(user.form.BallOpt1.selected(), chosen);
+    }
+    QApplication::setDoubleClickInterval(usual);
 }
 
 TEST_F(MainWindowTest, TheCaretStaysWhileTheUserTypes) {
