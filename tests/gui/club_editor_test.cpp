@@ -144,6 +144,7 @@ TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     type("28");
     EXPECT_EQ(edit.geometry(), cell(table, 1, 4));
     type("E");
+    QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell(table, 1, 8).center());
     QTest::mouseDClick(table.viewport(), Qt::LeftButton, {}, cell(table, 1, 8).center());
     EXPECT_TRUE(edit.isVisible() && edit.geometry() == cell(table, 1, 8));
     EXPECT_EQ(edit.text().toStdString() + place(irons), irons.text(2, 9) + "2,9");

@@ -114,11 +114,11 @@ TEST_F(MainWindowTest, ThePlotShowsAxesGridCurvesAndLegend) {
         int number = 0;
         for (const QColor& colour : curves) {
             const auto& path = user.form.Runs[++number].Path;
-            for (const std::size_t part : {1, 2, 3, 4, 5}) {
+            for (const std::size_t part : {1U, 2U, 3U, 4U, 5U}) {
                 const auto& [x, y] = path.at(part * path.size() / 6);
                 EXPECT_TRUE(painted(x, y, colour)) << number << " at " << x << "," << y;
             }
-            EXPECT_TRUE(painted(path.back().x, path.back().y + 1, colour)) << "the landing";
+            EXPECT_TRUE(painted(path.back().x, path.back().y + 1, colour)) << number << " lands";
             EXPECT_GT(inLegend(colour), 20);
         }
         EXPECT_EQ(curves.size() > 0, inLegend(Qt::white) > 20);
@@ -126,7 +126,7 @@ TEST_F(MainWindowTest, ThePlotShowsAxesGridCurvesAndLegend) {
     };
     expectPlot({});
     click("Command1");
-    type("txtLaunchAngle", "20");
+    type("txtLaunchAngle", "30");
     click("Command1");
     EXPECT_EQ(runs(), 2);
     expectPlot({Qt::red, Qt::green});
