@@ -48,7 +48,7 @@ Program::Program()
 
 Program::~Program() = default;
 
-void Program::start() {
+int Program::run() {
     splash_ = std::make_unique<frmSplash>(desktop_);
     splash_->form.Unload.connect([this] {
         if (!logic_.form.blFormLoaded)
@@ -56,6 +56,7 @@ void Program::start() {
     });
     splashWindow_ = std::make_unique<SplashWindow>(*splash_);
     splashWindow_->show();
+    return QApplication::exec();
 }
 
 void Program::showMainForm() {

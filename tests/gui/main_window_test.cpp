@@ -49,6 +49,31 @@ struct MainWindowTest : testing::Test {
         field(name)->selectAll();
         QTest::keyClicks(field(name), text);
     }
+    /// Whether a colour stands next to a place of the plot, in yards on a scale of 300.
+    bool painted(double x, double y, QColor colour) {
+        const QRect inner = find("Picture2")->geometry();
+        const double pixels = inner.width() / 300.0;
+        const QPoint at(inner.left() + qRound(x * pixels), inner.bottom() - qRound(y * pixels));
+        const QImage part = find("Picture1")->grab({at - QPoint(2, 2), QSize(5, 5)}).toImage();
+        for (int i = 0; i < 25; ++i) {
+            const QColor there = part.pixelColor(i % 5, i / 5);
+            if (std::abs(there.red() - colour.red()) + std::abs(there.green() - colour.green()) +
+                    std::abs(there.blue() - colour.blue()) <
+                150)
+                return true;
+        }
+        return false;
+    }
+    /// How many pixels of a colour stand above the curves, where the legend is.
+    int inLegend(QColor colour) {
+        const QRect inner = find("Picture2")->geometry();
+        const QImage part = find("Picture1")->grab({0, 0, inner.width(), inner.top()}).toImage();
+        int count = 0;
+        for (int x = 0; x < part.width(); ++x)
+            for (int y = 0; y < part.height(); ++y)
+                count += part.pixelColor(x, y) == colour ? 1 : 0;
+        return count;
+    }
     std::string focused() { return fromQt(window.focusWidget()->objectName()); }
     int runs() { return field("txtRun")->text().toInt(); }
     /// Presses and releases as the window system reports it, wherever the focus is.
@@ -88,16 +113,68 @@ TEST_F(MainWindowTest, WidgetsAndControlsAnswerEachOther) {
     EXPECT_FALSE(turn.isAccepted()) << "what lies around it may scroll";
 }
 
-TEST_F(MainWindowTest, RunFliesDrawsAndWritesARow) {
+TEST_F(MainWindowTest, ThePlotShowsAxesGridCurvesAndLegend) {
     click("optLaunch");
+    const QColor grey(80, 80, 80);
+    const auto expectPlot = [&](std::initializer_list<QColor> curves) {
+        for (const double along : {2.0, 150.0, 298.0})
+            EXPECT_TRUE(painted(along, 0, Qt::white)) << along << " on the axis";
+        for (const double up : {2.0, 40.0, 68.0})
+            EXPECT_TRUE(painted(0, up, Qt::white)) << up << " on the axis";
+        EXPECT_TRUE(painted(120, 45, grey) && painted(240, 50, grey) && painted(280, 30, grey));
+        EXPECT_FALSE(painted(150, 45, grey));
+        int number = 0;
+        for (const QColor& colour : curves) {
+            const auto& path = user.form.Runs[++number].Path;
+            for (const std::size_t part : {1U, 2U, 3U, 4U, 5U}) {
+                const auto& [x, y] = path.at(part * path.size() / 6);
+                EXPECT_TRUE(painted(x, y, colour)) << number << " at " << x << "," << y;
+            }
+            EXPECT_TRUE(painted(path.back().x, path.back().y + 1, colour)) << number << " lands";
+            EXPECT_GT(inLegend(colour), 20);
+        }
+        EXPECT_EQ(curves.size() > 0, inLegend(Qt::white) > 20);
+        EXPECT_EQ(curves.size() > 0, inLegend(Qt::red) > 0);
+    };
+    expectPlot({});
     click("Command1");
-    EXPECT_EQ(runs(), 1);
-    const QImage plot = find("Picture1")->grab().toImage();
-    int red = 0;
-    for (int x = 0; x < plot.width(); ++x)
-        for (int y = plot.height() / 4; y < plot.height(); ++y)
-            red += plot.pixelColor(x, y) == QColor(255, 0, 0) ? 1 : 0;
-    EXPECT_GT(red, 100);
+    type("txtLaunchAngle", "30");
+    click("Command1");
+    EXPECT_EQ(runs(), 2);
+    expectPlot({Qt::red, Qt::green});
+    window.resize(1440, 860);
+    expectPlot({Qt::red, Qt::green});
+    const auto* table = find<QPlainTextEdit>("txtResult");
+    EXPECT_EQ(table->font().family(), "Courier New");
+    EXPECT_EQ(table->lineWrapMode(), QPlainTextEdit::NoWrap);
+    EXPECT_EQ(table->palette().color(QPalette::Base), QColor(Qt::white));
+    const std::pair<int, QColor> lines[] = {{1, Qt::black}, {3, Qt::red}, {4, Qt::green}};
+    for (const auto& [line, colour] : lines) {
+        const QTextBlock block = table->document()->findBlockByNumber(line);
+        EXPECT_EQ(block.begin().fragment().charFormat().foreground().color(), colour) << line;
+    }
+    user.messages.answers = {Answer::Yes};
+    click("Command2");
+    expectPlot({});
+    EXPECT_FALSE(table->toPlainText().contains("W-1/1"));
+}
+
+TEST_F(MainWindowTest, APickInTheListOfClubsIsTaken) {
+    auto* clubs = find<QComboBox>("cmbClubNo");
+    clubs->setFocus();
+    for (int i = 0; i < 5; ++i)
+        press(Qt::Key_Down);
+    EXPECT_EQ(user.form.shot.ClubNo, 7);
+    EXPECT_EQ(clubs->currentText(), "7");
+    click("optStandard");
+    EXPECT_EQ(field("txtLoftAngle")->text() + field("txtHeadSpeed")->text(), "2194");
+    click("optIron");
+    EXPECT_EQ(clubs->count() + clubs->currentText().toInt(), 12 + 1);
+    click("BallOpt1");
+    EXPECT_EQ(user.form.shot.BallType, 1);
+    click("optAuto");
+    click("chkBatch");
+    EXPECT_TRUE(user.form.chkBatch.checked());
 }
 
 // Each way of leaving a field with a refused value: one message, the focus back in the field with
@@ -110,6 +187,7 @@ TEST_F(MainWindowTest, ARefusedFieldIsToldOnceHoweverItIsLeft) {
         {"the table", [&] { click("txtResult"); }},
         {"Tab", [&] { press(Qt::Key_Tab); }},
         {"Enter", [&] { press(Qt::Key_Return); }},
+        {"the keypad's Enter", [&] { press(Qt::Key_Enter); }},
         {"F5", [&] { press(Qt::Key_F5); }},
         {"the mnemonic of Run", [&] { press(Qt::Key_R, Qt::AltModifier); }},
         {"the mnemonic of a menu", [&] { press(Qt::Key_F, Qt::AltModifier); }},

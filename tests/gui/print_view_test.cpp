@@ -196,6 +196,11 @@ TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
     EXPECT_NEAR(sheet->width() * paper.height / paper.width, sheet->height(), 3);
     EXPECT_TRUE(window.rect().contains(sheet->geometry()));
     const QImage before = sheet->grab().toImage();
+    int red = 0; // of the curve, and more than its swatch in the legend
+    for (int x = 0; x < before.width(); ++x)
+        for (int y = before.height() / 5; y < before.height(); ++y)
+            red += before.pixelColor(x, y).green() < 150 && before.pixelColor(x, y).red() > 200;
+    EXPECT_GT(red, before.width() / 4);
     form.txtCaption.setText("After"); // shows at the next preview
     EXPECT_EQ(sheet->grab().toImage(), before);
     press("cmdPrintPreview");
