@@ -43,7 +43,8 @@ void CarryMap::setRanges(const MapRanges& ranges) {
 
 void CarryMap::setUsualRanges() {
     chosen_[indexOf(kind())].reset();
-    request({request_.shot, kind(), rangesFor(kind(), request_.shot)});
+    const auto base = baseOf(request_.shot, kind());
+    request({request_.shot, kind(), usualRanges(kind(), base ? *base : request_.shot)});
 }
 
 void CarryMap::request(const MapRequest& request) {
@@ -57,7 +58,11 @@ MapRanges CarryMap::rangesFor(MapKind kind, const Shot& shot) const {
     if (const auto& chosen = chosen_[indexOf(kind)])
         return *chosen;
     const auto base = baseOf(shot, kind);
-    return usualRanges(kind, base ? *base : shot);
+    const ShotInputs& inputs = base ? *base : shot;
+    const MapPoint point = pointOf(kind, inputs);
+    if (kind == request_.kind && ranges().across.holds(point.across) && ranges().up.holds(point.up))
+        return ranges(); // a map doesn't jump away under the pointer
+    return usualRanges(kind, inputs);
 }
 
 bool CarryMap::accept(std::shared_ptr<const MapResult> result) {

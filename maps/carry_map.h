@@ -23,7 +23,7 @@ public:
     const MapRanges& ranges() const { return request_.ranges; }
     /// Ranges of the user's choice for this kind of map, brought into the limits of the inputs.
     void setRanges(const MapRanges& ranges);
-    /// Back to those that suit the shot, and follow it.
+    /// Back to those that suit the shot; they widen where a later shot lies outside.
     void setUsualRanges();
 
     const MapRequest& request() const { return request_; }
