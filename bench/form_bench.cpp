@@ -29,20 +29,20 @@ struct Silent : MessageBoxes, FileDialog, PreferencesStore, Desktop, EventLoop, 
     Answer askOrCancel(std::string_view) override { return Answer::Yes; }
     void showOpen() override {}
     void showSave() override {}
-    ReadResult read(const std::string&, const std::string&, const std::string&) override {
-        return Absent{};
+    Outcome<std::optional<std::string>, Refusal> read(const std::string&, const std::string&,
+                                                      const std::string&) override {
+        return {std::nullopt};
     }
-    WriteResult write(const std::string&, const std::string&, const std::string&,
-                      const std::string&) override {
-        return Written{};
+    Outcome<void, Refusal> write(const std::string&, const std::string&, const std::string&,
+                                 const std::string&) override {
+        return {};
     }
     void openHelp() override {}
-    void openWebPage(std::string_view) override {}
     void openAddress(std::string_view) override {}
     void yield() override { timer->Tick(); }
     PageSize paper() override { return {}; }
-    std::optional<std::string> print(std::string_view, const std::function<void(Page&)>&) override {
-        return std::nullopt;
+    Outcome<void, std::string> print(std::string_view, const std::function<void(Page&)>&) override {
+        return {};
     }
 };
 
@@ -163,8 +163,8 @@ void openClubEditor(benchmark::State& state) {
 void openPrintView(benchmark::State& state) {
     LoadedForm loaded(12);
     for (auto _ : state) {
-        PrintView view(loaded.main.form.printPlot(), loaded.main.form.txtResult, loaded.services,
-                       loaded.services);
+        frmPrintView view(loaded.main.form.printPlot(), loaded.main.form.txtResult, loaded.services,
+                          loaded.services);
         PrintViewWindow window(view);
         window.show();
         QApplication::processEvents();

@@ -1,5 +1,6 @@
 #include "clubs/cell_editing.h"
 
+#include "numbers/characters.h"
 #include "numbers/text_number.h"
 
 #include <algorithm>

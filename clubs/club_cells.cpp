@@ -1,6 +1,11 @@
 #include "clubs/club_cells.h"
 
+#include "numbers/text_number.h"
+
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <limits>
 
 namespace parabolt {
 namespace {
@@ -65,6 +70,12 @@ float& clubField(ClubTables& tables, ClubKind kind, int row, int col) {
 
 float clubField(const ClubTables& tables, ClubKind kind, int row, int col) {
     return fieldOf(tables, kind, row, col);
+}
+
+std::string clubCellText(float value) {
+    // An infinity shows as the largest number, so that the bounds of its cell refuse it.
+    constexpr float kMost = std::numeric_limits<float>::max();
+    return std::isnan(value) ? "0" : shortestText(std::clamp(value, -kMost, kMost));
 }
 
 const ClubBounds& clubBounds(ClubKind kind, int row) {

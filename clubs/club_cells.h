@@ -3,6 +3,7 @@
 #include "clubs/club_tables.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace parabolt {
@@ -25,6 +26,10 @@ std::string_view clubRowLabel(int row);
 /// numbers that belong to no club.
 float& clubField(ClubTables& tables, ClubKind kind, int row, int col);
 float clubField(const ClubTables& tables, ClubKind kind, int row, int col);
+
+/// How a cell shows a value of the club set. What isn't a number, as a broken file may hold, shows
+/// as the value that it counts for: 0.
+std::string clubCellText(float value);
 
 /// What a cell may hold, both bounds included, and what the user is told otherwise.
 struct ClubBounds {

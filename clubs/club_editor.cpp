@@ -129,8 +129,8 @@ void ClubEditor::Command3_Click() {
 }
 
 void ClubEditor::unload() const {
-    if (onUnload)
-        onUnload();
+    if (form_.onUnload)
+        form_.onUnload();
 }
 
 } // namespace parabolt

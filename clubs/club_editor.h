@@ -20,7 +20,7 @@ public:
 
     /// True if every cell lies within its bounds. Otherwise tells about the first that doesn't,
     /// club by club and irons first, and makes it current.
-    bool ValidateClubGrids();
+    [[nodiscard]] bool ValidateClubGrids();
     /// Puts grids and texts into the club set.
     void ApplyClubGrids();
     /// True if grids or texts differ from the club set.
@@ -37,9 +37,7 @@ public:
 
     /// Asks about edits that aren't applied, and applies them if the user wants. False if the form
     /// must stay open. The view asks before it closes, however it is being closed.
-    bool queryUnload();
-    /// Set by the view: closes the form, by way of `queryUnload`.
-    std::function<void()> onUnload;
+    [[nodiscard]] bool queryUnload();
 
 private:
     void Command2_Click();

@@ -1,7 +1,10 @@
 #include "clubs/club_file_handlers.h"
 
 #include "clubs/clubs_file.h"
+#include "clubs/clubs_text.h"
 #include "files/file_access.h"
+
+#include <tuple>
 
 namespace parabolt {
 
@@ -21,23 +24,24 @@ ClubFileHandlers::ClubFileHandlers(ClubForm& form, const ClubTables& clubs, Club
 
 void ClubFileHandlers::mnuOpenClub_Click() {
     editor_.settle();
-    const auto load = [this](const std::string& fileName, std::string_view) {
+    const auto load = [this](const std::string& fileName,
+                             std::string_view) -> Outcome<void, Failure> {
         ReadClubFile(fileName);
         showPickedName(); // whether or not it could be read
-        return std::optional<Failure>();
+        return {};
     };
-    if (const auto failure = routine_.run(DialogPurpose::OpenClubs, load))
-        messages_.show(failure->description);
+    if (const auto done = routine_.run(DialogPurpose::OpenClubs, load); !done)
+        messages_.show(done.why().description);
 }
 
 void ClubFileHandlers::ReadClubFile(const std::string& FileName) {
-    const FileOutcome<Bytes> data = readFileStart(FileName, kLongestClubsFile);
-    if (const auto* failure = std::get_if<Failure>(&data))
-        return messages_.show(readFailureMessage(*failure));
-    if (const auto clubs = decodeClubs(std::get<Bytes>(data)))
+    const auto data = readFileStart(FileName, kLongestClubsFile);
+    if (!data)
+        return messages_.show(readFailureMessage(data.why()));
+    if (const auto clubs = decodeClubs(*data))
         showClubs(form_, *clubs);
     else
-        messages_.show("File mismatch!");
+        messages_.show(kFileMismatch);
 }
 
 void ClubFileHandlers::mnuSave_Click() {
@@ -50,24 +54,24 @@ void ClubFileHandlers::mnuSave_Click() {
 
 void ClubFileHandlers::SaveClubFile() {
     const auto save = [this](const std::string& fileName,
-                             std::string_view ending) -> std::optional<Failure> {
-        std::optional<Failure> failure;
+                             std::string_view ending) -> Outcome<void, Failure> {
+        Outcome<void, Failure> written;
         if (ending == "txt") {
-            failure = replaceFile(fileName, composeClubsText(form_, clubs_));
+            written = replaceFile(fileName, composeClubsText(form_, clubs_));
         } else if (const auto bytes = encodeClubs(clubs_)) {
-            failure = writeFileStart(fileName, *bytes);
+            written = writeFileStart(fileName, *bytes);
         } else {
             messages_.show("The comment is too long for a clubs file: it may have at most 65535 "
                            "characters. Nothing has been saved.");
-            return std::nullopt;
+            return {};
         }
-        if (!failure) {
+        if (written) {
             showPickedName();
             showInMainForm_();
         }
-        return failure;
+        return written;
     };
-    routine_.run(DialogPurpose::SaveClubs, save);
+    std::ignore = routine_.run(DialogPurpose::SaveClubs, save);
 }
 
 void ClubFileHandlers::showPickedName() {

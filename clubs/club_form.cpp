@@ -1,20 +1,8 @@
 #include "clubs/club_form.h"
 
-#include "numbers/text_number.h"
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
 #include <utility>
 
 namespace parabolt {
-
-std::string clubCellText(float value) {
-    // An infinity shows as the largest number, so that the bounds of its cell refuse it.
-    constexpr float kMost = std::numeric_limits<float>::max();
-    return std::isnan(value) ? "0" : shortestText(std::clamp(value, -kMost, kMost));
-}
-
 namespace {
 
 void showGrid(Grid& grid, ClubKind kind, const ClubTables& clubs) {

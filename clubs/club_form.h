@@ -12,6 +12,7 @@ namespace parabolt {
 struct ClubForm {
     std::string caption{"Clubs Parameter"};
     std::function<void()> onCaption; ///< set by the view
+    std::function<void()> onUnload;  ///< set by the view: closes the form, if it may be closed
 
     ControlSet controls;
     Focus focus;
@@ -48,10 +49,6 @@ struct ClubForm {
     }
     void setCaption(std::string text);
 };
-
-/// How a cell shows a value of the club set. What isn't a number, as a broken file may hold, shows
-/// as the value that it counts for: 0.
-std::string clubCellText(float value);
 
 /// Fills grids and texts from a club set.
 void showClubs(ClubForm& form, const ClubTables& clubs);

@@ -9,7 +9,6 @@ namespace parabolt {
 namespace {
 
 constexpr std::size_t kLongestText = std::numeric_limits<std::uint16_t>::max();
-constexpr std::string_view kLineEnd = "\r\n";
 
 template <class Tables>
 auto textsInFileOrder(Tables& clubs) {
@@ -34,24 +33,14 @@ void eachNumber(Tables& clubs, Use use) {
         eachField(wood);
 }
 
-std::string gridLines(const Grid& grid, int firstCol) {
-    std::string lines;
-    for (int row = 0; row < grid.rows(); ++row) {
-        for (int col = firstCol; col < grid.cols(); ++col)
-            lines.append(grid.text(row, col)).append("\t");
-        lines += kLineEnd;
-    }
-    return lines;
-}
-
 } // namespace
 
-std::optional<Bytes> encodeClubs(const ClubTables& clubs) {
+Outcome<Bytes, TextTooLong> encodeClubs(const ClubTables& clubs) {
     ByteWriter writer;
     for (const std::string* text : textsInFileOrder(clubs)) {
         const std::string stored = toCodePage(*text);
         if (stored.size() > kLongestText)
-            return std::nullopt;
+            return because(TextTooLong{});
         writer.u16(static_cast<std::uint16_t>(stored.size()));
         writer.bytes(stored);
     }
@@ -59,7 +48,7 @@ std::optional<Bytes> encodeClubs(const ClubTables& clubs) {
     return writer.data();
 }
 
-std::optional<ClubTables> decodeClubs(std::span<const std::uint8_t> bytes) {
+Outcome<ClubTables, EndsTooEarly> decodeClubs(std::span<const std::uint8_t> bytes) {
     ByteReader reader(bytes);
     ClubTables clubs;
     for (std::string* text : textsInFileOrder(clubs)) {
@@ -68,28 +57,8 @@ std::optional<ClubTables> decodeClubs(std::span<const std::uint8_t> bytes) {
     }
     eachNumber(clubs, [&reader](float& value) { value = reader.f32(); });
     if (reader.failed())
-        return std::nullopt;
+        return because(EndsTooEarly{});
     return clubs;
-}
-
-std::string composeClubsText(const ClubForm& form, const ClubTables& clubs) {
-    std::string text;
-    const auto line = [&text](std::string_view start, std::string_view end = {}) {
-        text.append(start).append(end).append(kLineEnd);
-    };
-    line("Clubs Description: ", clubs.ClubsDescription);
-    line("Clubs Irons");
-    line("Irons Clubs Description: ", clubs.IronsDescription);
-    text += gridLines(form.GridIrons, 0); // with the labels, unlike the woods
-    line("");
-    line("");
-    line("Clubs Woods");
-    line("Woods Clubs Description: ", clubs.WoodsDescription);
-    text += gridLines(form.GridWoods, Grid::kFixed);
-    line("");
-    line("Comment");
-    line(clubs.Comment);
-    return toCodePage(text);
 }
 
 } // namespace parabolt

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "clubs/club_form.h"
+#include "clubs/club_tables.h"
 #include "files/byte_cursor.h"
-
-#include <optional>
+#include "numbers/outcome.h"
 
 namespace parabolt {
 
@@ -19,15 +18,14 @@ namespace parabolt {
 /// Bytes of the longest clubs file; what stands behind them in a file means nothing.
 inline constexpr std::size_t kLongestClubsFile = 4 * (2 + 0xFFFF) + (15 + 11) * 24;
 
-/// The bytes of a club set; nothing if a text is too long for its length field.
-std::optional<Bytes> encodeClubs(const ClubTables& clubs);
+struct TextTooLong {};  ///< a text doesn't fit its length field
+struct EndsTooEarly {}; ///< the bytes end inside the club set
 
-/// The club set that the bytes begin with; nothing if they end too early. The values may be
-/// anything. Clubs without a place in the editor are read like the others.
-std::optional<ClubTables> decodeClubs(std::span<const std::uint8_t> bytes);
+/// The bytes of a club set.
+Outcome<Bytes, TextTooLong> encodeClubs(const ClubTables& clubs);
 
-/// The content of a text file that shows the club set for reading, in the code page of text files:
-/// the texts, and the cells as the grids show them.
-std::string composeClubsText(const ClubForm& form, const ClubTables& clubs);
+/// The club set that the bytes begin with. The values may be anything. Clubs without a place in the
+/// editor are read like the others.
+Outcome<ClubTables, EndsTooEarly> decodeClubs(std::span<const std::uint8_t> bytes);
 
 } // namespace parabolt

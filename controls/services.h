@@ -14,9 +14,9 @@ public:
     /// A message with the one button OK.
     virtual void show(std::string_view message) = 0;
     /// A question with the buttons Yes and No; true for Yes.
-    virtual bool ask(std::string_view question) = 0;
+    [[nodiscard]] virtual bool ask(std::string_view question) = 0;
     /// A question with the buttons Yes, No and Cancel.
-    virtual Answer askOrCancel(std::string_view question) = 0;
+    [[nodiscard]] virtual Answer askOrCancel(std::string_view question) = 0;
 };
 
 /// Lets the user name a file. The caller sets the three texts, shows the dialog one way or the
@@ -43,9 +43,8 @@ public:
     virtual ~Desktop() = default;
     /// Shows the manual at its first page.
     virtual void openHelp() = 0;
-    /// Opens a web address in the user's browser.
-    virtual void openWebPage(std::string_view address) = 0;
-    /// Hands an address such as "callto:name" to whatever serves its scheme.
+    /// Hands an address to what serves its scheme: a web page to the user's browser, "callto:name"
+    /// to the program that calls.
     virtual void openAddress(std::string_view address) = 0;
 };
 

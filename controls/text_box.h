@@ -26,11 +26,6 @@ struct KeyStroke {
     bool swallowed = false; ///< set by a handler: the control must not act on the key itself
 };
 
-/// Number of characters of a UTF-8 text.
-std::size_t characterCount(std::string_view text);
-/// Where a character, counted from 0, starts in a UTF-8 text; the text's size if it has no such.
-std::size_t characterStart(std::string_view text, std::size_t character);
-
 /// An editable line of text, or lines that end in CR LF. Texts are UTF-8; positions count bytes.
 class TextBox : public Control {
 public:

@@ -1,5 +1,7 @@
 #include "files/dialog_routine.h"
 
+#include "numbers/characters.h"
+
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -62,12 +64,8 @@ const DialogRule& ruleOf(DialogPurpose purpose) {
                          [purpose](const DialogRule& rule) { return rule.purpose == purpose; });
 }
 
-std::string ending(const std::string& fileName) {
-    std::string last = fileName.substr(fileName.size() - std::min(fileName.size(), kEndingLength));
-    std::transform(last.begin(), last.end(), last.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
-    return last;
+std::string ending(std::string_view fileName) {
+    return lowerCase(fileName.substr(fileName.size() - std::min(fileName.size(), kEndingLength)));
 }
 
 } // namespace
@@ -79,14 +77,12 @@ DialogRoutine::DialogRoutine(FileDialog& dialog, PreferencesStore& preferences,
       messages_(messages),
       applicationFolder_(std::move(applicationFolder)) {}
 
-std::optional<Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work) {
+Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work) {
     const DialogRule& rule = ruleOf(purpose);
-    const FileOutcome<std::string> lastPath =
-        GetRegString(preferences_, kAppName, "startup", kLastPath, "");
-    if (const auto* failure = std::get_if<Failure>(&lastPath))
-        return *failure;
-    const std::string& folder = std::get<std::string>(lastPath);
-    dialog_.initialFolder = folder.empty() ? applicationFolder_ : folder;
+    const auto lastPath = GetRegString(preferences_, kAppName, "startup", kLastPath, "");
+    if (!lastPath)
+        return because(lastPath.why());
+    dialog_.initialFolder = lastPath->empty() ? applicationFolder_ : *lastPath;
     dialog_.title = rule.title;
     dialog_.filter = rule.filter;
     (dialog_.*rule.show)();
@@ -96,14 +92,17 @@ std::optional<Failure> DialogRoutine::run(DialogPurpose purpose, const Work& wor
             std::find(rule.endings.begin(), rule.endings.end(), ending(fileName));
         if (match == rule.endings.end())
             messages_.show(rule.refusal);
-        else if (auto failure = work(fileName, *match))
-            return failure;
+        else if (auto done = work(fileName, *match); !done)
+            return done;
     }
-    if (auto failure =
-            SaveRegString(preferences_, kAppName, "Startup", kLastPath, dialog_.finalFolder))
-        return failure;
-    dialog_.initialFolder.clear();
-    return std::nullopt;
+    auto saved = SaveRegString(preferences_, kAppName, "Startup", kLastPath, dialog_.finalFolder);
+    if (saved)
+        dialog_.initialFolder.clear();
+    return saved;
+}
+
+std::string_view readFailureMessage(const Failure& failure) {
+    return failure.number == kBadFileName ? "File not found!" : kFileMismatch;
 }
 
 } // namespace parabolt

@@ -4,6 +4,7 @@
 #include "files/preferences.h"
 
 #include <functional>
+#include <string_view>
 
 namespace parabolt {
 
@@ -17,7 +18,7 @@ public:
     /// Does what the dialog was shown for. Gets the file's name and the ending that it matched, one
     /// of "opt", "clb" and "txt".
     using Work =
-        std::function<std::optional<Failure>(const std::string& fileName, std::string_view ending)>;
+        std::function<Outcome<void, Failure>(const std::string& fileName, std::string_view ending)>;
 
     /// `applicationFolder` is where dialogs start before one has ended.
     DialogRoutine(FileDialog& dialog, PreferencesStore& preferences, MessageBoxes& messages,
@@ -27,7 +28,7 @@ public:
     /// message; a cancel does neither. In the end the dialog's folder is remembered. A failure, of
     /// the work or of the preferences, ends the routine where it happens: what follows isn't done,
     /// and what has been done stays done.
-    std::optional<Failure> run(DialogPurpose purpose, const Work& work);
+    Outcome<void, Failure> run(DialogPurpose purpose, const Work& work);
 
 private:
     FileDialog& dialog_;
@@ -35,5 +36,11 @@ private:
     MessageBoxes& messages_;
     std::string applicationFolder_;
 };
+
+/// What the user reads when a file's content couldn't be taken in.
+inline constexpr std::string_view kFileMismatch = "File mismatch!";
+
+/// What the user reads when the reading of a picked file has failed.
+std::string_view readFailureMessage(const Failure& failure);
 
 } // namespace parabolt

@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string>
-#include <variant>
 
 namespace parabolt {
 
@@ -16,9 +15,5 @@ struct Failure {
 inline constexpr std::uint32_t kBadFileName = 52;
 /// Added to the system's own error code to make the number of any other failure of a file.
 inline constexpr std::uint32_t kFileFailureBase = 0x80070000;
-
-/// What an operation gives, or why it gives nothing.
-template <class Value>
-using FileOutcome = std::variant<Value, Failure>;
 
 } // namespace parabolt

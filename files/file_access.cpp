@@ -24,18 +24,17 @@ std::error_code lastError() {
     return {errno, std::generic_category()};
 }
 
-Failure failure(const std::error_code& error) {
+Because<Failure> failure(const std::error_code& error) {
     const bool badName = error == std::errc::filename_too_long ||
                          error == std::errc::invalid_argument ||
                          error == std::errc::illegal_byte_sequence;
     const auto code = static_cast<std::uint32_t>(error.value());
-    return {badName ? kBadFileName : kFileFailureBase + code, error.message()};
+    return because(Failure{badName ? kBadFileName : kFileFailureBase + code, error.message()});
 }
 
-std::optional<Failure> nameFailure(const std::string& fileName) {
-    if (fileName.find('\0') != std::string::npos)
-        return failure(std::make_error_code(std::errc::invalid_argument));
-    return std::nullopt;
+/// The system's functions would take such a name for the part in front of the zero.
+bool holdsZero(const std::string& fileName) {
+    return fileName.find('\0') != std::string::npos;
 }
 
 /// Opens a file for reading and writing where it stands; creates it if there is none.
@@ -85,9 +84,9 @@ bool takesPlaceOfOld(const fs::path& target, const fs::file_status& old) {
     return fs::is_regular_file(old) && fs::hard_link_count(target, ignored) == 1;
 }
 
-std::optional<Failure> write(const std::string& fileName, const std::string& data, Tail tail) {
-    if (auto bad = nameFailure(fileName))
-        return bad;
+Outcome<void, Failure> write(const std::string& fileName, const std::string& data, Tail tail) {
+    if (holdsZero(fileName))
+        return failure(std::make_error_code(std::errc::invalid_argument));
     std::error_code error;
     fs::path target = fs::canonical(fileName, error);
     if (error)
@@ -112,14 +111,16 @@ std::optional<Failure> write(const std::string& fileName, const std::string& dat
     }
     if (inPlace)
         error = writeInPlace(target.string(), data, tail);
-    return error ? std::optional(failure(error)) : std::nullopt;
+    if (error)
+        return failure(error);
+    return {};
 }
 
 } // namespace
 
-FileOutcome<Bytes> readFileStart(const std::string& fileName, std::size_t most) {
-    if (auto bad = nameFailure(fileName))
-        return *bad;
+Outcome<Bytes, Failure> readFileStart(const std::string& fileName, std::size_t most) {
+    if (holdsZero(fileName))
+        return failure(std::make_error_code(std::errc::invalid_argument));
     std::error_code error;
     const fs::file_status status = fs::status(fileName, error);
     // A pipe or a terminal would let the reader wait without end.
@@ -135,16 +136,12 @@ FileOutcome<Bytes> readFileStart(const std::string& fileName, std::size_t most) 
     return data;
 }
 
-std::optional<Failure> writeFileStart(const std::string& fileName, const Bytes& data) {
+Outcome<void, Failure> writeFileStart(const std::string& fileName, const Bytes& data) {
     return write(fileName, std::string(data.begin(), data.end()), Tail::Kept);
 }
 
-std::optional<Failure> replaceFile(const std::string& fileName, const std::string& content) {
+Outcome<void, Failure> replaceFile(const std::string& fileName, const std::string& content) {
     return write(fileName, content, Tail::Dropped);
-}
-
-std::string_view readFailureMessage(const Failure& failure) {
-    return failure.number == kBadFileName ? "File not found!" : "File mismatch!";
 }
 
 } // namespace parabolt

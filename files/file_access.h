@@ -2,9 +2,7 @@
 
 #include "files/byte_cursor.h"
 #include "files/failure.h"
-
-#include <optional>
-#include <string_view>
+#include "numbers/outcome.h"
 
 namespace parabolt {
 
@@ -18,15 +16,12 @@ namespace parabolt {
 
 /// The first bytes of a file, at most that many. The file is opened for reading and writing, and a
 /// file that doesn't exist comes into being, empty.
-FileOutcome<Bytes> readFileStart(const std::string& fileName, std::size_t most);
+Outcome<Bytes, Failure> readFileStart(const std::string& fileName, std::size_t most);
 
 /// Writes over the beginning of a file and leaves what stands behind; creates the file if needed.
-std::optional<Failure> writeFileStart(const std::string& fileName, const Bytes& data);
+Outcome<void, Failure> writeFileStart(const std::string& fileName, const Bytes& data);
 
 /// Replaces the content of a file; creates the file if needed.
-std::optional<Failure> replaceFile(const std::string& fileName, const std::string& content);
-
-/// What the user reads when a file couldn't be taken in.
-std::string_view readFailureMessage(const Failure& failure);
+Outcome<void, Failure> replaceFile(const std::string& fileName, const std::string& content);
 
 } // namespace parabolt

@@ -1,6 +1,6 @@
 #include "files/preferences.h"
 
-#include <algorithm>
+#include "numbers/characters.h"
 
 namespace parabolt {
 
@@ -20,53 +20,51 @@ std::string trimmed(std::string_view text) {
 
 /// The one spelling under which a section is stored.
 std::string sectionName(std::string_view section) {
-    std::string name = trimmed(section);
-    std::transform(name.begin(), name.end(), name.begin(), [](char c) {
-        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-    });
-    return name;
+    return lowerCase(trimmed(section));
 }
 
-std::optional<Failure> addressFailure(std::string_view appName, std::string_view section,
-                                      std::string_view key) {
+Outcome<void, Failure> checkAddress(std::string_view appName, std::string_view section,
+                                    std::string_view key) {
     if (trimmed(appName).empty())
-        return Failure{kNoAppName, "AppName may not be empty"};
+        return because(Failure{kNoAppName, "AppName may not be empty"});
     if (trimmed(section).empty())
-        return Failure{kNoSection, "Section may not be empty"};
+        return because(Failure{kNoSection, "Section may not be empty"});
     if (trimmed(key).empty())
-        return Failure{kNoKey, "Key may not be empty"};
-    return std::nullopt;
+        return because(Failure{kNoKey, "Key may not be empty"});
+    return {};
+}
+
+/// The failure for a refusal, with the words for either thing that the store refuses.
+Because<Failure> failure(const PreferencesStore::Refusal& refusal, const char* section,
+                         const char* value) {
+    const bool unopened = refusal.of == PreferencesStore::Refusal::Of::Section;
+    return because(Failure{kStoreFailureBase + refusal.code, unopened ? section : value});
 }
 
 } // namespace
 
-FileOutcome<std::string> GetRegString(PreferencesStore& store, std::string_view AppName,
-                                  std::string_view Section, std::string_view Key,
-                                  std::string_view Default) {
-    if (auto failure = addressFailure(AppName, Section, Key))
-        return *failure;
-    const auto result = store.read(trimmed(AppName), sectionName(Section), std::string(Key));
-    if (const auto* refused = std::get_if<PreferencesStore::CannotOpen>(&result))
-        return Failure{kStoreFailureBase + refused->code, "Could not open registry section"};
-    if (const auto* other = std::get_if<PreferencesStore::NotText>(&result))
-        return Failure{kStoreFailureBase + other->typeCode, "Registry data not a string"};
-    if (const auto* text = std::get_if<std::string>(&result))
-        return *text;
-    return std::string(Default);
+Outcome<std::string, Failure> GetRegString(PreferencesStore& store, std::string_view AppName,
+                                           std::string_view Section, std::string_view Key,
+                                           std::string_view Default) {
+    if (const auto address = checkAddress(AppName, Section, Key); !address)
+        return because(address.why());
+    const auto text = store.read(trimmed(AppName), sectionName(Section), std::string(Key));
+    if (!text)
+        return failure(text.why(), "Could not open registry section", "Registry data not a string");
+    return text->value_or(std::string(Default));
 }
 
-std::optional<Failure> SaveRegString(PreferencesStore& store, std::string_view AppName,
+Outcome<void, Failure> SaveRegString(PreferencesStore& store, std::string_view AppName,
                                      std::string_view Section, std::string_view Key,
                                      std::string_view Setting) {
-    if (auto failure = addressFailure(AppName, Section, Key))
-        return failure;
-    const auto result =
+    if (auto address = checkAddress(AppName, Section, Key); !address)
+        return address;
+    const auto written =
         store.write(trimmed(AppName), sectionName(Section), std::string(Key), std::string(Setting));
-    if (const auto* refused = std::get_if<PreferencesStore::CannotOpen>(&result))
-        return Failure{kStoreFailureBase + refused->code, "Could not open/create registry section"};
-    if (const auto* refused = std::get_if<PreferencesStore::CannotSet>(&result))
-        return Failure{kStoreFailureBase + refused->code, "Could not set key value"};
-    return std::nullopt;
+    if (!written)
+        return failure(written.why(), "Could not open/create registry section",
+                       "Could not set key value");
+    return {};
 }
 
 } // namespace parabolt

@@ -1,4 +1,5 @@
 #include "clubs/clubs_file.h"
+#include "clubs/clubs_text.h"
 
 #include <algorithm>
 #include <cstdlib>

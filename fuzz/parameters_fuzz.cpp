@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     defaults.SetClubDefaults();
     for (const char* mode : {"2", "1", "0"}) {
         form.txtMode.setText(mode);
-        const bool known = !applyParameters(form, record);
+        const bool known{applyParameters(form, record)};
         if (known && form.cmbClubNo.text() != std::to_string(record.ClubNo))
             std::abort();
         collectParameters(form);

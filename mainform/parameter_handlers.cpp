@@ -29,18 +29,18 @@ void takeSwingAndClub(ShotInputs& shot, const ParameterRecord& record) {
     shot.SpeedIncrement = record.SpeedIncrement;
 }
 
-std::optional<Failure> selectClub(ShotControls& form, std::int16_t clubNo) {
+Outcome<void, Failure> selectClub(ShotControls& form, std::int16_t clubNo) {
     DropDownList& list = form.cmbClubNo;
     const int index = list.indexOf(std::to_string(clubNo));
     if (index < 0)
-        return Failure{kNoSuchClub, "There is no club of this number."};
+        return because(Failure{kNoSuchClub, "There is no club of this number."});
     // The club counts as chosen even if it was before: in mode 1 its table values come in.
     if (list.listIndex() == index)
         list.Click();
     else
         list.select(index);
     takeClubNumber(form);
-    return std::nullopt;
+    return {};
 }
 
 void takeWeather(ShotControls& form, const ParameterRecord& record) {
@@ -79,25 +79,25 @@ ParameterHandlers::ParameterHandlers(ShotControls& form, FileDialog& dialog,
 
 void ParameterHandlers::mnuOpen_Click() {
     const auto load = [this](const std::string& fileName,
-                             std::string_view) -> std::optional<Failure> {
-        const FileOutcome<Bytes> data = readFileStart(fileName, kParametersFileSize);
-        if (const auto* failure = std::get_if<Failure>(&data))
-            return *failure;
-        const ParameterRecord record = decodeParameters(std::get<Bytes>(data));
+                             std::string_view) -> Outcome<void, Failure> {
+        const auto data = readFileStart(fileName, kParametersFileSize);
+        if (!data)
+            return because(data.why());
+        const ParameterRecord record = decodeParameters(*data);
         if (!messages_.ask("Do you want to replace the Club data, and Environment parameters?"))
-            return std::nullopt;
+            return {};
         return applyParameters(form_, record);
     };
-    if (const auto failure = dialogs_.run(DialogPurpose::OpenParameters, load))
-        messages_.show(readFailureMessage(*failure));
+    if (const auto done = dialogs_.run(DialogPurpose::OpenParameters, load); !done)
+        messages_.show(readFailureMessage(done.why()));
 }
 
 void ParameterHandlers::mnuSave_Click() {
     const auto save = [this](const std::string& fileName, std::string_view) {
         return writeFileStart(fileName, encodeParameters(collectParameters(form_)));
     };
-    if (const auto failure = dialogs_.run(DialogPurpose::SaveParameters, save))
-        messages_.show(failure->description);
+    if (const auto done = dialogs_.run(DialogPurpose::SaveParameters, save); !done)
+        messages_.show(done.why().description);
 }
 
 ParameterRecord collectParameters(const ShotControls& form) {
@@ -126,16 +126,16 @@ ParameterRecord collectParameters(const ShotControls& form) {
     return record;
 }
 
-std::optional<Failure> applyParameters(ShotControls& form, const ParameterRecord& record) {
+Outcome<void, Failure> applyParameters(ShotControls& form, const ParameterRecord& record) {
     takeSwingAndClub(form.shot, record);
     form.txtType.setText(std::to_string(record.ClubType));
-    if (auto failure = selectClub(form, record.ClubNo))
-        return failure;
+    if (auto selected = selectClub(form, record.ClubNo); !selected)
+        return selected;
     takeWeather(form, record);
     takeBall(form, record.BallType);
     showSwing(form);
     showClub(form);
-    return std::nullopt;
+    return {};
 }
 
 } // namespace parabolt

@@ -30,6 +30,6 @@ ParameterRecord collectParameters(const ShotControls& form);
 /// Lays a set-up into variables and fields. The validators judge none of it. In mode 1 the club
 /// tables have the last word on the club's values. Fails half-way if there is no club of that
 /// number: the variables hold the new values then, the fields still the old ones.
-std::optional<Failure> applyParameters(ShotControls& form, const ParameterRecord& record);
+Outcome<void, Failure> applyParameters(ShotControls& form, const ParameterRecord& record);
 
 } // namespace parabolt

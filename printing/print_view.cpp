@@ -10,27 +10,30 @@ constexpr std::string_view kUntitled = "Parabolt - Report"; ///< of a document w
 
 } // namespace
 
-PrintView::PrintView(const PlotCanvases& printPlot, const RichTextBox& txtResult, Printer& printer,
-                     MessageBoxes& messages)
-    : plot_(printPlot),
+PrintView::PrintView(PrintViewForm& form, const PlotCanvases& printPlot,
+                     const RichTextBox& txtResult, Printer& printer, MessageBoxes& messages)
+    : form_(form),
+      plot_(printPlot),
       txtResult_(txtResult),
       printer_(printer),
       messages_(messages) {
-    cmdPrintPreview.Click.connect([this] { cmdPrintPreview_Click(); });
-    cmdPrint.Click.connect([this] { cmdPrint_Click(); });
-    cmdClose.Click.connect([this] {
-        if (onUnload)
-            onUnload();
+    form_.cmdPrintPreview.Click.connect([this] { cmdPrintPreview_Click(); });
+    form_.cmdPrint.Click.connect([this] { cmdPrint_Click(); });
+    form_.cmdClose.Click.connect([this] {
+        if (form_.onUnload)
+            form_.onUnload();
     });
 }
 
 void PrintView::Form_Resize(double width, double height) {
-    const double roomAcross = width - 2 * kGapAtSides;
-    const double roomDown = height - kRowOfControls - kGapAtSides;
+    constexpr int kGap = PrintViewForm::kGapAtSides;
+    constexpr int kAbove = PrintViewForm::kRowOfControls;
+    const double roomAcross = width - 2 * kGap;
+    const double roomDown = height - kAbove - kGap;
     if (roomAcross <= 0 || roomDown <= 0)
         return;
-    room_ = {kGapAtSides, kRowOfControls, roomAcross, roomDown};
-    Picture0.setGeometry(room_);
+    room_ = {kGap, kAbove, roomAcross, roomDown};
+    form_.Picture0.setGeometry(room_);
     if (shown_)
         fitPreview();
 }
@@ -49,25 +52,25 @@ void PrintView::cmdPrintPreview_Click() {
 void PrintView::cmdPrint_Click() {
     const ReportContent content = takeContent();
     const std::string_view title = content.caption.empty() ? kUntitled : content.caption;
-    const auto failure =
+    const auto printed =
         printer_.print(title, [&](Page& page) { ComposeReport(page, 1, PicRatio_, content); });
-    if (failure)
-        messages_.show(*failure);
+    if (!printed)
+        messages_.show(printed.why());
 }
 
 ReportContent PrintView::takeContent() {
     const PictureBox::Geometry& outer = plot_.outer.geometry();
     PicRatio_ = outer.height > 0 ? store32(outer.width / outer.height) : 0;
-    return {txtCaption.text(), txtResult_.text(), plot_};
+    return {form_.txtCaption.text(), txtResult_.text(), plot_};
 }
 
 /// Gives `Picture0` the shape of the page, in the middle of its room, and lets it show the page.
 void PrintView::fitPreview() {
     scale_ = ScalePreviewToPage(page_, room_.width / kTwipsPerInch, room_.height / kTwipsPerInch);
     const double width = scale_->width * kTwipsPerInch;
-    Picture0.setGeometry(
+    form_.Picture0.setGeometry(
         {room_.left + (room_.width - width) / 2, room_.top, width, scale_->height * kTwipsPerInch});
-    Picture0.cls();
+    form_.Picture0.cls();
 }
 
 } // namespace parabolt

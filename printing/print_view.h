@@ -1,36 +1,20 @@
 #pragma once
 
-#include "controls/focus.h"
 #include "controls/rich_text_box.h"
 #include "controls/services.h"
-#include "controls/simple_controls.h"
-#include "controls/text_box.h"
+#include "printing/print_view_form.h"
 #include "printing/printer.h"
 
-#include <functional>
 #include <optional>
 
 namespace parabolt {
 
-/// The form `frmPrintView`: lets the user caption the report, look at it and print it. It shows the
-/// print twin of the plot and the result table as they are while it is open.
+/// What the print view does: it lets the user caption the report, look at it and print it. It shows
+/// the print twin of the plot and the result table as they are while it is open.
 class PrintView {
 public:
-    PrintView(const PlotCanvases& printPlot, const RichTextBox& txtResult, Printer& printer,
-              MessageBoxes& messages);
-
-    static constexpr std::string_view kCaption = "Parabolt - Print Preview";
-    static constexpr int kRowOfControls = 1200; ///< height above `Picture0`, twips
-    static constexpr int kGapAtSides = 200;     ///< between `Picture0` and the form's edges, twips
-
-    ControlSet controls;
-    Focus focus;
-    Label Label1{controls, "Label1", "Caption"};
-    TextBox txtCaption{controls, "txtCaption"};
-    Button cmdPrintPreview{controls, "cmdPrintPreview", "Pre&view"};
-    Button cmdPrint{controls, "cmdPrint", "&Print"};
-    Button cmdClose{controls, "cmdClose", "&Close"};
-    PictureBox Picture0{controls, "Picture0", kWhite, kBlack}; ///< the page on the screen
+    PrintView(PrintViewForm& form, const PlotCanvases& printPlot, const RichTextBox& txtResult,
+              Printer& printer, MessageBoxes& messages);
 
     /// Of the view: the form has a new size, in twips. A page that is shown is fitted to it. A form
     /// without room for a page leaves it as it was.
@@ -41,14 +25,13 @@ public:
     /// Draws the page of the last preview. Later changes of the caption don't show in it.
     void composePreview(Page& target) const;
 
-    std::function<void()> onUnload; ///< set by the view: closes the form
-
 private:
     void cmdPrintPreview_Click();
     void cmdPrint_Click();
     ReportContent takeContent();
     void fitPreview();
 
+    PrintViewForm& form_;
     PlotCanvases plot_;
     const RichTextBox& txtResult_;
     Printer& printer_;

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "numbers/outcome.h"
 #include "printing/report.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -18,8 +18,8 @@ public:
     virtual PageSize paper() = 0;
 
     /// Lets `compose` draw one page, in inches of the report's layout, and sends it out under a
-    /// title. Gives the description of what went wrong. Nothing is drawn if the user backs out.
-    virtual std::optional<std::string> print(std::string_view title,
+    /// title, or describes what went wrong. Nothing is drawn if the user backs out.
+    virtual Outcome<void, std::string> print(std::string_view title,
                                              const std::function<void(Page&)>& compose) = 0;
 };
 

@@ -1,6 +1,6 @@
 #include "printing/report.h"
 
-#include "controls/text_box.h"
+#include "numbers/characters.h"
 
 #include <algorithm>
 

@@ -92,13 +92,13 @@ ClubEditorWindow::ClubEditorWindow(frmClubParams& clubEditor, QWidget* parent)
     bindComment();
     form_.onCaption = [this] { setWindowTitle(toQt(form_.caption)); };
     form_.onCaption();
-    clubEditor_.editor.onUnload = [this] { reject(); };
+    form_.onUnload = [this] { reject(); };
     const QSize room = screen()->availableSize() * 0.95; // the title bar wants some
     resize(QSize(kStartWidth, sizeHint().height()).boundedTo(room));
 }
 
 ClubEditorWindow::~ClubEditorWindow() {
-    clubEditor_.editor.onUnload = nullptr;
+    form_.onUnload = nullptr;
     form_.onCaption = nullptr;
 }
 

@@ -40,10 +40,6 @@ void QtDesktop::openHelp() {
     help_->showFirstPage();
 }
 
-void QtDesktop::openWebPage(std::string_view address) {
-    QDesktopServices::openUrl(QUrl(toQt(address)));
-}
-
 void QtDesktop::openAddress(std::string_view address) {
     QDesktopServices::openUrl(QUrl(toQt(address)));
 }

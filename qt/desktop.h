@@ -14,7 +14,6 @@ public:
     ~QtDesktop() override;
 
     void openHelp() override;
-    void openWebPage(std::string_view address) override;
     void openAddress(std::string_view address) override;
 
 private:

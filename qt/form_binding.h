@@ -50,7 +50,7 @@ public:
     /// Settles the field being edited before the menus of this bar open.
     void settleBefore(QMenuBar& menuBar);
     /// True if nothing is being edited any more that would be refused.
-    bool settle();
+    [[nodiscard]] bool settle();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -90,8 +90,8 @@ MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
     statusBar()->setSizeGripEnabled(false);
 
     progress_ = std::make_unique<ProgressWindow>(this, logic.frmProgress, logic.pause);
-    progressBinding_ =
-        std::make_unique<FormBinding>(*progress_, logic.frmProgress.controls, progressFocus_);
+    progressBinding_ = std::make_unique<FormBinding>(*progress_, logic.frmProgress.controls,
+                                                     logic.frmProgress.focus);
     binding_ = std::make_unique<FormBinding>(*this, logic.form.controls, logic.form.focus,
                                              &logic.form.Picture1);
     binding_->settleBefore(*menuBar());

@@ -44,7 +44,6 @@ private:
     MainLayout layout_{};
     std::unique_ptr<QWidget> progress_;
     std::unique_ptr<FormBinding> progressBinding_;
-    Focus progressFocus_;
     std::unique_ptr<FormBinding> binding_;
     std::unique_ptr<RichTextBinding> tableBinding_;
 };

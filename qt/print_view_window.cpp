@@ -18,7 +18,7 @@ namespace {
 /// The page on the screen: white paper, and on it the report once it has been composed.
 class PageSheet : public QWidget {
 public:
-    PageSheet(const PrintView& form, QWidget* parent) : QWidget(parent), form_(form) {}
+    PageSheet(const PrintView& view, QWidget* parent) : QWidget(parent), view_(view) {}
 
 protected:
     void paintEvent(QPaintEvent*) override {
@@ -26,14 +26,14 @@ protected:
         painter.fillRect(rect(), Qt::white);
         painter.setPen(palette().color(QPalette::Mid));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
-        if (!form_.preview())
+        if (!view_.preview())
             return;
-        PagePainter page = PagePainter::onScreen(painter, *form_.preview());
-        form_.composePreview(page);
+        PagePainter page = PagePainter::onScreen(painter, *view_.preview());
+        view_.composePreview(page);
     }
 
 private:
-    const PrintView& form_;
+    const PrintView& view_;
 };
 
 QPushButton* button(const Button& control, QWidget* parent) {
@@ -43,16 +43,16 @@ QPushButton* button(const Button& control, QWidget* parent) {
     return widget;
 }
 
-QWidget* rowOfControls(const PrintView& form, QWidget* parent) {
+QWidget* rowOfControls(const PrintViewForm& form, QWidget* parent) {
     auto* row = new QWidget(parent);
-    row->setFixedHeight(PrintView::kRowOfControls / kTwipsPerPixel);
+    row->setFixedHeight(PrintViewForm::kRowOfControls / kTwipsPerPixel);
     auto* label = new QLabel(toQt(form.Label1.caption()), row);
     label->setObjectName(toQt(form.Label1.name()));
     auto* caption = new QLineEdit(row);
     caption->setObjectName(toQt(form.txtCaption.name()));
     label->setBuddy(caption);
     auto* layout = new QHBoxLayout(row);
-    const int gap = PrintView::kGapAtSides / kTwipsPerPixel;
+    const int gap = PrintViewForm::kGapAtSides / kTwipsPerPixel;
     layout->setContentsMargins(gap, 0, gap, 0);
     layout->addWidget(label);
     layout->addWidget(caption, 1);
@@ -64,11 +64,12 @@ QWidget* rowOfControls(const PrintView& form, QWidget* parent) {
 
 } // namespace
 
-PrintViewWindow::PrintViewWindow(PrintView& form, QWidget* parent)
+PrintViewWindow::PrintViewWindow(frmPrintView& printView, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
-      form_(form) {
+      printView_(printView) {
+    PrintViewForm& form = printView.form;
     setObjectName("frmPrintView");
-    setWindowTitle(toQt(PrintView::kCaption));
+    setWindowTitle(toQt(PrintViewForm::kCaption));
     setMinimumSize(480, 320);
     resize(screen()->availableSize() * 4 / 5);
     setWindowState(Qt::WindowMaximized);
@@ -77,7 +78,7 @@ PrintViewWindow::PrintViewWindow(PrintView& form, QWidget* parent)
     rows->setContentsMargins({});
     rows->addWidget(rowOfControls(form, this));
     rows->addStretch();
-    auto* sheet = new PageSheet(form, this);
+    auto* sheet = new PageSheet(printView.handlers, this);
     sheet->setObjectName(toQt(form.Picture0.name()));
 
     binding_ = std::make_unique<FormBinding>(*this, form.controls, form.focus);
@@ -93,13 +94,13 @@ PrintViewWindow::PrintViewWindow(PrintView& form, QWidget* parent)
 }
 
 PrintViewWindow::~PrintViewWindow() {
-    form_.onUnload = nullptr;
+    printView_.form.onUnload = nullptr;
 }
 
 void PrintViewWindow::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
     if (!isMinimized())
-        form_.Form_Resize(width() * kTwipsPerPixel, height() * kTwipsPerPixel);
+        printView_.handlers.Form_Resize(width() * kTwipsPerPixel, height() * kTwipsPerPixel);
 }
 
 } // namespace parabolt

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "printing/print_view.h"
+#include "printing/frm_print_view.h"
 #include "qt/form_binding.h"
 
 #include <QDialog>
@@ -11,14 +11,14 @@ namespace parabolt {
 /// The window of the form `frmPrintView`. Comes up maximised; to be executed.
 class PrintViewWindow : public QDialog {
 public:
-    explicit PrintViewWindow(PrintView& form, QWidget* parent = nullptr);
+    explicit PrintViewWindow(frmPrintView& printView, QWidget* parent = nullptr);
     ~PrintViewWindow() override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    PrintView& form_;
+    frmPrintView& printView_;
     std::unique_ptr<FormBinding> binding_;
 };
 

@@ -54,21 +54,21 @@ bool paint(QPagedPaintDevice& device, const std::function<void(Page&)>& compose)
     return painter.end();
 }
 
-/// Why the system's spooler refused the job that was just handed over, in its own words. Qt drops
-/// this answer, but the library that Qt prints through still has it.
-std::optional<std::string> spoolerRefusal() {
+/// Whether the system's spooler took the job that was just handed over, or in its own words why
+/// not. Qt drops this answer, but the library that Qt prints through still has it.
+Outcome<void, std::string> spoolerAnswer() {
     QLibrary cups("cups", 2);
     const auto lastError = reinterpret_cast<int (*)()>(cups.resolve("cupsLastError"));
     const auto description =
         reinterpret_cast<const char* (*)()>(cups.resolve("cupsLastErrorString"));
     constexpr int kFirstError = 0x400; // among the status codes of the Internet Printing Protocol
     if (lastError == nullptr || description == nullptr || lastError() < kFirstError)
-        return std::nullopt;
+        return {};
     const char* reason = description();
-    return reason != nullptr ? reason : "unknown";
+    return because(std::string(reason != nullptr ? reason : "unknown"));
 }
 
-std::optional<std::string> printOn(const QPrinterInfo& info, std::string_view title,
+Outcome<void, std::string> printOn(const QPrinterInfo& info, std::string_view title,
                                    const std::function<void(Page&)>& compose) {
     QPrinter printer(info, QPrinter::HighResolution);
     printer.setPageOrientation(QPageLayout::Landscape);
@@ -77,10 +77,10 @@ std::optional<std::string> printOn(const QPrinterInfo& info, std::string_view ti
     const std::string refused =
         "The printer \"" + fromQt(info.printerName()) + "\" doesn't take the report";
     if (!paint(printer, compose))
-        return refused + ".";
-    if (const auto reason = spoolerRefusal())
-        return refused + ": " + *reason;
-    return std::nullopt;
+        return because(refused + ".");
+    if (const auto taken = spoolerAnswer(); !taken)
+        return because(refused + ": " + taken.why());
+    return {};
 }
 
 } // namespace
@@ -91,7 +91,7 @@ QPageSize::PageSizeId usualPaper(const QLocale& locale) {
     return letter ? QPageSize::Letter : QPageSize::A4;
 }
 
-std::optional<std::string> writePdf(const QString& fileName, QPageSize::PageSizeId paper,
+Outcome<void, std::string> writePdf(const QString& fileName, QPageSize::PageSizeId paper,
                                     std::string_view title,
                                     const std::function<void(Page&)>& compose) {
     // Neither the PDF's own writer nor a commit without a flush would tell that the disk is full.
@@ -105,9 +105,9 @@ std::optional<std::string> writePdf(const QString& fileName, QPageSize::PageSize
     QSaveFile file(fileName);
     if (paint(writer, compose) && file.open(QIODevice::WriteOnly) &&
         file.write(bytes.data()) == bytes.size() && file.flush() && file.commit())
-        return std::nullopt;
-    return "The report can't be written to \"" + fromQt(QFileInfo(fileName).fileName()) +
-           "\": " + fromQt(file.errorString());
+        return {};
+    return because("The report can't be written to \"" + fromQt(QFileInfo(fileName).fileName()) +
+                   "\": " + fromQt(file.errorString()));
 }
 
 PageSize QtPrinter::paper() {
@@ -119,14 +119,14 @@ PageSize QtPrinter::paper() {
     return paperOf(printer.pageLayout());
 }
 
-std::optional<std::string> QtPrinter::print(std::string_view title,
+Outcome<void, std::string> QtPrinter::print(std::string_view title,
                                             const std::function<void(Page&)>& compose) {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (!info.isNull())
         return printOn(info, title, compose);
     const QString fileName = askFileName();
     if (fileName.isEmpty())
-        return std::nullopt;
+        return {};
     return writePdf(fileName, usualPaper(QLocale::system()), title, compose);
 }
 

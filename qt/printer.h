@@ -14,7 +14,7 @@ namespace parabolt {
 class QtPrinter : public Printer {
 public:
     PageSize paper() override;
-    std::optional<std::string> print(std::string_view title,
+    Outcome<void, std::string> print(std::string_view title,
                                      const std::function<void(Page&)>& compose) override;
 
 private:
@@ -27,8 +27,8 @@ private:
 QPageSize::PageSizeId usualPaper(const QLocale& locale);
 
 /// Writes one landscape page as a PDF. The file appears, or replaces an older one, only once all of
-/// it is written. Gives the description of what went wrong.
-std::optional<std::string> writePdf(const QString& fileName, QPageSize::PageSizeId paper,
+/// it is written. Otherwise describes what went wrong.
+Outcome<void, std::string> writePdf(const QString& fileName, QPageSize::PageSizeId paper,
                                     std::string_view title,
                                     const std::function<void(Page&)>& compose);
 

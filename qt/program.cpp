@@ -41,8 +41,8 @@ Program::Program()
 Program::~Program() = default;
 
 void Program::start() {
-    splash_ = std::make_unique<SplashForm>(desktop_);
-    splash_->Unload.connect([this] {
+    splash_ = std::make_unique<frmSplash>(desktop_);
+    splash_->form.Unload.connect([this] {
         if (!logic_.form.blFormLoaded)
             showMainForm();
     });
@@ -64,14 +64,14 @@ void Program::showClubEditor() {
 }
 
 void Program::showPrintView() {
-    PrintView view(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
-    PrintViewWindow window(view, window_.get());
+    frmPrintView printView(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
+    PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
     window.exec();
 }
 
 void Program::showAbout() {
-    SplashForm about(desktop_);
+    frmSplash about(desktop_);
     SplashWindow(about, window_.get()).exec();
 }
 

@@ -7,7 +7,7 @@
 #include "qt/printer.h"
 #include "qt/settings_store.h"
 #include "shell/frm_main.h"
-#include "shell/splash.h"
+#include "shell/frm_splash.h"
 
 #include <memory>
 
@@ -42,7 +42,7 @@ private:
     QtPrinter printer_;
     frmMain logic_;
     std::unique_ptr<MainWindow> window_;
-    std::unique_ptr<SplashForm> splash_;
+    std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<SplashWindow> splashWindow_;
 };
 

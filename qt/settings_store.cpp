@@ -21,32 +21,32 @@ public:
 
 } // namespace
 
-PreferencesStore::ReadResult SettingsStore::read(const std::string& application,
-                                                 const std::string& section,
-                                                 const std::string& key) {
+Outcome<std::optional<std::string>, PreferencesStore::Refusal>
+SettingsStore::read(const std::string& application, const std::string& section,
+                    const std::string& key) {
     const UserSettings settings(application, section);
     if (settings.refused())
-        return CannotOpen{settings.code()};
+        return because(Refusal{Refusal::Of::Section, settings.code()});
     const QVariant value = settings.value(toQt(key));
     if (!value.isValid())
-        return Absent{};
+        return {std::nullopt};
     if (value.typeId() != QMetaType::QString)
-        return NotText{static_cast<std::uint32_t>(value.typeId())};
-    return fromQt(value.toString());
+        return because(Refusal{Refusal::Of::Value, static_cast<std::uint32_t>(value.typeId())});
+    return {fromQt(value.toString())};
 }
 
-PreferencesStore::WriteResult SettingsStore::write(const std::string& application,
-                                                   const std::string& section,
-                                                   const std::string& key,
-                                                   const std::string& text) {
+Outcome<void, PreferencesStore::Refusal> SettingsStore::write(const std::string& application,
+                                                              const std::string& section,
+                                                              const std::string& key,
+                                                              const std::string& text) {
     UserSettings settings(application, section);
     if (settings.refused() || !settings.isWritable())
-        return CannotOpen{static_cast<std::uint32_t>(QSettings::AccessError)};
+        return because(Refusal{Refusal::Of::Section, QSettings::AccessError});
     settings.setValue(toQt(key), toQt(text));
     settings.sync();
     if (settings.refused())
-        return CannotSet{settings.code()};
-    return Written{};
+        return because(Refusal{Refusal::Of::Value, settings.code()});
+    return {};
 }
 
 } // namespace parabolt

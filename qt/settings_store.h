@@ -8,10 +8,11 @@ namespace parabolt {
 /// can't be understood in the file counts as absent, and goes with the next write.
 class SettingsStore : public PreferencesStore {
 public:
-    ReadResult read(const std::string& application, const std::string& section,
-                    const std::string& key) override;
-    WriteResult write(const std::string& application, const std::string& section,
-                      const std::string& key, const std::string& text) override;
+    Outcome<std::optional<std::string>, Refusal> read(const std::string& application,
+                                                      const std::string& section,
+                                                      const std::string& key) override;
+    Outcome<void, Refusal> write(const std::string& application, const std::string& section,
+                                 const std::string& key, const std::string& text) override;
 };
 
 } // namespace parabolt

@@ -8,7 +8,6 @@
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
-#include <QTimer>
 
 namespace parabolt {
 
@@ -57,9 +56,10 @@ QLabel* label(const Label& control, double relativeSize, QWidget* parent) {
 
 } // namespace
 
-SplashWindow::SplashWindow(SplashForm& form, QWidget* parent)
+SplashWindow::SplashWindow(frmSplash& splash, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
-      form_(form) {
+      splash_(splash.handlers) {
+    SplashForm& form = splash.form;
     setObjectName("frmSplash");
     setWindowTitle(toQt(form.lblProductName.caption()));
     setStyleSheet(kStyle);
@@ -94,28 +94,22 @@ SplashWindow::SplashWindow(SplashForm& form, QWidget* parent)
     whole->setSizeConstraint(QLayout::SetFixedSize);
     whole->addWidget(frame, 0, 0);
 
-    auto* timer = new QTimer(this);
-    timer->setObjectName("Timer1");
-    connect(timer, &QTimer::timeout, this, [this] { form_.Timer1.Tick(); });
-    timer->start(form.Timer1.interval());
-    form.Unload.connect([this, timer] {
-        timer->stop();
-        QDialog::done(Accepted);
-    });
+    binding_ = std::make_unique<FormBinding>(*this, form.controls, form.focus);
+    form.Unload.connect([this] { QDialog::done(Accepted); });
 }
 
 void SplashWindow::keyPressEvent(QKeyEvent* event) {
     // A key that is still held down, such as the Enter that chose About, isn't pressed anew.
     if (!event->isAutoRepeat())
-        form_.Form_KeyPress();
+        splash_.Form_KeyPress();
 }
 
 void SplashWindow::mousePressEvent(QMouseEvent* event) {
     const QWidget* clicked = childAt(event->position().toPoint());
     if (clicked && clicked->objectName() == "Picture1")
-        form_.Picture1_Click();
+        splash_.Picture1_Click();
     else
-        form_.Frame1_Click();
+        splash_.Frame1_Click();
 }
 
 bool SplashWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -124,7 +118,7 @@ bool SplashWindow::eventFilter(QObject* watched, QEvent* event) {
         return true;
     if (event->type() != QEvent::MouseButtonPress)
         return QDialog::eventFilter(watched, event);
-    form_.Label1_Click();
+    splash_.Label1_Click();
     return true;
 }
 
@@ -136,7 +130,7 @@ void SplashWindow::showEvent(QShowEvent* event) {
 }
 
 void SplashWindow::done(int) {
-    form_.unload();
+    splash_.unload();
 }
 
 } // namespace parabolt

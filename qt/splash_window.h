@@ -1,8 +1,10 @@
 #pragma once
 
-#include "shell/splash.h"
+#include "qt/form_binding.h"
+#include "shell/frm_splash.h"
 
 #include <QDialog>
+#include <memory>
 
 namespace parabolt {
 
@@ -11,7 +13,7 @@ namespace parabolt {
 /// means unloads the form. Its colours are its own, in dark and light desktops alike.
 class SplashWindow : public QDialog {
 public:
-    explicit SplashWindow(SplashForm& form, QWidget* parent = nullptr);
+    explicit SplashWindow(frmSplash& splash, QWidget* parent = nullptr);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -21,7 +23,8 @@ protected:
     void done(int result) override;
 
 private:
-    SplashForm& form_;
+    Splash& splash_;
+    std::unique_ptr<FormBinding> binding_;
 };
 
 } // namespace parabolt

@@ -18,8 +18,8 @@ void ResultExport::mnuSResult_Click() {
     const auto write = [this](const std::string& fileName, std::string_view) {
         return replaceFile(fileName, composeResultText(txtResult_));
     };
-    if (const auto failure = dialogs_.run(DialogPurpose::SaveResult, write))
-        messages_.show(failure->description);
+    if (const auto done = dialogs_.run(DialogPurpose::SaveResult, write); !done)
+        messages_.show(done.why().description);
 }
 
 std::string composeResultText(const RichTextBox& txtResult) {

@@ -1,17 +1,10 @@
 #pragma once
 
 #include "run/pause.h"
+#include "run/progress_form.h"
 #include "run/run_driver.h"
 
 namespace parabolt {
-
-/// The form `frmProgress`: a bar that only shows that work goes on.
-struct ProgressForm {
-    static constexpr std::string_view kCaption = "Calculating";
-    ControlSet controls;
-    ProgressBar ProgressBar1{controls, "ProgressBar1", 0, 10};
-    std::function<void(bool shown)> onShow; ///< set by the view: shows the form or closes it
-};
 
 /// Climbs to the launch angle, or to the spin, that carries furthest: up through the values to the
 /// first that carries less than the one before, one step back, and one normal run with what was

@@ -1,7 +1,6 @@
 #include "shell/splash.h"
 
 namespace parabolt {
-
 namespace {
 
 /// Ticks that the form survives; it goes on the next one, 5.1 seconds after it came.
@@ -9,40 +8,40 @@ constexpr int kTicksToStay = 50;
 
 } // namespace
 
-SplashForm::SplashForm(Desktop& desktop) : desktop_(desktop) {
-    Timer1.Tick.connect([this] { Timer1_Timer(); });
-    Timer1.setEnabled(true);
+Splash::Splash(SplashForm& form, Desktop& desktop) : form_(form), desktop_(desktop) {
+    form_.Timer1.Tick.connect([this] { Timer1_Timer(); });
+    form_.Timer1.setEnabled(true);
 }
 
-void SplashForm::Timer1_Timer() {
+void Splash::Timer1_Timer() {
     if (ticks_ < kTicksToStay)
         ++ticks_;
     else
         unload();
 }
 
-void SplashForm::Form_KeyPress() {
+void Splash::Form_KeyPress() {
     unload();
 }
 
-void SplashForm::Frame1_Click() {
+void Splash::Frame1_Click() {
     unload();
 }
 
-void SplashForm::Picture1_Click() {
+void Splash::Picture1_Click() {
     unload();
 }
 
-void SplashForm::Label1_Click() {
-    desktop_.openWebPage(Label1.caption());
+void Splash::Label1_Click() {
+    desktop_.openAddress(form_.Label1.caption());
 }
 
-void SplashForm::unload() {
+void Splash::unload() {
     if (unloaded_)
         return;
     unloaded_ = true;
-    Timer1.setEnabled(false);
-    Unload();
+    form_.Timer1.setEnabled(false);
+    form_.Unload();
 }
 
 } // namespace parabolt

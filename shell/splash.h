@@ -1,28 +1,15 @@
 #pragma once
 
 #include "controls/services.h"
-#include "controls/simple_controls.h"
-#include "mainform/main_form.h"
-#include "shell/build_values.h"
+#include "shell/splash_form.h"
 
 namespace parabolt {
 
-/// The splash `frmSplash`, which is also the About box: one object for each time that it is shown.
-/// It goes by itself after some five seconds, and at once on a key or a click that isn't on the web
-/// address. The view calls the handlers, and closes when `Unload` comes.
-class SplashForm {
+/// What the splash does: it goes by itself after some five seconds, and at once on a key or a click
+/// that isn't on the web address. The view calls the handlers, and closes when `Unload` comes.
+class Splash {
 public:
-    explicit SplashForm(Desktop& desktop);
-
-    ControlSet controls;
-    Frame Frame1{controls, "Frame1", ""};
-    Control Picture1{controls, "Picture1"}; ///< 250 x 139 pixels
-    Control Picture2{controls, "Picture2"}; ///< 200 x 66 pixels
-    Label lblProductName{controls, "lblProductName", kApplicationTitle};
-    Label lblVersion{controls, "lblVersion", "Version " + std::string(kVersion)};
-    Label lblWarning{controls, "lblWarning", kLegalLine};
-    Label Label1{controls, "Label1", kWebAddress}; ///< opens the web page
-    Timer Timer1{controls, "Timer1", 100};
+    Splash(SplashForm& form, Desktop& desktop);
 
     void Form_KeyPress();
     void Frame1_Click();
@@ -32,12 +19,10 @@ public:
     /// counts.
     void unload();
 
-    /// Comes once, when the form goes.
-    Event<> Unload;
-
 private:
     void Timer1_Timer();
 
+    SplashForm& form_;
     Desktop& desktop_;
     int ticks_ = 0;
     bool unloaded_ = false;

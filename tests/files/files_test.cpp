@@ -32,8 +32,7 @@ struct FileAccess : testing::Test {
     static Bytes bytesOf(std::string_view text) { return {text.begin(), text.end()}; }
     static std::string readStart(const std::string& name, std::size_t most) {
         const auto data = readFileStart(name, most);
-        const auto* bytes = std::get_if<Bytes>(&data);
-        return bytes == nullptr ? "failed" : std::string(bytes->begin(), bytes->end());
+        return data ? std::string(data->begin(), data->end()) : "failed";
     }
 };
 
@@ -43,9 +42,9 @@ TEST_F(FileAccess, ReadsAndWritesTheStartOrTheWhole) {
     putContent(name, "0123456789");
     EXPECT_EQ(readStart(name, 4), "0123");
     EXPECT_EQ(readStart(name, 1000), "0123456789");
-    EXPECT_FALSE(writeFileStart(name, bytesOf("abc")));
+    EXPECT_TRUE(writeFileStart(name, bytesOf("abc")));
     EXPECT_EQ(contentOf(name), "abc3456789");
-    EXPECT_FALSE(replaceFile(name, "short"));
+    EXPECT_TRUE(replaceFile(name, "short"));
     EXPECT_EQ(contentOf(name), "short");
     EXPECT_EQ(folder.entries(), 1) << "a temporary file is left";
 }
@@ -53,15 +52,14 @@ TEST_F(FileAccess, ReadsAndWritesTheStartOrTheWhole) {
 TEST_F(FileAccess, AFullDiskLeavesTheOldFileWhole) {
     for (std::size_t room = 0; room < 20; ++room) {
         putContent(name, "0123456789");
-        std::vector<std::optional<Failure>> failures;
+        std::vector<Outcome<void, Failure>> writes;
         {
             const FailingDisk disk(room);
-            failures = {writeFileStart(name, Bytes(20, 'a')),
-                        replaceFile(name, std::string(20, 'b')),
-                        replaceFile(folder.path("fresh"), std::string(20, 'c'))};
+            writes = {writeFileStart(name, Bytes(20, 'a')), replaceFile(name, std::string(20, 'b')),
+                      replaceFile(folder.path("fresh"), std::string(20, 'c'))};
         }
-        for (const auto& failure : failures)
-            EXPECT_TRUE(failure && !failure->description.empty()) << room;
+        for (const auto& write : writes)
+            EXPECT_TRUE(!write && !write.why().description.empty()) << room;
         EXPECT_EQ(contentOf(name), "0123456789") << room;
         EXPECT_EQ(folder.entries(), 1) << "half a file is left at " << room;
     }
@@ -77,40 +75,40 @@ TEST_F(FileAccess, SaysWhyAFileCannotBeUsed) {
     };
     for (const auto& [bad, badName] : table) {
         const auto read = readFileStart(bad, 10);
-        ASSERT_TRUE(std::holds_alternative<Failure>(read)) << bad;
-        for (const auto& failure : {std::optional(std::get<Failure>(read)),
-                                    writeFileStart(bad, bytesOf("a")), replaceFile(bad, "a")}) {
-            ASSERT_TRUE(failure) << bad;
-            EXPECT_EQ(failure->number == kBadFileName, badName) << bad;
-            EXPECT_FALSE(failure->description.empty());
+        const auto written = writeFileStart(bad, bytesOf("a"));
+        const auto replaced = replaceFile(bad, "a");
+        ASSERT_FALSE(read || written || replaced) << bad;
+        for (const Failure& failure : {read.why(), written.why(), replaced.why()}) {
+            EXPECT_EQ(failure.number == kBadFileName, badName) << bad;
+            EXPECT_FALSE(failure.description.empty());
         }
     }
     EXPECT_EQ(folder.entries(), 0);
     // A device is neither replaced nor waited for.
-    EXPECT_TRUE(replaceFile("/dev/full", "text"));
+    EXPECT_FALSE(replaceFile("/dev/full", "text"));
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
     ASSERT_EQ(std::system(("mkfifo " + folder.path("pipe")).c_str()), 0);
     EXPECT_EQ(readStart(folder.path("pipe"), 10), "failed");
 }
 
 TEST(Preferences, FailsWithNumberAndDescription) {
-    using Store = PreferencesStore;
+    using Of = PreferencesStore::Refusal::Of;
     MemoryPreferences store;
     std::map<std::uint32_t, std::string> failures;
     const auto use = [&](const char* app, const char* section, const char* key) {
         const auto read = GetRegString(store, app, section, key, "");
         const auto written = SaveRegString(store, app, section, key, "x");
-        for (const Failure& failure : {std::get<Failure>(read), written.value()})
+        for (const Failure& failure : {read.why(), written.why()})
             failures[failure.number] += failure.description + ".";
     };
     use("a", "s", " ");
     use("a", "  ", "");
     use("  ", "", "");
-    store.readRefusal = Store::CannotOpen{5};
-    store.writeRefusal = Store::CannotOpen{6};
+    store.readRefusal = {Of::Section, 5};
+    store.writeRefusal = {Of::Section, 6};
     use("a", "s", "k");
-    store.readRefusal = Store::NotText{4};
-    store.writeRefusal = Store::CannotSet{112};
+    store.readRefusal = {Of::Value, 4};
+    store.writeRefusal = {Of::Value, 112};
     use("a", "s", "k");
     const decltype(failures) expected{
         {0x800403E8, "AppName may not be empty.AppName may not be empty."},
@@ -129,12 +127,12 @@ struct DialogRoutineTest : testing::Test {
     ScriptedMessageBoxes messages;
     DialogRoutine routine{dialog, preferences, messages, "/program"};
     Texts worked; ///< the ending that each piece of work was for
-    std::optional<Failure> workFailure;
+    Outcome<void, Failure> work;
 
-    std::optional<Failure> run(DialogPurpose purpose) {
+    Outcome<void, Failure> run(DialogPurpose purpose) {
         return routine.run(purpose, [this](const std::string&, std::string_view ending) {
             worked.emplace_back(ending);
-            return workFailure;
+            return work;
         });
     }
 };
@@ -155,7 +153,7 @@ TEST_F(DialogRoutineTest, JudgesANameByItsLastThreeCharacters) {
         worked.clear();
         messages.texts.clear();
         dialog.choose(name);
-        EXPECT_FALSE(run(purpose));
+        EXPECT_TRUE(run(purpose));
         (outcome.size() == 3 ? messages.texts : worked).push_back(outcome);
         EXPECT_EQ(worked, Texts{outcome}) << name;
         EXPECT_EQ(messages.texts, Texts{outcome}) << name;
@@ -166,7 +164,7 @@ TEST_F(DialogRoutineTest, JudgesANameByItsLastThreeCharacters) {
 TEST_F(DialogRoutineTest, AllFiveStartWhereTheLastOneEnded) {
     dialog.cancel("/1");
     for (const auto purpose : {OpenParameters, SaveParameters, SaveResult, OpenClubs, SaveClubs}) {
-        EXPECT_FALSE(run(purpose));
+        EXPECT_TRUE(run(purpose));
         dialog.cancel(dialog.finalFolder + "/2");
     }
     const Texts expected{
@@ -181,16 +179,16 @@ TEST_F(DialogRoutineTest, AllFiveStartWhereTheLastOneEnded) {
 
 TEST_F(DialogRoutineTest, AFailureEndsItWhereItHappens) {
     dialog.choose("/f/a.txt");
-    preferences.readRefusal = PreferencesStore::CannotOpen{5};
-    EXPECT_TRUE(run(SaveResult));
+    preferences.readRefusal = {PreferencesStore::Refusal::Of::Section, 5};
+    EXPECT_FALSE(run(SaveResult));
     EXPECT_TRUE(dialog.shows.empty());
     preferences.readRefusal.reset();
-    workFailure = Failure{1, "disk full"};
-    EXPECT_EQ(run(SaveResult)->description, "disk full");
+    work = because(Failure{1, "disk full"});
+    EXPECT_EQ(run(SaveResult).why().description, "disk full");
     EXPECT_EQ(preferences.lastPath(), "");
-    workFailure.reset();
-    preferences.writeRefusal = PreferencesStore::CannotSet{5};
-    EXPECT_EQ(run(SaveResult)->description, "Could not set key value");
+    work = {};
+    preferences.writeRefusal = {PreferencesStore::Refusal::Of::Value, 5};
+    EXPECT_EQ(run(SaveResult).why().description, "Could not set key value");
     EXPECT_EQ(worked.size(), 2U);
 }
 

@@ -17,7 +17,7 @@ namespace {
 /// The editor in its window, with real keys.
 struct ClubEditorTest : testing::Test {
     ClubEditorTest() {
-        editor.onUnload = [this] { closed = editor.queryUnload(); };
+        form.onUnload = [this] { closed = editor.queryUnload(); };
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));

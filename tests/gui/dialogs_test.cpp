@@ -100,12 +100,11 @@ TEST(SettingsStore, GivesTextsBackWholeOrSaysWhyNot) {
         QSettings(QSettings::NativeFormat, QSettings::UserScope, toQt(application)).fileName());
     const auto text = [&] { // or why there is none
         const auto value = GetRegString(store, application, "startup", "LastPath", "default");
-        const auto* failure = std::get_if<Failure>(&value);
-        return failure != nullptr ? failure->description : std::get<std::string>(value);
+        return value ? *value : value.why().description;
     };
     const auto save = [&](std::string_view value) {
-        const auto failure = SaveRegString(store, application, "Startup", "LastPath", value);
-        return failure ? failure->description : "";
+        const auto saved = SaveRegString(store, application, "Startup", "LastPath", value);
+        return saved ? "" : saved.why().description;
     };
     EXPECT_EQ(text(), "default");
     EXPECT_FALSE(std::filesystem::exists(file)) << "reading must not create it";

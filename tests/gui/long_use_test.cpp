@@ -27,7 +27,7 @@ TEST(LongUse, TakesNoMoreMemory) {
         frmClubParams editor(user.form.clubs, {user.messages, user.files, user.preferences,
                                                user.desktop, "/", [] {}});
         ClubEditorWindow(editor).show();
-        PrintView view(user.form.printPlot(), user.form.txtResult, printer, user.messages);
+        frmPrintView view(user.form.printPlot(), user.form.txtResult, printer, user.messages);
         PrintViewWindow(view).show();
         QApplication::processEvents();
     };

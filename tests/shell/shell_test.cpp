@@ -1,4 +1,4 @@
-#include "shell/splash.h"
+#include "shell/frm_splash.h"
 #include "tests/support/scripted_form.h"
 
 namespace parabolt::support {
@@ -39,10 +39,11 @@ TEST_F(FrmMain, MenusJudgeTheEditedFieldAndOpenTheirForms) {
 TEST(Splash, GoesOnceByItselfOrAtAnyOfItsEvents) {
     for (const bool byItself : {true, false}) {
         RecordingDesktop desktop;
-        SplashForm form(desktop);
+        frmSplash frm(desktop);
+        SplashForm& form = frm.form;
         int unloads = 0;
         form.Unload.connect([&] { ++unloads; });
-        form.Label1_Click(); // opens its page, and the splash stays
+        frm.handlers.Label1_Click(); // opens its page, and the splash stays
         EXPECT_EQ(desktop.opened, Texts{form.Label1.caption()});
         EXPECT_EQ(unloads, 0);
         int milliseconds = 0;
@@ -50,8 +51,8 @@ TEST(Splash, GoesOnceByItselfOrAtAnyOfItsEvents) {
              milliseconds += form.Timer1.interval())
             form.Timer1.Tick();
         EXPECT_EQ(milliseconds, byItself ? 5100 : 0);
-        form.Form_KeyPress();
-        form.Frame1_Click();
+        frm.handlers.Form_KeyPress();
+        frm.handlers.Frame1_Click();
         EXPECT_EQ(unloads, 1) << "a second main form would come up";
         EXPECT_FALSE(form.Timer1.enabled());
     }

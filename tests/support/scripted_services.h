@@ -60,26 +60,29 @@ struct ScriptedFileDialog : FileDialog {
 struct RecordingDesktop : Desktop {
     Texts opened;
     void openHelp() override { opened.emplace_back("help"); }
-    void openWebPage(std::string_view address) override { opened.emplace_back(address); }
     void openAddress(std::string_view address) override { opened.emplace_back(address); }
 };
 
 /// Preferences in memory, with a store that can be told to refuse.
 struct MemoryPreferences : PreferencesStore {
     std::map<std::tuple<std::string, std::string, std::string>, std::string> values;
-    std::optional<ReadResult> readRefusal;   ///< what each read gives instead of what is stored
-    std::optional<WriteResult> writeRefusal; ///< how each write ends instead of storing
+    std::optional<Refusal> readRefusal;  ///< what each read gives instead of what is stored
+    std::optional<Refusal> writeRefusal; ///< how each write ends instead of storing
 
-    ReadResult read(const std::string& application, const std::string& section,
-                    const std::string& key) override {
+    Outcome<std::optional<std::string>, Refusal> read(const std::string& application,
+                                                      const std::string& section,
+                                                      const std::string& key) override {
+        if (readRefusal)
+            return because(*readRefusal);
         const auto found = values.find({application, section, key});
-        return readRefusal.value_or(found == values.end() ? ReadResult(Absent{}) : found->second);
+        return found == values.end() ? std::nullopt : std::optional(found->second);
     }
-    WriteResult write(const std::string& application, const std::string& section,
-                      const std::string& key, const std::string& text) override {
-        if (!writeRefusal)
-            values[{application, section, key}] = text;
-        return writeRefusal.value_or(Written{});
+    Outcome<void, Refusal> write(const std::string& application, const std::string& section,
+                                 const std::string& key, const std::string& text) override {
+        if (writeRefusal)
+            return because(*writeRefusal);
+        values[{application, section, key}] = text;
+        return {};
     }
     /// The folder in which the last dialog ended; empty before the first.
     std::string lastPath() { return values[{"Parabolt", "startup", "LastPath"}]; }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace parabolt {
+
+/// Number of characters of a UTF-8 text.
+std::size_t characterCount(std::string_view text);
+/// Where a character, counted from 0, starts in a UTF-8 text; the text's size if it has no such.
+std::size_t characterStart(std::string_view text, std::size_t character);
+
+/// The text with its letters A to Z in lower case; all other bytes stay, in every locale.
+std::string lowerCase(std::string_view text);
+
+} // namespace parabolt
