@@ -59,7 +59,7 @@ MapRanges usualRanges(MapKind kind, const ShotInputs& shot) {
     if (kind == MapKind::Launch)
         return {choose(shot.RPM, 5000, {0, 6000, 100}, {0, 15000, 250}),
                 choose(shot.LaunchAngle, 25, {0, 30, 0.5}, {0, 55, 1})};
-    return {choose(shot.AttackAngle, 8, {-5, 10, 0.25}, {-5, 20, 0.5}),
+    return {choose(shot.AttackAngle, 8, {-5, 10, 0.2}, {-5, 20, 0.5}),
             choose(shot.LoftAngle, 25, {0, 30, 0.5}, {0, 65, 1})};
 }
 

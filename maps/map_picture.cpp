@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace parabolt {
 namespace {
@@ -17,7 +18,7 @@ namespace {
 constexpr double kLeftOfAxes = 750;
 constexpr double kRightOfAxes = 1500;
 constexpr double kAboveAxes = 480;
-constexpr double kBelowAxes = 780;
+constexpr double kBelowAxes = 660;
 constexpr double kTick = 80;
 constexpr double kTextGap = 60;
 constexpr double kBarGap = 300;
@@ -25,8 +26,10 @@ constexpr double kBarWidth = 240;
 constexpr double kImagePixel = 30; ///< of the coloured ground
 constexpr double kMarkRadius = 130;
 constexpr double kDotRadius = 45;
-constexpr double kRim = 15; ///< around a mark
+constexpr double kRingRadius = 200; ///< around the present setting
+constexpr double kRim = 15;         ///< around a mark
 constexpr int kBarPixels = 128;
+constexpr int kMostLevels = 12; ///< about as many contours
 
 constexpr Place kLeftMiddle{0, 0.5};
 constexpr Place kRightMiddle{1, 0.5};
@@ -64,6 +67,9 @@ public:
         for (const DataMark& mark : marks)
             dataSet(mark);
         best();
+        pen(kBlack);
+        for (const DrawnText& text : names_)
+            canvas_.label(text.place, text.text, text.anchor, kWhite);
         canvas_.setForeColor(ink_);
         canvas_.setDrawWidth(1);
     }
@@ -72,6 +78,10 @@ private:
     void pen(Rgb colour, int width = 1) {
         canvas_.setForeColor(colour);
         canvas_.setDrawWidth(width);
+    }
+
+    void name(Place place, std::string text, Place anchor) {
+        names_.push_back({place, std::move(text), kBlack, anchor, kWhite});
     }
 
     void ground() {
@@ -103,12 +113,12 @@ private:
         canvas_.curve(points);
     }
 
-    std::vector<double> levels(int most) const {
-        return roundValues(scale_->low, scale_->high, roundStep(scale_->high - scale_->low, most));
+    std::vector<double> levels() const {
+        return roundValues(scale_->low, scale_->high, scale_->step);
     }
 
     void contours() {
-        for (const double level : levels(12)) {
+        for (const double level : levels()) {
             const Rgb colour = scale_->colour(level);
             const Rgb ink = inkOn(colour);
             const auto lines = contoursOf(field_, level);
@@ -138,11 +148,13 @@ private:
         canvas_.image({left, top}, {kBarWidth, frame_.size().y}, 1, std::move(pixels));
         pen(ink_);
         const double right = left + kBarWidth;
-        for (const double level : levels(12)) {
+        for (const double level : levels()) {
             const double y =
                 top + (scale_->high - level) / (scale_->high - scale_->low) * frame_.size().y;
             canvas_.line({right, y}, {right + kTick, y});
-            canvas_.label({right + kTick + kTextGap, y}, label(level), kLeftMiddle);
+            const bool orLess = scale_->cut && level == levels().front();
+            canvas_.label({right + kTick + kTextGap, y}, (orLess ? "\u2264 " : "") + label(level),
+                          kLeftMiddle);
         }
         canvas_.label({canvas_.geometry().width - kTextGap, top - 2 * kTextGap}, heading(shown_),
                       {1, 1});
@@ -243,9 +255,8 @@ private:
             return;
         const Place at = frame_.place(point);
         disc(at, 2 * kDotRadius, kWhite, kBlack);
-        pen(kBlack);
-        canvas_.label({at.x - kMarkRadius, at.y - kTextGap},
-                      "best loft " + label(best->loft) + "\u00b0", {1, 1}, kWhite);
+        name({at.x - 3 * kTextGap, at.y - 2 * kTextGap},
+             "best loft " + label(best->loft) + "\u00b0", {1, 1});
     }
 
     /// A disc with a rim, which shows on any ground.
@@ -277,13 +288,11 @@ private:
         if (!frame_.holds(point))
             return;
         const Place at = frame_.place(point);
-        const double arm = kMarkRadius;
         for (const auto& [colour, width] : {std::pair(kWhite, 5), std::pair(kBlack, 2)}) {
             pen(colour, width);
-            canvas_.line({at.x - arm, at.y - arm}, {at.x + arm, at.y + arm});
-            canvas_.line({at.x - arm, at.y + arm}, {at.x + arm, at.y - arm});
+            canvas_.circle(at, kRingRadius);
         }
-        canvas_.label({at.x, at.y + arm + kTextGap}, "now", kTopMiddle, kWhite);
+        name({at.x + kRingRadius + kTextGap, at.y + kTextGap}, "now", {0, 0});
     }
 
     void best() {
@@ -296,7 +305,7 @@ private:
             canvas_.line({at.x - kMarkRadius, at.y}, {at.x + kMarkRadius, at.y});
             canvas_.line({at.x, at.y - kMarkRadius}, {at.x, at.y + kMarkRadius});
         }
-        canvas_.label({at.x, at.y - kMarkRadius - kTextGap}, "best", kBottomMiddle, kWhite);
+        name({at.x, at.y - kMarkRadius - kTextGap}, "best", kBottomMiddle);
     }
 
     PictureBox& canvas_;
@@ -307,6 +316,7 @@ private:
     ValueField field_;
     std::optional<MapScale> scale_;
     std::vector<DrawnText> labels_; ///< of the contours, over all of them
+    std::vector<DrawnText> names_;  ///< of the marks, over all that is drawn
 };
 
 } // namespace
@@ -352,18 +362,22 @@ Rgb MapScale::colour(double value) const {
 }
 
 std::optional<MapScale> scaleOf(const ValueField& field) {
-    std::optional<MapScale> scale;
-    for (const double value : field.values) {
-        if (std::isnan(value))
-            continue;
-        if (!scale)
-            scale = MapScale{value, value};
-        scale->low = std::min(scale->low, value);
-        scale->high = std::max(scale->high, value);
-    }
-    if (scale && !(scale->low < scale->high)) // all the same: a range around it
-        scale = MapScale{scale->low - 1, scale->high + 1};
-    return scale;
+    constexpr std::size_t kLowest = 20; // a twentieth of the values
+    std::vector<double> values;
+    std::copy_if(field.values.begin(), field.values.end(), std::back_inserter(values),
+                 [](double value) { return !std::isnan(value); });
+    if (values.empty())
+        return std::nullopt;
+    std::sort(values.begin(), values.end());
+    const double most = values.back();
+    const double low = values[values.size() / kLowest];
+    if (!(low < most)) // all the same: a range around it
+        return MapScale{low - 1, most + 1, 1, false};
+    const double step = roundStep(most - low, kMostLevels);
+    const double start = std::floor(low / step) * step;
+    if (start <= values.front())
+        return MapScale{values.front(), most, step, false};
+    return MapScale{start, most, step, true};
 }
 
 void drawMap(PictureBox& canvas, const MapResult& result, MapOutcome shown,

@@ -42,10 +42,13 @@ private:
 struct MapScale {
     double low = 0;
     double high = 1;
+    double step = 1;  ///< between its round values
+    bool cut = false; ///< what lies below `low` has its colour
     Rgb colour(double value) const;
 };
 
-/// The range of a field's values; nothing if it has none.
+/// The range of a field's values, but for the lowest: a far corner of a map, where shots barely
+/// fly, would take most colours for itself. Nothing if there is no value.
 std::optional<MapScale> scaleOf(const ValueField& field);
 
 /// Draws a map onto a canvas that has its size: the figures of an outcome as colours, with contours

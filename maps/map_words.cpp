@@ -53,7 +53,11 @@ std::string bestWords(const MapResult& result, MapOutcome shown) {
     if (!best)
         return "Nothing on this map can be flown.";
     const MapOutcome by = shown == MapOutcome::Total ? MapOutcome::Total : MapOutcome::Carry;
-    return "Best on this map: " + words(by, figureOf(best->flight.figures, by)) +
+    const std::string what =
+        result.request.kind == MapKind::Launch
+            ? "Best for a ball of " + grouped(result.base->LaunchSpeed, 1) + " mph: "
+            : "Best on this map: ";
+    return what + words(by, figureOf(best->flight.figures, by)) +
            (by == MapOutcome::Total ? " in all" : " of carry") + " at " +
            pointWords(result.request.kind, best->point) +
            (best->atEdge ? ", at the edge: a wider range may hold a better one." : ".");
@@ -66,8 +70,8 @@ std::string reachWords(const MapResult& result) {
     const auto figure = [](const LoftBest& best, MapOutcome outcome) {
         return words(outcome, figureOf(best.flight.figures, outcome));
     };
-    std::string text = " This swing (" + grouped(result.base->HeadSpeed, 0) +
-                       " mph) carries at most " + figure(*reach.carry, MapOutcome::Carry) +
+    std::string text = " The swing of " + grouped(result.base->HeadSpeed, 1) +
+                       " mph carries at most " + figure(*reach.carry, MapOutcome::Carry) +
                        ", with " + loftWords(reach.carry->loft) + " degrees of loft";
     if (reach.lowestGood < reach.highestGood)
         text += "; " + loftWords(reach.lowestGood) + " to " + loftWords(reach.highestGood) +
@@ -103,6 +107,11 @@ std::string presentWords(const MapResult& result, MapOutcome shown) {
 
 std::string words(const MapInput& input, double value) {
     return withUnit(grouped(value, decimalsOf(input.grain)), input.unit);
+}
+
+std::string wordsOfStep(const MapInput& input) {
+    const int decimals = input.step == std::floor(input.step) ? 0 : decimalsOf(input.grain);
+    return "\u00b1" + withUnit(grouped(input.step, decimals), input.unit);
 }
 
 std::string words(MapOutcome outcome, double value) {

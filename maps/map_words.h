@@ -10,6 +10,8 @@ namespace parabolt {
 std::string words(const MapInput& input, double value);
 /// A figure with its unit: "241.2 yd", "38.4°".
 std::string words(MapOutcome outcome, double value);
+/// The step of an input: "±200 rpm".
+std::string wordsOfStep(const MapInput& input);
 /// A change of the carry: "+1.2", "-0.4", "0.0"; a dash where there is none.
 std::string wordsOfGain(const std::optional<double>& yards);
 /// Name and unit: "Launch angle, °".

@@ -45,8 +45,11 @@ public:
     }
 };
 
-std::string step(const StepEffect& effect) {
-    return "\u00b1" + words(*effect.input, effect.input->step);
+/// What explains the colour of a bar.
+QPixmap swatch(QColor colour) {
+    QPixmap square(10, 10);
+    square.fill(colour);
+    return square;
 }
 
 } // namespace
@@ -68,7 +71,7 @@ int MapStepsModel::columnCount(const QModelIndex& parent) const {
 QVariant MapStepsModel::textOf(const StepEffect& effect, int column) const {
     switch (column) {
     case Input:
-        return toQt(std::string(effect.input->name) + " " + step(effect));
+        return toQt(std::string(effect.input->name) + " " + wordsOfStep(*effect.input));
     case Less:
         return toQt(wordsOfGain(effect.less));
     case More:
@@ -107,9 +110,9 @@ QVariant MapStepsModel::headerData(int section, Qt::Orientation orientation, int
     if (orientation != Qt::Horizontal)
         return {};
     if (role == Qt::DisplayRole)
-        return QStringList{"Step", "Down, yd", "Up, yd", ""}.at(section);
-    if (role == Qt::ForegroundRole && section == Less)
-        return kLessColour;
+        return QStringList{"One step of", "Down, yd", "Up, yd", ""}.at(section);
+    if (role == Qt::DecorationRole && (section == Less || section == More))
+        return swatch(section == Less ? kLessColour : kMoreColour);
     return {};
 }
 
@@ -124,6 +127,7 @@ MapStepsView::MapStepsView(QWidget* parent) : QTableView(parent) {
     setShowGrid(false);
     setTabKeyNavigation(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -132,9 +136,15 @@ MapStepsView::MapStepsView(QWidget* parent) : QTableView(parent) {
     horizontalHeader()->setSectionsClickable(false);
 }
 
+void MapStepsView::show(const std::vector<StepEffect>& effects) {
+    model_.show(effects);
+    updateGeometry();
+}
+
 QSize MapStepsView::sizeHint() const {
-    const int line = fontMetrics().height();
-    return {24 * line, 22 * line};
+    const int rows = std::max(model_.rowCount(), 1);
+    return {27 * fontMetrics().height(),
+            horizontalHeader()->sizeHint().height() + rows * rowHeight(0) + 2 * frameWidth()};
 }
 
 } // namespace parabolt

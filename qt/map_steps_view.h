@@ -36,7 +36,7 @@ class MapStepsView : public QTableView {
 public:
     explicit MapStepsView(QWidget* parent = nullptr);
 
-    void show(const std::vector<StepEffect>& effects) { model_.show(effects); }
+    void show(const std::vector<StepEffect>& effects);
     QSize sizeHint() const override;
     using QWidget::show;
 

@@ -26,6 +26,13 @@ namespace parabolt {
 namespace {
 
 constexpr QSize kStartSize{1180, 760};
+constexpr auto kDoubleNote = "Wind and altitude count about double in this model.";
+constexpr auto kKey = "<p><b>Key</b><br>"
+                      "Cross: the best point. Outline around it: less than 1 yard behind.<br>"
+                      "Line with dots: what this swing reaches, by degrees of loft.<br>"
+                      "Ring: the present setting.<br>"
+                      "Discs: the data sets, by number and colour.<br>"
+                      "Grey: no value; the text under the map says why.</p>";
 
 QAction* menuAction(QMenu* menu, const QString& name, const QString& text,
                     const QKeySequence& key) {
@@ -200,10 +207,13 @@ QWidget* MapWindow::stepsPanel() {
     auto* title = new QLabel("What one step changes in the &carry");
     title->setBuddy(steps_);
     rows->addWidget(title);
-    rows->addWidget(steps_, 1);
-    auto* note = new QLabel("Wind and altitude count about double in this model.");
-    note->setWordWrap(true);
-    rows->addWidget(note);
+    rows->addWidget(steps_);
+    for (const char* text : {kDoubleNote, kKey}) {
+        auto* note = new QLabel(text);
+        note->setWordWrap(true);
+        rows->addWidget(note);
+    }
+    rows->addStretch();
     panel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     return panel;
 }
@@ -264,9 +274,9 @@ void MapWindow::showReadout() {
 void MapWindow::showRanges() {
     const MapRanges& ranges = map_.ranges();
     const auto showAxis = [](const AxisFields& fields, const MapInput& input, const MapAxis& axis) {
-        const int decimals = input.grain < 1 ? 2 : 0;
+        const int decimals = input.grain < 1 ? 1 : 0;
         const auto name = toQt(std::string(input.name));
-        fields.name->setText(toQt(heading(input)) + " from");
+        fields.name->setText(toQt(heading(input)) + ", from");
         fields.name->setBuddy(fields.first);
         const std::tuple<QDoubleSpinBox*, const char*, double, double, double> boxes[] = {
             {fields.first, " from", input.lowest, input.highest, axis.first},
