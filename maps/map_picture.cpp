@@ -42,6 +42,10 @@ std::string label(double value) {
     return shortestText(store32(value));
 }
 
+double distance(Place one, Place other) {
+    return std::hypot(one.x - other.x, one.y - other.y);
+}
+
 /// Puts a map on its canvas, from the ground up.
 class Drawer {
 public:
@@ -117,6 +121,26 @@ private:
         return roundValues(scale_->low, scale_->high, scale_->step);
     }
 
+    /// Puts the number on the longest of the lines, at a point that is free of others.
+    void labelContour(const std::vector<Contour>& lines, std::string text, Rgb ink, Rgb halo) {
+        constexpr double kApart = 550; // twips
+        const auto longest =
+            std::max_element(lines.begin(), lines.end(), [](const auto& one, const auto& other) {
+                return one.size() < other.size();
+            });
+        if (longest == lines.end() || longest->size() < 4)
+            return;
+        for (const std::size_t eighths : {4U, 3U, 5U, 2U, 6U}) {
+            const Place at = frame_.place((*longest)[longest->size() * eighths / 8]);
+            if (std::all_of(labels_.begin(), labels_.end(), [&](const DrawnText& other) {
+                    return distance(other.place, at) >= kApart;
+                })) {
+                labels_.push_back({at, std::move(text), ink, kMiddle, halo});
+                return;
+            }
+        }
+    }
+
     void contours() {
         for (const double level : levels()) {
             const Rgb colour = scale_->colour(level);
@@ -125,13 +149,7 @@ private:
             pen(ink);
             for (const Contour& line : lines)
                 curve(line);
-            const auto longest = std::max_element(
-                lines.begin(), lines.end(),
-                [](const auto& one, const auto& other) { return one.size() < other.size(); });
-            if (longest == lines.end() || longest->size() < 4)
-                continue;
-            labels_.push_back({frame_.place((*longest)[longest->size() / 2]), label(level), ink,
-                               kMiddle, colour});
+            labelContour(lines, label(level), ink, colour);
         }
         for (const DrawnText& text : labels_) {
             pen(text.colour);
@@ -225,23 +243,36 @@ private:
         loftMarks(kind);
     }
 
-    /// Dots at whole degrees, with a number where there is room.
+    /// Dots at whole degrees of loft, with numbers: each, or each second, fifth ... as there is
+    /// room.
     void loftMarks(MapKind kind) {
-        constexpr double kApart = 360; // twips between numbers
-        std::optional<Place> last;
+        constexpr double kDotsApart = 110; // twips
+        constexpr double kNumbersApart = 360;
+        std::vector<std::pair<int, Place>> degrees;
+        double closest = kNumbersApart;
         for (const ReachNode& node : result_.reach.nodes) {
             const MapPoint point = pointOf(kind, node.shot);
             if (!frame_.holds(point) || node.loft != std::floor(node.loft))
                 continue;
             const Place at = frame_.place(point);
-            disc(at, kDotRadius, kWhite, kBlack);
-            if (last && std::hypot(at.x - last->x, at.y - last->y) < kApart)
-                continue;
-            last = at;
-            pen(kBlack);
-            canvas_.label({at.x + 2 * kTextGap, at.y + kTextGap}, label(node.loft), {0, 0.2},
-                          kWhite);
+            if (!degrees.empty())
+                closest = std::min(closest, distance(at, degrees.back().second));
+            degrees.emplace_back(static_cast<int>(node.loft), at);
         }
+        const auto every = [closest](double apart) {
+            return static_cast<int>(std::max(roundStep(apart / closest, 1), 1.0));
+        };
+        for (const auto& [degree, at] : degrees) {
+            if (degree % every(kDotsApart) == 0)
+                disc(at, kDotRadius, kWhite, kBlack);
+            // A map of lofts has the numbers on its axis.
+            if (kind == MapKind::Launch && degree % every(kNumbersApart) == 0)
+                name({at.x + 2 * kTextGap, at.y + kTextGap}, std::to_string(degree), {0, 0.2});
+        }
+        bestLoft(kind);
+    }
+
+    void bestLoft(MapKind kind) {
         const auto& best = shown_ == MapOutcome::Total ? result_.reach.total : result_.reach.carry;
         if (!best)
             return;

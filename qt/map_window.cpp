@@ -276,7 +276,7 @@ void MapWindow::showRanges() {
     const auto showAxis = [](const AxisFields& fields, const MapInput& input, const MapAxis& axis) {
         const int decimals = input.grain < 1 ? 1 : 0;
         const auto name = toQt(std::string(input.name));
-        fields.name->setText(toQt(heading(input)) + ", from");
+        fields.name->setText(name + " (" + toQt(std::string(input.unit)) + ") from");
         fields.name->setBuddy(fields.first);
         const std::tuple<QDoubleSpinBox*, const char*, double, double, double> boxes[] = {
             {fields.first, " from", input.lowest, input.highest, axis.first},
