@@ -1,25 +1,32 @@
 #include "bench/bare_loop.h"
+#include "engine/lanes.h"
+#include "engine/many_flights.h"
+#include "numbers/rounding.h"
 #include "shots/fly.h"
 
+#include <atomic>
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <cstdlib>
 #include <new>
+#include <random>
+#include <string>
 
 namespace {
-std::size_t allocations = 0; ///< since the start of the process
+std::atomic<std::size_t> allocations = 0; ///< since the start of the process
 }
 
-void* operator new(std::size_t size) {
+// Not inlined: gcc then takes each allocation and its release for a pair that doesn't match.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     ++allocations;
     if (void* memory = std::malloc(size > 0 ? size : 1))
         return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t /*size*/) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept {
     std::free(memory);
 }
 
@@ -39,6 +46,8 @@ void bareLoop(benchmark::State& state) {
         benchmark::DoNotOptimize(bench::bareCarry(shot));
     }
 }
+
+constexpr std::size_t kManyShots = 2000;
 
 void carry(benchmark::State& state) {
     ShotState shot = driver();
@@ -65,9 +74,58 @@ void flight(benchmark::State& state) {
     state.counters["steps"] = static_cast<double>(points - 1);
 }
 
+/// Launches of all clubs in any weather.
+std::vector<ShotState> clubShots(std::size_t count) {
+    std::mt19937 random(1);
+    const auto draw = [&](double from, double to) {
+        return store32(std::uniform_real_distribution(from, to)(random));
+    };
+    std::vector<ShotState> shots;
+    while (shots.size() < count) {
+        Shot shot;
+        shot.LaunchAngle = draw(8, 25);
+        shot.RPM = draw(2000, 9000);
+        shot.LaunchSpeed = draw(80, 168);
+        shot.WindSpeed = draw(-15, 15);
+        shot.Temperature = draw(40, 100);
+        shots.push_back(*prepare(shot));
+    }
+    return shots;
+}
+
+/// The yardstick of many flights: those of the lanes below by the bare loop.
+void bareMany(benchmark::State& state) {
+    const auto shots = clubShots(kManyShots);
+    for (auto _ : state)
+        for (const ShotState& shot : shots)
+            benchmark::DoNotOptimize(bench::bareCarry(bench::bareShot(shot)));
+    state.counters["flights"] = static_cast<double>(kManyShots);
+}
+
+void many(benchmark::State& state, FlightMeans means, std::size_t count) {
+    const auto shots = clubShots(count);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(SimulateFlights(shots, {}, means).data());
+    state.counters["flights"] = static_cast<double>(count);
+}
+
 BENCHMARK(bareLoop);
 BENCHMARK(carry);
 BENCHMARK(flight);
+BENCHMARK(bareMany)->Unit(benchmark::kMillisecond);
+
+void registerManyFlights() {
+    const auto add = [](const std::string& name, FlightMeans means, std::size_t count) {
+        auto* row = benchmark::RegisterBenchmark(name.c_str(), many, means, count);
+        row->Unit(benchmark::kMillisecond);
+        if (means.threads > 1)
+            row->UseRealTime();
+    };
+    for (const LaneWay& way : laneWays())
+        add(std::string("many/") + way.name, {&way, 1}, kManyShots);
+    add("many/threads", {bestFlightMeans().lanes, 2}, kManyShots);
+    add("map", bestFlightMeans(), 12000);
+}
 
 } // namespace
 
@@ -78,6 +136,7 @@ int main(int argc, char** argv) {
         std::fputs("The bare loop and the engine disagree.\n", stderr);
         return EXIT_FAILURE;
     }
+    registerManyFlights();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return EXIT_SUCCESS;

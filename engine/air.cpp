@@ -10,29 +10,35 @@
 namespace parabolt {
 namespace {
 
-// Pressure law of the standard atmosphere.
-constexpr double kSeaLevelKelvin = 288;
-constexpr double kLapsePerFoot = 0.0019812;  ///< kelvin
-constexpr double kPressureExponent = 5.2561; ///< g M / (R L)
+// Pressure over the altitude: the law of the standard atmosphere (U.S. Standard Atmosphere, 1976),
+// whose own digits are 288.15 K and 5.2559.
+constexpr double kSeaLevelKelvin = 288;      ///< K, temperature at sea level whatever the weather
+constexpr double kLapsePerFoot = 0.0019812;  ///< K/ft, fall of the temperature: 6.5 K per kilometre
+constexpr double kPressureExponent = 5.2561; ///< no unit, g M / (R L): how fast the pressure falls
 
-// Sutherland's law in slugs, feet and Rankine; the last constant brings slug/(ft s) to Pa s.
-constexpr double kSutherlandFactor = 0.0226968;
-constexpr double kSutherlandRankine = 198.72;
-constexpr double kSutherlandToPascalSeconds = 20885.52343;
-constexpr double kRankineAtZeroFahrenheit = 460;
+// Viscosity: W. Sutherland's law (Philosophical Magazine 36, 1893) with the factor and the
+// temperature of the U.S. Standard Atmosphere, 1976, in 1e-6 slug/(ft s) and Rankine.
+constexpr double kSutherlandFactor = 0.0226968; ///< 1e-6 slug/(ft s R^0.5), scales the viscosity
+constexpr double kSutherlandRankine = 198.72;   ///< R, how the viscosity bends with temperature
+constexpr double kSutherlandToPascalSeconds = 20885.52343; ///< 1e-6 slug/(ft s) in one Pa s
+constexpr double kRankineAtZeroFahrenheit = 460;           ///< R, by definition 459.67
 
-constexpr double kKelvinAtZeroCelsius = 273; ///< the model's zero, not 273.15
-constexpr double kInchesPerHectopascal = 0.02953;
-constexpr double kVapourShare =
-    0.378; ///< 1 less the ratio of the molar masses of water and dry air
-constexpr double kGasConstantDryAir = 287; ///< J/(kg K)
+// Density: the gas law with the virtual temperature, as in any textbook of meteorology.
+constexpr double kKelvinAtZeroCelsius = 273;      ///< K, by definition 273.15
+constexpr double kInchesPerHectopascal = 0.02953; ///< inHg/hPa, of mercury at 0 C
+constexpr double kVapourShare = 0.378; ///< no unit, 1 less the molar mass of water over dry air's
+constexpr double kGasConstantDryAir = 287; ///< J/(kg K), in tables 287.05
+
+// Saturation over water: Magnus' formula after O. Tetens (Zeitschrift fuer Geophysik 6, 1930), who
+// has 237.3; 237.7 is in wide use, and where it comes from isn't known here.
+constexpr double kSaturationAtZero = 6.11; ///< hPa, at 0 C
+constexpr double kMagnusFactor = 7.5;      ///< no unit, how the saturation grows
+constexpr double kMagnusCelsius = 237.7;   ///< C, how the growth bends
 
 /// Saturation vapour pressure over water in hectopascals, temperature in Celsius.
 double saturationPressure(double celsius) {
-    constexpr double kAtZero = 6.11; // hectopascals; and the two parameters of Magnus' formula
-    constexpr double kMagnusFactor = 7.5;
-    constexpr double kMagnusCelsius = 237.7;
-    return kAtZero * std::pow(10.0, (kMagnusFactor * celsius) / (celsius + kMagnusCelsius));
+    return kSaturationAtZero *
+           std::pow(10.0, (kMagnusFactor * celsius) / (celsius + kMagnusCelsius));
 }
 
 } // namespace

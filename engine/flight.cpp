@@ -4,15 +4,13 @@
 #include "engine/landing.h"
 #include "engine/vector_state.h"
 
-#include <limits>
-
 namespace parabolt {
 namespace {
 
 /// How a flight went on as far as it went.
 struct Flown {
-    FlightState ball; ///< behind the last step
-    bool landed;      ///< false if that step had no result, or `onStep` ended the flight
+    FlightState ball;    ///< behind the last step
+    bool landed = false; ///< false if that step had no result, or `onStep` ended the flight
 };
 
 /// Flies the ball down to the first step below the ground and hands each completed step to
@@ -47,7 +45,6 @@ Fault diagnose(const ShotState& shot) {
 } // namespace
 
 Outcome<void, Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, RunRecord& record) {
-    constexpr int kMostSteps = std::numeric_limits<std::int16_t>::max();
     constexpr std::size_t kUsualSteps = 1024; // about ten seconds, longer than nearly all shots
     record.Path.clear();
     record.Path.reserve(kUsualSteps);
@@ -69,20 +66,9 @@ Outcome<void, Fault> SimulateFlight(const ShotState& shot, const RunTags& tags, 
 }
 
 float SimulateCarry(const ShotState& shot) {
-    // A ball so high and fast that its weight is lost in the rounding never comes down: its states
-    // repeat themselves. Each is compared with one that is kept for a while.
-    constexpr unsigned kStepsKept = 1U << 15;
-    FlightState kept;
-    unsigned steps = 0;
-    const auto goesOn = [&](const FlightState& now) {
-        if (++steps % kStepsKept == 0) {
-            kept = now;
-            return true;
-        }
-        return now.x != kept.x || now.y != kept.y || now.vx != kept.vx || now.vy != kept.vy ||
-               now.w != kept.w;
-    };
-    const auto [ball, landed] = fly(launchState(shot), flightAir(shot), goesOn);
+    int steps = 0;
+    const auto [ball, landed] = fly(launchState(shot), flightAir(shot),
+                                    [&](const FlightState&) { return ++steps != kMostCarrySteps; });
     return landed ? store32(double{ball.x} * kYardsPerMetre) : 0;
 }
 

@@ -8,16 +8,20 @@
 namespace parabolt {
 namespace {
 
-constexpr double kDegreesPerRadian = 57.3;
-constexpr double kSpinFactor = 2.6; ///< rpm per degree of loft and mph of head speed
-/// Mass of the ball at impact in grams, a 32-bit value; the flight has a mass of its own.
-constexpr double kBallGrams = 45.926998138427734;
-/// Share of the shaft and the hands that moves with the head.
-constexpr double kHeadMassFactor = 1.05;
+constexpr double kDegreesPerRadian = 57.3; ///< degrees/rad, rounded from 180 / pi
 
-/// Fit of the launch angle to the dynamic loft, both in degrees.
-constexpr double kAnglePerLoft = 0.94275742;
-constexpr double kAnglePerLoftSquared = 0.0065321932;
+// Spin and angle are linear and quadratic fits to the dynamic loft. They are the model's own: no
+// publication is known for them.
+constexpr double kSpinFactor = 2.6;          ///< rpm per degree of loft and mph of head speed
+constexpr double kAnglePerLoft = 0.94275742; ///< no unit, launch angle per degree of loft
+constexpr double kAnglePerLoftSquared = 0.0065321932; ///< 1/degree, what steep lofts lose of it
+
+// Speed: the collision of two free bodies, in textbooks such as C. B. Daish, The Physics of Ball
+// Games, 1972.
+/// g, the ball at impact: 1.62 ounces, the most that the rules of golf allow, in 32 bits. The
+/// flight has a mass of its own.
+constexpr double kBallGrams = 45.926998138427734;
+constexpr double kHeadMassFactor = 1.05; ///< no unit, adds what moves with the head; no publication
 
 double cosDegrees(double angle) {
     return std::cos(angle / kDegreesPerRadian);
@@ -41,8 +45,8 @@ void takeClub(ShotState& shot, const ImpactSources& sources) {
 Outcome<void, Fault> GetLoftAngle(ShotState& shot, const ImpactSources& sources) {
     takeClub(shot, sources);
 
-    // Spin and angle come from the dynamic loft by a linear and a quadratic fit; the speed from the
-    // conservation of momentum along the line of impact with the coefficient of restitution.
+    // The speed follows from the momentum along the line of play and from the restitution along the
+    // normal of the face.
     const FaultWatch watch;
     const float loft = store32(double{shot.Bending} + shot.LoftAngle);
     const float spinPerDegree = store32((shot.Slope1 + kSpinFactor) * shot.HeadSpeed);

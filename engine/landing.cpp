@@ -8,17 +8,18 @@
 namespace parabolt {
 namespace {
 
-constexpr double kSecondsPerMinute = 60;
+constexpr double kSecondsPerMinute = 60; ///< s/min, brings the spin to rpm
 
 // Two divisors that differ in the seventh digit: the shown spin and the roll keep their own.
-constexpr float kRadiansPerTurnShown = 6.28318F;
-constexpr double kRadiansPerTurnRoll = 6.28318;
+constexpr float kRadiansPerTurnShown = 6.28318F; ///< rad, of the shown spin; 2 pi is 6.283185
+constexpr double kRadiansPerTurnRoll = 6.28318;  ///< rad, of the spin in the roll
 
-// Fit of the roll in yards: what the horizontal speed in mph brings, and what the spin in rpm takes
-// for each mph of descent.
-constexpr double kRollPerSpeedSquared = 0.0013;
-constexpr double kRollPerSpeed = 0.144;
-constexpr double kRollPerSpinAndDescent = 2.17e-05;
+// Roll in yards: a fit of the model's own for a green, for which no publication is known.
+constexpr double kRollPerSpeedSquared = 0.0013;     ///< yd/mph^2, what the horizontal speed brings
+constexpr double kRollPerSpeed = 0.144;             ///< yd/mph, the same, in proportion
+constexpr double kRollPerSpinAndDescent = 2.17e-05; ///< yd/(rpm mph), what spin takes in descent
+
+constexpr float kFeetPerYard = 3; ///< ft/yd, by definition
 
 } // namespace
 
@@ -31,22 +32,30 @@ float greenRoll(const FlightState& landing) {
                    (spin * kRollPerSpinAndDescent) * descent);
 }
 
-Outcome<void, Fault> recordLanding(const FlightState& landing, const ShotState& shot,
-                                   const RunTags& tags, RunRecord& record) {
-    constexpr float kFeetPerYard = 3;
-    const float roll = store32(double{greenRoll(landing)} * kFeetPerYard);
-    const float spin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown);
-    const float speed = store32(landing.vx / kMetresPerSecondPerMph);
-    const float carry = store32(double{landing.x} * kYardsPerMetre);
-    for (const float value : {roll, spin, speed, carry})
+Outcome<LandingFigures, Fault> landingFigures(const FlightState& landing) {
+    const LandingFigures figures{
+        .carry = store32(double{landing.x} * kYardsPerMetre),
+        .roll = store32(double{greenRoll(landing)} * kFeetPerYard),
+        .spin = store32((landing.w * kSecondsPerMinute) / kRadiansPerTurnShown),
+        .speed = store32(landing.vx / kMetresPerSecondPerMph),
+    };
+    for (const float value : {figures.carry, figures.roll, figures.spin, figures.speed})
         if (!std::isfinite(value)) // the landing was finite: it is too large for its width
             return because(Fault::Overflow);
+    return figures;
+}
+
+Outcome<void, Fault> recordLanding(const FlightState& landing, const ShotState& shot,
+                                   const RunTags& tags, RunRecord& record) {
+    const auto figures = landingFigures(landing);
+    if (!figures)
+        return because(figures.why());
 
     record.CarryTime = landing.t;
-    record.ImpactSpin = spin;
-    record.ImpactSpeed = speed;
-    record.GreenRoll = roll;
-    record.CarryDist = carry;
+    record.ImpactSpin = figures->spin;
+    record.ImpactSpeed = figures->speed;
+    record.GreenRoll = figures->roll;
+    record.CarryDist = figures->carry;
     record.LaunchAngle = shot.LaunchAngle;
     record.RPM = shot.RPM;
     record.LaunchSpeed = shot.LaunchSpeed;

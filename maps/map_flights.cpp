@@ -14,12 +14,10 @@ double overshootOf(const TrajectoryPoint& before, const TrajectoryPoint& landing
     return (double{landing.x} - before.x) * landing.y / (double{landing.y} - before.y);
 }
 
-MapCell flyOne(const Shot& shot) {
-    const auto flown = fly(shot);
-    if (!flown)
-        return because(flown.why().fault);
-    const auto& path = flown->record.Path;
-    return MapFlight{figuresOf(flown->record), overshootOf(path[path.size() - 2], path.back())};
+MapCell cellOf(const FlightOutcome& flight) {
+    if (flight.fault)
+        return because(*flight.fault);
+    return MapFlight{figuresOf(flight), overshootOf(flight.beforeLanding, flight.landing)};
 }
 
 } // namespace
@@ -66,13 +64,21 @@ double smoothFigure(const MapFlight& flight, MapOutcome outcome) {
 }
 
 std::vector<MapCell> flyAll(std::span<const Shot> shots, const std::stop_token& stop) {
+    std::vector<Outcome<ShotState, Fault>> prepared;
+    std::vector<ShotState> states; // of those that have air and launch
+    prepared.reserve(shots.size());
+    states.reserve(shots.size());
+    for (const Shot& shot : shots)
+        if (const auto& state = prepared.emplace_back(prepare(shot)))
+            states.push_back(*state);
+    const auto flights = SimulateFlights(states, stop);
+    if (flights.size() != states.size())
+        return {};
     std::vector<MapCell> cells;
     cells.reserve(shots.size());
-    for (const Shot& shot : shots) {
-        if (stop.stop_requested())
-            return {};
-        cells.push_back(flyOne(shot));
-    }
+    auto flight = flights.begin();
+    for (const auto& state : prepared)
+        cells.push_back(state ? cellOf(*flight++) : MapCell(because(state.why())));
     return cells;
 }
 

@@ -1,8 +1,15 @@
 #pragma once
 
+#include <cfloat>
 #include <cmath>
 #include <limits>
 #include <optional>
+
+// The same bits on every machine ask for formulas that are computed as written, in their own width.
+#ifdef __FAST_MATH__
+#error "Fast-math options change the numbers of a flight: build without them."
+#endif
+static_assert(FLT_EVAL_METHOD == 0, "intermediate results must not be wider than their type");
 
 namespace parabolt {
 

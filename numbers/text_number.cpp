@@ -171,9 +171,9 @@ std::string formatPattern(double value, std::string_view pattern) {
     const auto decimals =
         point == std::string_view::npos ? 0 : static_cast<int>(pattern.size() - point - 1);
     std::array<char, 400> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
-                                   std::chars_format::fixed, decimals)
-                         .ptr;
+    auto* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
+                                    std::chars_format::fixed, decimals)
+                          .ptr;
     std::string text(buffer.data(), end);
     if (point == 0 && text.starts_with("0."))
         text.erase(0, 1);

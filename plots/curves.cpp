@@ -22,7 +22,7 @@ void drawLegendEntry(PictureBox& outer, std::size_t number, const RunRecord& run
 
 Outcome<void, std::string_view> drawAll(const PlotCanvases& plot, std::span<const RunRecord> runs,
                                         Rgb legendGround, Rgb restColour) {
-    auto& [outer, inner] = plot;
+    const auto& [outer, inner] = plot;
     for (std::size_t i = 1; i < runs.size(); ++i) {
         const RunRecord& run = runs[i];
         inner.setForeColor(run.CurveColor);

@@ -11,8 +11,8 @@ namespace {
 /// In what the screen's frame and the printed one differ.
 struct FrameStyle {
     std::optional<Rgb> innerForeColor; ///< of the grid; nothing to leave the canvas's own
-    bool grid;
-    float heightTicksFrom; ///< start of the height ticks above the inner canvas's foot, twips
+    bool grid = false;
+    float heightTicksFrom = 0; ///< start of the height ticks above the inner canvas's foot, twips
 };
 
 constexpr Rgb kGridGrey{80, 80, 80};
@@ -25,7 +25,7 @@ std::string axisLabel(double value) {
 }
 
 void drawFrame(const PlotCanvases& plot, float range, const FrameStyle& style) {
-    auto& [outer, inner] = plot;
+    const auto& [outer, inner] = plot;
     outer.cls();
     inner.cls();
     const float width = store32(inner.geometry().width);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "engine/shot_state.h"
+#include "engine/many_flights.h"
 
 namespace parabolt {
 
-/// What follows from a flight, for people. All in 64 bits, from the 32-bit values of the record.
+/// What follows from a flight, for people. All in 64 bits, from the 32-bit values of the flight.
 ///
 ///     type    member        unit     range    meaning
 struct Figures {
@@ -18,7 +18,8 @@ struct Figures {
     double time = 0;         ///< seconds, from 0   in the air
 };
 
-/// The figures of a complete flight; all zero for a record whose flight failed.
+/// The figures of a flight; all zero for one that failed.
+Figures figuresOf(const FlightOutcome& flight);
 Figures figuresOf(const RunRecord& record);
 
 } // namespace parabolt

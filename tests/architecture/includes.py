@@ -30,7 +30,7 @@ MAY_SEE = {
     "shell": LOGIC | {"mainform", "run"},
     "qt": LOGIC | {"mainform", "run", "shell"},
     # Around the program.
-    "docs": {"shots"},
+    "docs": {"engine", "shots"},
     "fuzz": LOGIC | {"mainform", "run", "shell", "qt"},
     "bench": LOGIC | {"mainform", "run", "shell", "qt"},
 }

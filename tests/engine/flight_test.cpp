@@ -134,6 +134,14 @@ TEST(Flight, StopsAtTheLastStepThatARecordCounts) {
     EXPECT_GT(SimulateCarry(airless(1700, 89)), record.Path.back().x);
 }
 
+// With this exponent, which only a file can bring, the ball rises for ever and turns about in each
+// step, and none of its states repeats another.
+TEST(Flight, EndsForABallThatNeverComesDown) {
+    const Shot shot = with(mildShot(227, 43, 7700), 28, -0.3F);
+    EXPECT_EQ(SimulateCarry(*prepare(shot)), 0);
+    EXPECT_EQ(flightOf(shot).fault, Fault::TooManySteps);
+}
+
 // Whatever a file puts into a shot: both kinds of flight end, and say the same to the last bit.
 TEST(Flight, BothKindsEndAndAgree) {
     constexpr float kInf = std::numeric_limits<float>::infinity();

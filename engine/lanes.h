@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace parabolt {
+
+inline constexpr std::size_t kMostLanes = 24; ///< of any processor: three vectors of eight
+
+/// Balls in flight beside each other; members as in `FlightState`.
+struct alignas(64) LaneBalls {
+    float x[kMostLanes];
+    float y[kMostLanes];
+    float vx[kMostLanes];
+    float vy[kMostLanes];
+    float w[kMostLanes];
+    float theta[kMostLanes];
+};
+
+/// All that the lanes compute with. The air is that of `FlightAir`.
+struct alignas(64) Lanes {
+    double liftExponent[kMostLanes]; ///< above 0, at most `kMostLaneExponent`
+    float density[kMostLanes];
+    float viscosity[kMostLanes];
+    float headWind[kMostLanes];
+    float t[kMostLanes];    ///< seconds since the launch
+    float topX[kMostLanes]; ///< yards, of the first of the highest points before the last step
+    float topY[kMostLanes];
+    LaneBalls balls[2]; ///< behind the last step and before it, by turns
+    std::size_t turn;
+    std::uint32_t
+        unsure; ///< a bit for each lane whose last step has to be done again, by `advance`
+
+    LaneBalls& now() { return balls[turn]; }
+    LaneBalls& before() { return balls[1 - turn]; }
+};
+
+/// A launch outside of these isn't for the lanes: their error bound holds only inside.
+inline constexpr double kMostLaneExponent = 1;
+inline constexpr float kMostLaneAngle = 1.6F; ///< radians, up and down
+
+/// One kind of vectors that this processor has.
+struct LaneWay {
+    const char* name;  ///< of the instruction set
+    std::size_t lanes; ///< those that it computes, from 0 on
+    /// Takes all lanes on by the same number of steps, at most `most`, and gives that number. Ends
+    /// early behind a step after which a lane is unsure, below the ground or perhaps without a
+    /// result.
+    int (*flyOn)(Lanes& lanes, int most);
+};
+
+/// The fastest one first; none on a processor without vectors.
+const std::vector<LaneWay>& laneWays();
+
+} // namespace parabolt
