@@ -72,6 +72,14 @@ void PictureBox::print(Place place, std::string text) {
     add(DrawnText{place, std::move(text), foreColor_});
 }
 
+void PictureBox::label(Place place, std::string text, Place anchor, std::optional<Rgb> halo) {
+    add(DrawnText{place, std::move(text), foreColor_, anchor, halo});
+}
+
+void PictureBox::image(Place corner, Place size, int columns, std::vector<Rgb> pixels) {
+    add(DrawnImage{corner, size, columns, std::move(pixels)});
+}
+
 void PictureBox::add(Drawing drawing) {
     const auto earlier = std::find(drawings_.begin(), drawings_.end(), drawing);
     if (earlier != drawings_.end())

@@ -49,6 +49,15 @@ void QtFileDialog::show(bool save) {
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
 
+    if (!suggestedName.empty()) {
+        const auto addEndingOf = [&dialog](const QString& shown) {
+            dialog.setDefaultSuffix(shown.section("*.", -1).chopped(1));
+        };
+        dialog.selectFile(toQt(suggestedName));
+        addEndingOf(dialog.selectedNameFilter());
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, addEndingOf);
+    }
+
     const QStringList files =
         dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
     const QFileInfo file(files.value(0));

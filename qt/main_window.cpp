@@ -141,6 +141,8 @@ void MainWindow::buildMenus() {
     QMenu* studies = addMenu(form.mnuStudies);
     add(studies, form.mnuStyLaunch);
     add(studies, form.mnuStySpin);
+    studies->addSeparator();
+    add(studies, form.mnuStyMap, Qt::CTRL | Qt::Key_M);
     add(menuBar(), form.mnuReset, Qt::CTRL | Qt::Key_R);
     QMenu* help = addMenu(form.Help);
     add(help, form.mnuHelp, Qt::Key_F1);

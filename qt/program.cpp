@@ -2,6 +2,7 @@
 
 #include "clubs/frm_club_params.h"
 #include "qt/club_editor_window.h"
+#include "qt/map_window.h"
 #include "qt/print_view_window.h"
 #include "qt/splash_window.h"
 #include "qt/text.h"
@@ -29,7 +30,8 @@ void execute(QDialog& dialog) {
 } // namespace
 
 Program::Program()
-    : logic_({messages_, fileDialog_, preferences_, desktop_, events_, applicationFolder()}) {
+    : services_{messages_, fileDialog_, preferences_, desktop_, events_, applicationFolder()},
+      logic_(services_) {
     QApplication::setApplicationName(toQt(kApplicationTitle));
     QApplication::setApplicationVersion(toQt(kVersion));
     QApplication::setDesktopFileName("parabolt");
@@ -39,6 +41,7 @@ Program::Program()
 
     logic_.showClubEditor = [this] { showClubEditor(); };
     logic_.showPrintView = [this] { showPrintView(); };
+    logic_.showCarryMap = [this] { showCarryMap(); };
     logic_.showAbout = [this] { showAbout(); };
     logic_.endProgram = [this] {
         logic_.pause.stop();
@@ -78,6 +81,14 @@ void Program::showPrintView() {
     PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
     execute(window);
+}
+
+void Program::showCarryMap() {
+    if (!mapWindow_)
+        mapWindow_ = std::make_unique<MapWindow>(logic_, services_);
+    mapWindow_->show();
+    mapWindow_->raise();
+    mapWindow_->activateWindow();
 }
 
 void Program::showAbout() {

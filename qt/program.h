@@ -13,6 +13,7 @@
 
 namespace parabolt {
 
+class MapWindow;
 class SplashWindow;
 
 /// The whole program: the services of this platform, the main form on them, and the windows that it
@@ -33,6 +34,7 @@ public:
 private:
     void showClubEditor();
     void showPrintView();
+    void showCarryMap();
     void showAbout();
 
     QtMessageBoxes messages_;
@@ -41,8 +43,10 @@ private:
     QtDesktop desktop_;
     QtEventLoop events_;
     QtPrinter printer_;
+    FormServices services_;
     frmMain logic_;
     std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<MapWindow> mapWindow_;
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<SplashWindow> splashWindow_;
 };

@@ -30,6 +30,7 @@ struct OperatingMode {
 ///     optional       sources.measuredLaunchAngle deg    the attack angle then follows from it
 struct Shot : ShotInputs, RunTags {
     ImpactSources sources;
+    friend bool operator==(const Shot&, const Shot&) = default;
 };
 
 } // namespace parabolt
