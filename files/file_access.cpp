@@ -74,7 +74,7 @@ void removeLeftovers(const fs::path& folder) {
 }
 
 /// Puts a new file into the place of the target. `old` is what is known of the old one, if any.
-std::error_code putInPlace(const fs::path& target, const std::optional<struct ::stat>& old,
+std::error_code putNewFile(const fs::path& target, const std::optional<struct ::stat>& old,
                            std::string_view content) {
     for (;;) {
         const fs::path name =
@@ -112,7 +112,7 @@ std::error_code putInPlace(const fs::path& target, const std::optional<struct ::
 std::error_code writeAnew(const fs::path& target, std::string_view data, Tail tail) {
     std::error_code ignored;
     if (!fs::exists(fs::symlink_status(target, ignored)))
-        return putInPlace(target, std::nullopt, data);
+        return putNewFile(target, std::nullopt, data);
     SystemFile file(target, Open::Existing);
     const std::optional<struct ::stat> old = file.status();
     if (file.error == std::errc::no_such_file_or_directory)
@@ -127,7 +127,7 @@ std::error_code writeAnew(const fs::path& target, std::string_view data, Tail ta
         const std::string before = file.read(static_cast<std::size_t>(old->st_size));
         content.append(before, std::min(before.size(), data.size()));
     }
-    return file.error ? file.error : putInPlace(target, old, content);
+    return file.error ? file.error : putNewFile(target, old, content);
 }
 
 Outcome<void, Failure> write(const std::string& fileName, std::string_view data, Tail tail) {

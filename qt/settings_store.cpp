@@ -11,6 +11,13 @@ namespace parabolt {
 
 namespace {
 
+/// The name of an application's ini file. Settings would tell it only after they have opened the
+/// file, and a pipe in its place is waited for without end: so a neighbour is asked.
+QString fileOf(const std::string& application) {
+    const QSettings neighbour(QSettings::NativeFormat, QSettings::UserScope, "neighbour");
+    return QFileInfo(neighbour.fileName()).dir().filePath(toQt(application) + ".conf");
+}
+
 class UserSettings : public QSettings {
 public:
     UserSettings(const std::string& application, const std::string& section)
@@ -34,12 +41,14 @@ QString setAside(const QString& file) {
 } // namespace
 
 bool SettingsStore::isUsable(const std::string& application) {
-    const UserSettings settings(application, {});
-    if (settings.status() == QSettings::NoError)
+    const QString file = fileOf(application);
+    const QFileInfo there(file);
+    const bool other = there.exists() && !there.isFile();
+    if (!other && UserSettings(application, {}).status() == QSettings::NoError)
         return true;
-    const QString aside = setAside(settings.fileName());
+    const QString aside = setAside(file);
     if (!std::exchange(told_, true))
-        tell(settings.fileName(), aside);
+        tell(file, aside);
     return !aside.isEmpty();
 }
 

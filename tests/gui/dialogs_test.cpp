@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
+#include <sys/stat.h>
 
 namespace parabolt::support {
 namespace {
@@ -140,14 +141,17 @@ TEST(SettingsStore, GivesTextsBackWholeOrSaysWhyNot) {
     application += "2"; // what Qt knows of a file outlives it
     std::filesystem::create_directory(file.insert(file.rfind('.'), "2"));
     EXPECT_TRUE(messages.texts.empty());
-    // What can't be used is set aside, and is told once: a folder, then a broken file.
+    // What can't be used is set aside, and is told once: a folder, a pipe, a broken file.
     EXPECT_EQ(text(), "default");
     EXPECT_TRUE(std::filesystem::is_directory(file + ".unreadable"));
     EXPECT_EQ(save("/home"), "");
     EXPECT_EQ(text(), "/home");
+    std::filesystem::remove(file);
+    ASSERT_EQ(::mkfifo(file.c_str(), 0666), 0);
+    EXPECT_EQ(text(), "default");
     putContent(file, "[startup\nno line of it");
     EXPECT_EQ(text(), "default");
-    EXPECT_EQ(contentOf(file + ".unreadable2"), "[startup\nno line of it");
+    EXPECT_EQ(contentOf(file + ".unreadable3"), "[startup\nno line of it");
     EXPECT_EQ(save("/home"), "");
     EXPECT_EQ(text(), "/home");
     // What can't even be set aside, as its new name would be too long, leaves the session.
