@@ -43,8 +43,9 @@ constexpr std::array kLetterCountries{
     QLocale::UnitedStates, QLocale::Venezuela};
 
 PageSize pdfPage(QPageSize::PageSizeId paper) {
-    const QMarginsF margins(kPdfMargin, kPdfMargin, kPdfMargin, kPdfMargin);
-    return turnedToLandscape({QPageSize(paper), QPageLayout::Portrait, margins, QPageLayout::Inch});
+    const QSizeF upright = QPageSize(paper).size(QPageSize::Inch);
+    return {upright.height(), upright.width(), upright.height() - 2 * kPdfMargin,
+            upright.width() - 2 * kPdfMargin};
 }
 
 /// Turns a printer to landscape, with the corner of the paper as its origin: its own margins stay
@@ -73,24 +74,25 @@ QLibrary& cups() {
     return library;
 }
 
-/// Asks the print server for its printers, as Qt does, but with the user interface alive. Ends when
-/// the server has answered, or when the library gives it up.
-std::shared_future<void> askServer() {
+/// Asks the print server whether it has printers, as Qt does, but with the user interface alive.
+/// The answer is no, too, when the library gives a silent server up.
+std::shared_future<bool> askForPrinters() {
     struct Destination;
     using GetDestinations = int (*)(Destination**);
     using FreeDestinations = void (*)(int, Destination*);
     const auto get = reinterpret_cast<GetDestinations>(cups().resolve("cupsGetDests"));
     const auto free = reinterpret_cast<FreeDestinations>(cups().resolve("cupsFreeDests"));
-    std::packaged_task<void()> task([get, free] {
-        Destination* destinations = nullptr;
+    std::packaged_task<bool()> task([get, free] {
         if (get == nullptr || free == nullptr)
-            return;
+            return true; // Qt may know another way
+        Destination* destinations = nullptr;
         const int count = get(&destinations);
         free(count, destinations);
+        return count > 0;
     });
-    std::shared_future<void> answer = task.get_future();
+    std::shared_future<bool> printers = task.get_future();
     std::thread(std::move(task)).detach(); // outlives the user's patience
-    return answer;
+    return printers;
 }
 
 /// Whether the system's spooler took the job that was just handed over, or in its own words why
@@ -121,14 +123,15 @@ Outcome<std::string, std::string> printOn(const QPrinterInfo& info, std::string_
     return "The report has gone to the printer " + name + ".";
 }
 
-/// Waits for the print server. If it is slow a box says so; false if the user closes it first.
-bool waitFor(const std::shared_future<void>& answer) {
+/// Waits for the print server. If it is slow a box says so, which the user may close to wait no
+/// longer.
+void waitFor(const std::shared_future<bool>& answer) {
     const auto answered = [&answer](int milliseconds) {
         return answer.wait_for(std::chrono::milliseconds(milliseconds)) ==
                std::future_status::ready;
     };
     if (answered(kPatience))
-        return true;
+        return;
     QMessageBox box(QMessageBox::NoIcon, toQt(kApplicationTitle),
                     "Waiting for the print server.\n"
                     "Without it the report can go into a PDF file.",
@@ -142,7 +145,6 @@ bool waitFor(const std::shared_future<void>& answer) {
     });
     look.start(kPatience);
     box.exec();
-    return answered(0);
 }
 
 } // namespace
@@ -159,7 +161,7 @@ QPageSize::PageSizeId usualPaper() {
 }
 
 PageSize turnedToLandscape(const QPageLayout& upright) {
-    // Qt rounds inches to hundredths, and points too.
+    // Printers give their margins in whole points; in other units Qt would round them.
     const QSizeF paper = upright.pageSize().size(QPageSize::Point) / kPointsPerInch;
     const QMarginsF margins = upright.margins(QPageLayout::Point) / kPointsPerInch;
     return {paper.height(), paper.width(),
@@ -211,12 +213,14 @@ Outcome<std::string, std::string> QtPrinter::print(std::string_view title,
 
 /// No printer where there is none, and where the print server doesn't answer.
 QPrinterInfo QtPrinter::defaultPrinter() {
-    if (!answer_.valid())
-        answer_ = askServer();
-    if (!waitFor(answer_))
+    if (!printers_.valid())
+        printers_ = askForPrinters();
+    waitFor(printers_);
+    if (printers_.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
         return {};
-    answer_ = {}; // it may fall silent before the next time
-    return QPrinterInfo::defaultPrinter();
+    const bool any = printers_.get();
+    printers_ = {}; // the next time may bring another answer
+    return any ? QPrinterInfo::defaultPrinter() : QPrinterInfo();
 }
 
 QString QtPrinter::askFileName() {

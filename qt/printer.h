@@ -25,8 +25,8 @@ private:
     QPrinterInfo defaultPrinter();
     QString askFileName();
 
-    std::shared_future<void> answer_; ///< of the print server; invalid when it wasn't asked
-    QString lastFolder_;              ///< of the last file that was named; empty before
+    std::shared_future<bool> printers_; ///< whether there are any; valid while the server is asked
+    QString lastFolder_;                ///< of the last file that was named; empty before
 };
 
 /// The paper on which people print in the user's country: Letter or A4. LC_ALL tells the country,

@@ -96,7 +96,8 @@ TEST_F(PrintedReport, IsTextAndLinesInsideItsFrameOnEachPaper) {
                     red |= QRectF(x, y, 1, 1);
             }
         EXPECT_TRUE(QRectF(page.rect()).adjusted(14, 14, -14, -14).contains(ink));
-        EXPECT_NEAR(ink.left(), page.width() * 0.2 / 11 + 14.4, 2) << "the frame stands beside the margin";
+        EXPECT_NEAR(ink.left(), page.width() * 0.2 / 11 + 14.4, 2)
+            << "the frame stands beside the margin";
         QMultiHash<QString, QRectF> words;
         for (const auto& match : boxed.globalMatch(output("pdftotext", {"-bbox", file, "-"}))) {
             const auto point = [&](int x) {
@@ -149,12 +150,12 @@ TEST(Paper, IsThatOfTheUsersCountry) {
 // The side to which the printer turns the page isn't known: what is drawn has to fit both ways.
 TEST(Paper, KeepsThePrintersWidestMarginsWhenItIsTurned) {
     const PageSize page = turnedToLandscape({QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                                             QMarginsF(4, 6, 8, 30), QPageLayout::Millimeter});
-    constexpr double kMillimetres = 25.4;
-    EXPECT_NEAR(page.width * kMillimetres, 297, 0.5);
-    EXPECT_NEAR(page.height * kMillimetres, 210, 0.5);
-    EXPECT_NEAR((page.width - page.printableWidth) * kMillimetres, 30 + 30, 0.01);
-    EXPECT_NEAR((page.height - page.printableHeight) * kMillimetres, 8 + 8, 0.01);
+                                             QMarginsF(11, 17, 23, 85), QPageLayout::Point});
+    constexpr double kPoints = 72;
+    EXPECT_NEAR(page.width * kPoints, 842, 0.5);
+    EXPECT_NEAR(page.height * kPoints, 595, 0.5);
+    EXPECT_NEAR((page.width - page.printableWidth) * kPoints, 85 + 85, 0.01);
+    EXPECT_NEAR((page.height - page.printableHeight) * kPoints, 23 + 23, 0.01);
 }
 
 TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
