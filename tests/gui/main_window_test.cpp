@@ -1,5 +1,6 @@
 #include "qt/dialogs.h"
 #include "qt/main_window.h"
+#include "qt/program.h"
 #include "qt/splash_window.h"
 #include "qt/text.h"
 #include "tests/gui/as_soon_as.h"
@@ -487,6 +488,34 @@ TEST_F(RealServicesTest, ClosingTheWindowEndsARunningBatch) {
     main.form.Command1.Click();
     EXPECT_TRUE(ended);
     EXPECT_LT(main.form.Runs.count(), 6);
+}
+
+TEST(ProgramTest, TheMainWindowHasTheKeysAgainAfterTheClosingQuestion) {
+    Program program;
+    program.start();
+    for (QWidget* shown : QApplication::topLevelWidgets())
+        if (shown->objectName() == "frmSplash")
+            QTest::keyClick(shown, Qt::Key_Space);
+    QWidget* window = frontWindow();
+    ASSERT_EQ(window->objectName(), "frmMain");
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    QTimer user;
+    int questions = 0;
+    QObject::connect(&user, &QTimer::timeout, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (auto* question = qobject_cast<QMessageBox*>(modal)) {
+            ++questions;
+            question->button(QMessageBox::No)->click();
+        } else if (modal != nullptr) {
+            QTest::keyClicks(modal->findChild<QLineEdit*>("txtDescription"), "x");
+            QTimer::singleShot(0, modal->findChild<QPushButton*>("Command1"), &QPushButton::click);
+        }
+    });
+    user.start(20);
+    QTest::keyClick(window, Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(questions, 1);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
 }
 
 } // namespace
