@@ -77,8 +77,9 @@ struct CanvasScale {
 };
 
 /// A canvas that remembers what was drawn on it, as shapes, until it is erased. A view paints the
-/// shapes at its own resolution, on the screen as on paper. Everything drawn is opaque, so a shape
-/// that is drawn again hides its earlier self: only the last of equal shapes is kept.
+/// shapes at its own resolution, on the screen as on paper. Everything drawn is opaque, so what can
+/// no longer be seen isn't kept: of equal shapes the last stays, and a filled box takes away the
+/// boxes inside it and the texts that start in it.
 class PictureBox : public Control {
 public:
     PictureBox(ControlSet& form, std::string_view name, Rgb background, Rgb foreground);

@@ -4,8 +4,10 @@
 #include "qt/text.h"
 
 #include <QDir>
-#include <QFileDialog>
+#include <QFile>
 #include <QFileInfo>
+#include <algorithm>
+#include <climits>
 
 namespace parabolt {
 
@@ -24,12 +26,24 @@ QStringList nameFilters(const QString& filter) {
 
 } // namespace
 
+void NamingDialog::accept() {
+    const QStringList files = selectedFiles();
+    const bool tooLong = std::any_of(files.begin(), files.end(), [](const QString& file) {
+        return QFile::encodeName(QFileInfo(file).fileName()).size() > NAME_MAX ||
+               QFile::encodeName(file).size() >= PATH_MAX;
+    });
+    if (tooLong)
+        QtMessageBoxes().show("The name is too long for a file. Type a shorter one.");
+    else
+        QFileDialog::accept();
+}
+
 QString existingFolder(const QString& wanted) {
     return QFileInfo(wanted).isDir() ? wanted : QDir::homePath();
 }
 
 void QtFileDialog::show(bool save) {
-    QFileDialog dialog(frontWindow(), toQt(title), existingFolder(toQt(initialFolder)));
+    NamingDialog dialog(frontWindow(), toQt(title), existingFolder(toQt(initialFolder)));
     dialog.setObjectName("ccrpFileDialogs1");
     dialog.setNameFilters(nameFilters(toQt(filter)));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -2,9 +2,18 @@
 
 #include "controls/services.h"
 
-#include <QString>
+#include <QFileDialog>
 
 namespace parabolt {
+
+/// A file dialog that says so, and stays, when a name is longer than any file's may be.
+class NamingDialog : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+protected:
+    void accept() override;
+};
 
 /// A folder in which a dialog can start: the wanted one, or the user's home where that is gone.
 QString existingFolder(const QString& wanted);

@@ -9,6 +9,7 @@
 #include "shell/build_values.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QIcon>
 #include <QShortcut>
 
@@ -17,6 +18,13 @@ namespace {
 
 std::string applicationFolder() {
     return fromQt(QApplication::applicationDirPath());
+}
+
+/// Shows a window over the main window, which has the keys again in the end. By itself it wouldn't
+/// where a question came up last, over a window that went at once with it.
+void execute(QDialog& dialog) {
+    dialog.exec();
+    dialog.parentWidget()->activateWindow();
 }
 
 } // namespace
@@ -43,7 +51,7 @@ Program::Program()
 
 Program::~Program() = default;
 
-void Program::start() {
+int Program::run() {
     splash_ = std::make_unique<frmSplash>(desktop_);
     splash_->form.Unload.connect([this] {
         if (!logic_.form.blFormLoaded)
@@ -51,6 +59,7 @@ void Program::start() {
     });
     splashWindow_ = std::make_unique<SplashWindow>(*splash_);
     splashWindow_->show();
+    return QApplication::exec();
 }
 
 void Program::showMainForm() {
@@ -63,14 +72,15 @@ void Program::showClubEditor() {
     frmClubParams editor(logic_.form.clubs,
                          {messages_, fileDialog_, preferences_, desktop_, applicationFolder(),
                           [this] { showClubsInCaption(logic_.form); }});
-    ClubEditorWindow(editor, window_.get()).exec();
+    ClubEditorWindow window(editor, window_.get());
+    execute(window);
 }
 
 void Program::showPrintView() {
     frmPrintView printView(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
     PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
-    window.exec();
+    execute(window);
 }
 
 void Program::showCarryMap() {
@@ -83,7 +93,8 @@ void Program::showCarryMap() {
 
 void Program::showAbout() {
     frmSplash about(desktop_);
-    SplashWindow(about, window_.get()).exec();
+    SplashWindow window(about, window_.get());
+    execute(window);
 }
 
 } // namespace parabolt

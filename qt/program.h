@@ -23,8 +23,9 @@ public:
     Program();
     ~Program();
 
-    /// Shows the splash; when it goes, the main form comes.
-    void start();
+    /// Runs the program from its splash to its end, and returns its exit code. When the splash goes,
+    /// the main form comes.
+    int run();
     /// Loads and shows the main form.
     void showMainForm();
     /// The state behind the main form, for whoever watches the program at work.
@@ -38,7 +39,7 @@ private:
 
     QtMessageBoxes messages_;
     QtFileDialog fileDialog_;
-    SettingsStore preferences_;
+    SettingsStore preferences_{messages_};
     QtDesktop desktop_;
     QtEventLoop events_;
     QtPrinter printer_;

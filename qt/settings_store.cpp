@@ -2,7 +2,10 @@
 
 #include "qt/text.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
+#include <utility>
 
 namespace parabolt {
 
@@ -19,11 +22,43 @@ public:
     std::uint32_t code() const { return static_cast<std::uint32_t>(status()); }
 };
 
+/// Gives what stands there another name beside it: the new one, or an empty text if that fails.
+QString setAside(const QString& file) {
+    const QString wanted = file + ".unreadable";
+    QString name = wanted;
+    for (int i = 2; QFileInfo::exists(name); ++i)
+        name = wanted + QString::number(i);
+    return QDir().rename(file, name) ? name : QString();
+}
+
 } // namespace
+
+bool SettingsStore::isUsable(const std::string& application) {
+    const UserSettings settings(application, {});
+    if (settings.status() == QSettings::NoError)
+        return true;
+    const QString aside = setAside(settings.fileName());
+    if (!std::exchange(told_, true))
+        tell(settings.fileName(), aside);
+    return !aside.isEmpty();
+}
+
+void SettingsStore::tell(const QString& file, const QString& aside) {
+    const QString end = aside.isEmpty() ? QString("Until it can be, the folder of the last file is "
+                                                  "remembered only while the program runs.")
+                                        : "It is now called \"" + QFileInfo(aside).fileName() +
+                                              "\", and the program begins a new one.";
+    messages_.show(fromQt("The file of preferences \"" + QDir::toNativeSeparators(file) +
+                          "\" can't be read. " + end));
+}
 
 Outcome<std::optional<std::string>, PreferencesStore::Refusal>
 SettingsStore::read(const std::string& application, const std::string& section,
                     const std::string& key) {
+    if (const auto kept = kept_.find({application, section, key}); kept != kept_.end())
+        return {kept->second};
+    if (!isUsable(application))
+        return {std::nullopt};
     const UserSettings settings(application, section);
     if (settings.refused())
         return because(Refusal{Refusal::Of::Section, settings.code()});
@@ -39,6 +74,10 @@ Outcome<void, PreferencesStore::Refusal> SettingsStore::write(const std::string&
                                                               const std::string& section,
                                                               const std::string& key,
                                                               const std::string& text) {
+    if (!isUsable(application)) {
+        kept_[{application, section, key}] = text;
+        return {};
+    }
     UserSettings settings(application, section);
     if (settings.refused() || !settings.isWritable())
         return because(Refusal{Refusal::Of::Section, QSettings::AccessError});

@@ -4,7 +4,5 @@
 
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
-    parabolt::Program program;
-    program.start();
-    return QApplication::exec();
+    return parabolt::Program().run();
 }

@@ -10,7 +10,8 @@ import sys
 from pathlib import Path
 
 GROUND = {"numbers", "controls"}
-LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange", "maps"}
+LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
+                  "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -22,7 +23,7 @@ MAY_SEE = {
     "plots": GROUND | {"engine"},
     "exchange": {"numbers"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
-    "printing": GROUND | {"engine", "plots"},
+    "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
     "results": GROUND | {"engine", "printing", "files"},
     "mainform": LOGIC,

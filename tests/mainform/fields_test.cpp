@@ -1,38 +1,30 @@
 #include "mainform/modes.h"
+#include "mainform/parameter_handlers.h"
 #include "mainform/validators.h"
+#include "tests/support/golden.h"
 #include "tests/support/scripted_form.h"
+
+#include <cstring>
 
 namespace parabolt::support {
 namespace {
 
-struct Modes : testing::Test, ScriptedForm {
-    /// The inputs that are enabled, of those that the mode switches, in the order of the form.
-    std::string inputs() const {
-        std::string names;
-        for (const Control* control : std::initializer_list<const Control*>{
-                 &form.txtLaunchAngle, &form.txtBallSpin, &form.txtLaunchSpeed, &form.cmbClubNo,
-                 &form.txtHeadSpeed, &form.txtSpeedIncrement, &form.chkBatch, &form.optIron,
-                 &form.txtCor, &form.txtHeadWeight, &form.txtLoftAngle, &form.txtBending,
-                 &form.txtAttackAngle, &form.BallOpt2})
-            names += control->enabled() ? control->name() + " " : "";
-        return names;
-    }
-};
+struct Modes : testing::Test, ScriptedForm {};
 
 TEST_F(Modes, EnableWhatTheUserGives) {
-    const std::string manual = "cmbClubNo txtHeadSpeed optIron txtCor txtHeadWeight txtLoftAngle "
-                               "txtBending txtAttackAngle BallOpt2 ";
-    EXPECT_EQ(inputs(), manual);
-    const std::pair<OptionButton*, std::string> table[] = {
-        {&form.optLaunch, "txtLaunchAngle txtBallSpin txtLaunchSpeed BallOpt2 "},
-        {&form.optStandard, "cmbClubNo txtHeadSpeed optIron BallOpt2 "},
-        {&form.optAuto, "cmbClubNo txtHeadSpeed txtSpeedIncrement chkBatch optIron BallOpt2 "},
-        {&form.optActual, "txtLaunchAngle cmbClubNo txtHeadSpeed optIron txtCor txtHeadWeight "
-                          "txtLoftAngle txtBending BallOpt2 "},
-        {&form.optManual, manual}};
-    for (const auto& [option, names] : table) {
-        option->select();
-        EXPECT_EQ(inputs(), names) << option->name();
+    OptionButton* const options[] = {&form.optLaunch, &form.optStandard, &form.optManual,
+                                     &form.optAuto, &form.optActual};
+    // From each mode into each other.
+    for (const std::size_t mode : {0U, 1U, 2U, 3U, 4U, 3U, 2U, 1U, 0U, 3U, 1U, 4U, 0U, 4U, 2U}) {
+        options[mode]->select();
+        for (const auto& row : goldenRows("modes.txt")) {
+            std::istringstream names(row.at(0)), states(row.at(1));
+            std::string state;
+            for (std::size_t column = 0; column <= mode; ++column)
+                states >> state;
+            for (std::string name; names >> name;)
+                EXPECT_EQ(form.controls.find(name)->enabled(), state == "on") << name << mode;
+        }
     }
 }
 
@@ -80,108 +72,76 @@ TEST_F(Modes, ResetRestoresInputsAndKeepsModeDataAndScale) {
     form.clubs.Woods[1].COR = 0.71F;
     form.optStandard.select();
     form.optIron.select();
-    form.BallOpt1.select();
-    form.BallOpt2.select();
-    EXPECT_EQ(form.shot.Slope1, 0) << "balls replace each other";
+    form.cmbClubNo.select(4);
+    const std::tuple<OptionButton*, float, float, int> balls[] = {{&form.BallOpt1, 0.5F, 0, 1},
+                                                                  {&form.BallOpt2, 0, -0.1F, 2},
+                                                                  {&form.BallOpt4, 0, 0, 4},
+                                                                  {&form.BallOpt3, -0.5F, 0, 3}};
+    for (const auto& [ball, slope, lift, type] : balls) { // they replace each other
+        ball->select();
+        EXPECT_EQ(form.shot.Slope1, slope);
+        EXPECT_EQ(form.shot.CD1, lift);
+        EXPECT_EQ(form.shot.BallType, type);
+    }
     enter(form.txtRange, "200");
     enter(form.txtWind, "12");
     run();
     messages.answers = {Answer::No, Answer::Yes, Answer::Yes};
     form.mnuReset.Click();
-    EXPECT_EQ(form.txtWind.text(), "12");
+    EXPECT_EQ(messages.texts, Texts{"Do you want to replace the current Swing, Club, and "
+                                    "Environment parameters?"});
+    EXPECT_EQ(form.txtWind.text() + form.cmbClubNo.text(), "125");
     form.mnuReset.Click(); // irons turn to woods last, and wood 1 replaces the club's defaults
-    EXPECT_EQ(form.txtCor.text(), "0.71");
+    EXPECT_EQ(form.txtCor.text() + form.cmbClubNo.text(), "0.711");
+    form.cmbClubNo.select(3);
     form.mnuReset.Click();
     EXPECT_EQ(form.txtWind.text() + form.txtCor.text() + form.txtMode.text(), "00.831");
     EXPECT_TRUE(form.optWood.selected() && form.BallOpt4.selected());
-    EXPECT_FLOAT_EQ(form.shot.CD1, 0);
+    EXPECT_FLOAT_EQ(form.shot.Slope1, 0);
+    EXPECT_EQ(form.cmbClubNo.text() + std::to_string(form.shot.ClubNo), "11");
     EXPECT_FLOAT_EQ(form.sRange, 200);
 }
 
 struct Validators : Modes {};
 
-TEST_F(Validators, AcceptLimitsAndRefuseWhatLiesBeyond) {
-    const struct {
-        TextBox InputControls::*field;
-        const char *text, *message, *after; ///< how the message begins; the text afterwards
-    } table[] = {
-        {&InputControls::txtRange, "99.99", "The value must between 100 - 500, restore", "300"},
-        {&InputControls::txtRange, "wide", "You must input a number, restore", "300"},
-        {&InputControls::txtCor, "0.9", "", "0.9"},
-        {&InputControls::txtCor, "0.69", "Enter values between 0.7 and 0.9! Try again!", "0.80"},
-        {&InputControls::txtCor, "x", "Enter a value between 0.7 and 0.9! Defaults to 0.8", "0.80"},
-        {&InputControls::txtHeadSpeed, "1e999", "Enter a head speed", "100"},
-        {&InputControls::txtHeadSpeed, "  1.2e2 ", "", "  1.2e2 "},
-        {&InputControls::txtWind, "-35", "", "-35"},
-        {&InputControls::txtWind, "36", "Enter a value between -35 and 35 mph", "0"},
-        {&InputControls::txtWind, "calm", "Enter a value between 0 and 35 mph", "0"},
-        {&InputControls::txtRelativeHumidity, "-1", "Enter a value between 0 and 100 % for rel",
-         "50"},
-        {&InputControls::txtRelativeHumidity, "wet", "Enter a value between 0 and 100 % for Rel",
-         "50"},
-        {&InputControls::txtLaunchAngle, "55.5", "The comb", "9.5"},
-    };
-    for (const auto& row : table) {
+TEST_F(Validators, JudgeEachFieldByItsLimits) {
+    const auto rows = goldenRows("fields.txt");
+    EXPECT_EQ(rows.size(), fieldRules().size());
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.at(0));
         ScriptedForm user;
-        TextBox& field = user.form.*row.field;
-        if (!field.enabled())
-            user.form.optLaunch.select();
-        user.enter(field, row.text);
-        const bool refused = *row.message != '\0';
-        ASSERT_EQ(user.messages.texts.size(), refused ? 1U : 0U) << row.text;
-        EXPECT_TRUE(!refused || user.messages.texts[0].starts_with(row.message)) << row.message;
-        EXPECT_EQ(field.text(), row.after);
-        EXPECT_EQ(field.selLength(), field.text().size());
-        EXPECT_EQ(user.form.focus.active(), refused ? static_cast<Control*>(&field)
-                                                    : static_cast<Control*>(&user.form.Picture1));
-    }
-    for (const FieldRule& rule : fieldRules()) { // none refuses its own fallback
-        (form.*rule.field).setText("?");
-        (form.*rule.field).LostFocus();
-        (form.*rule.field).LostFocus();
-    }
-    EXPECT_EQ(messages.texts.size(), fieldRules().size());
-}
-
-TEST_F(Validators, EachFieldHasItsVariableAndItsMessage) {
-    const std::tuple<TextBox InputControls::*, float ShotInputs::*, float, const char*> table[] = {
-        {&InputControls::txtLaunchAngle, &ShotInputs::LaunchAngle, 11, "The combined launch angle"},
-        {&InputControls::txtBallSpin, &ShotInputs::RPM, 2100,
-         "Enter a value between 0 and 22000 RPM"},
-        {&InputControls::txtLaunchSpeed, &ShotInputs::LaunchSpeed, 133,
-         "Enter a value between 30 and"},
-        {&InputControls::txtHeadSpeed, &ShotInputs::HeadSpeed, 91,
-         "Enter a head speed between 50 and"},
-        {&InputControls::txtSpeedIncrement, &ShotInputs::SpeedIncrement, 2,
-         "Enter a value between 1 an"},
-        {&InputControls::txtCor, &ShotInputs::COR, 0.75F,
-         "Enter a value between 0.7 and 0.9! Defau"},
-        {&InputControls::txtHeadWeight, &ShotInputs::HeadWeight, 201,
-         "Enter values between 180 and 320"},
-        {&InputControls::txtAttackAngle, &ShotInputs::AttackAngle, 4,
-         "Enter a value between -5 and +20"},
-        {&InputControls::txtBending, &ShotInputs::Bending, 3,
-         "Enter a value between -10 and 10 degrees"},
-        {&InputControls::txtLoftAngle, &ShotInputs::LoftAngle, 22,
-         "Enter values between 0 and 65 degre"},
-        {&InputControls::txtAltitude, &ShotInputs::h, 1200,
-         "Enter a value between 0 and 15000 feet"},
-        {&InputControls::txtPressure, &ShotInputs::BaroPressure, 28,
-         "Enter a value between 25 and 34 in"},
-        {&InputControls::txtRelativeHumidity, &ShotInputs::RH, 44,
-         "Enter a value between 0 and 100 % f"},
-        {&InputControls::txtTemperature, &ShotInputs::Temperature, 66,
-         "Enter a value between 20 and 12"},
-    };
-    for (const auto& [field, variable, value, message] : table) {
-        (form.*field).setText(std::to_string(value));
-        (form.*field).LostFocus();
-    }
-    for (const auto& [field, variable, value, message] : table) {
-        EXPECT_EQ(form.shot.*variable, value) << message;
-        (form.*field).setText("?");
-        (form.*field).LostFocus();
-        EXPECT_TRUE(messages.texts.back().starts_with(message)) << messages.texts.back();
+        auto& field = dynamic_cast<TextBox&>(*user.form.controls.find(row.at(0)));
+        field.setEnabled(true);
+        const auto variable = [&] {
+            float value = user.form.sRange;
+            const Bytes file = encodeParameters(collectParameters(user.form));
+            if (row.at(1) != "plot")
+                std::memcpy(&value, &file.at(std::stoul(row.at(1))), sizeof value);
+            return value;
+        };
+        for (const std::string& limit : {row.at(2), row.at(3)}) {
+            user.enter(field, limit);
+            EXPECT_EQ(variable(), std::stof(limit));
+            EXPECT_EQ(field.text(), limit);
+        }
+        EXPECT_EQ(user.messages.texts, Texts());
+        const std::pair<std::string, std::string> refused[] = {
+            {std::to_string(std::stod(row.at(2)) - 0.01), row.at(5)},
+            {std::to_string(std::stod(row.at(3)) + 0.01), row.at(5)},
+            {"12x", row.at(6)},
+            {"", row.at(6)}};
+        for (const auto& [text, message] : refused) {
+            user.messages.texts.clear();
+            user.enter(field, text);
+            EXPECT_EQ(user.messages.texts, Texts{message});
+            EXPECT_EQ(field.text(), row.at(4));
+            EXPECT_EQ(field.selLength(), row.at(4).size());
+            EXPECT_EQ(user.form.focus.active(), &field);
+            EXPECT_EQ(variable(), std::stof(row.at(3))) << "as it was";
+        }
+        field.KeyUp(keys::kEnter); // the fallback passes
+        EXPECT_EQ(variable(), std::stof(row.at(4)));
+        EXPECT_EQ(user.messages.texts.size(), 1U);
     }
 }
 

@@ -25,6 +25,39 @@ TEST_F(RunDriver, AFullBufferAsksBeforeItLosesAnything) {
     EXPECT_EQ(form.txtRun.text(), "1");
     EXPECT_EQ(rows().size(), 1U);
     EXPECT_EQ(curves(), (std::vector<Rgb>{{255, 0, 0}}));
+    const auto legend = shapesOf<DrawnText>(form.Picture1);
+    EXPECT_EQ(legend.back().text, "Club 1/1");
+    EXPECT_EQ(form.txtResult.text().substr(0, 18), table.substr(0, 18)) << "headings again";
+}
+
+TEST_F(RunDriver, AFullBufferAsksInAutoToo) {
+    run(24);
+    form.optAuto.select();
+    messages.answers = {Answer::Yes, Answer::No};
+    files.cancel("/folder");
+    run();
+    EXPECT_EQ(form.txtRun.text(), "24");
+    run();
+    EXPECT_EQ(form.txtRun.text(), "7");
+    EXPECT_EQ(messages.texts.size(), 2U);
+}
+
+TEST_F(RunDriver, GivesTwelveColoursInTurn) {
+    const std::vector<Rgb> colours{{255, 0, 0},    {0, 255, 0},     {0, 0, 255},     {255, 127, 80},
+                                   {0, 255, 255},  {218, 112, 147}, {255, 0, 255},   {255, 20, 147},
+                                   {218, 165, 32}, {0, 191, 255},   {175, 175, 175}, {160, 82, 45},
+                                   {255, 0, 0}};
+    std::vector<Rgb> rowColours;
+    form.txtResult.onInsert = [&](std::size_t, const std::string&, Rgb colour) {
+        rowColours.push_back(colour);
+    };
+    for (std::size_t i = 0; i < colours.size(); ++i) {
+        enter(form.txtCor, std::to_string(0.7 + 0.01 * static_cast<double>(i)));
+        run(); // another curve than before
+    }
+    EXPECT_EQ(curves(), colours);
+    EXPECT_EQ(rowColours.front(), kBlack) << "the headings";
+    EXPECT_EQ(std::vector<Rgb>(rowColours.begin() + 1, rowColours.end()), colours);
 }
 
 TEST_F(RunDriver, ClearAsksAndKeepsTheScale) {
@@ -38,6 +71,8 @@ TEST_F(RunDriver, ClearAsksAndKeepsTheScale) {
     EXPECT_EQ(messages.texts.back(), "This will erase all the data now, are you sure?");
     EXPECT_EQ(form.txtRun.text(), "0");
     EXPECT_EQ(rows().size() + curves().size(), 0U);
+    for (const auto& text : shapesOf<DrawnText>(form.Picture1))
+        EXPECT_FALSE(text.text.starts_with("Club")) << "an old legend";
     EXPECT_EQ(form.Runs.count(), 0);
     EXPECT_FLOAT_EQ(form.sRange, 200);
 }
@@ -58,6 +93,9 @@ TEST_F(RunDriver, AShotThatFailsIsTold) {
     run();
     EXPECT_EQ(messages.texts.size(), 4U);
     EXPECT_EQ(form.txtRun.text(), "3");
+    for (const std::string& text : messages.texts)
+        EXPECT_FALSE(text.empty());
+    ASSERT_EQ(form.Runs.count(), 3);
     EXPECT_EQ(form.Runs[2].Path.size(), 1U) << "it stays as far as it came";
     EXPECT_GT(form.Runs[3].Path.size(), 1U);
     EXPECT_EQ(rows().at(1).substr(0, 24), "  I-1/2   LM   .00     0");
@@ -69,19 +107,36 @@ struct Studies : RunDriver {};
 TEST_F(Studies, FindWhatCarriesFurthest) {
     std::vector<bool> shows;
     main.frmProgress.onShow = [&](bool now) { shows.push_back(now); };
+    std::string tried;
+    std::string bar;
+    TextBox* swept = &form.txtLaunchAngle;
+    events.meanwhile = [&] {
+        if (events.yields % 10 != 0)
+            return;
+        tried += swept->text() + " ";
+        bar += std::to_string(main.frmProgress.ProgressBar1.value()) + " ";
+        EXPECT_EQ(form.Timer1.interval(), swept == &form.txtLaunchAngle ? 20 : 10);
+    };
     form.mnuStyLaunch.Click();
+    EXPECT_EQ(std::exchange(tried, ""), "2 3 4 5 6 7 8 9 10 11 12 13 14 ");
+    EXPECT_EQ(bar, "1 2 3 4 5 6 7 8 9 10 0 1 2 ");
     EXPECT_EQ(form.txtLaunchAngle.text(), "14");
     EXPECT_TRUE(form.optLaunch.selected());
     for (const float worse : {13.0F, 15.0F})
         EXPECT_GT(form.Runs[1].CarryDist, flightOf(mildShot(144, worse, 3200)).record.CarryDist);
     EXPECT_EQ(events.yields, 13 * 10); // 2 to 14 degrees, ten ticks each
     EXPECT_EQ(shows, (std::vector<bool>{true, false}));
+    swept = &form.txtBallSpin;
     form.mnuStySpin.Click(); // goes on from the first
-    EXPECT_EQ(std::fmod(form.Runs[2].RPM, 100.0F), 0);
+    EXPECT_TRUE(tried.starts_with("0 100 200 300 ")) << tried;
+    EXPECT_TRUE(tried.ends_with(" " + form.txtBallSpin.text() + " ")) << tried;
     EXPECT_GT(form.Runs[2].CarryDist, form.Runs[1].CarryDist);
     EXPECT_EQ(rows().size(), 2U);
-    form.shot.LaunchSpeed = 0;
-    form.mnuStyLaunch.Click(); // equal carries don't stop the climb
+    form.shot.LaunchSpeed = 0; // equal carries don't stop the climb
+    form.mnuStySpin.Click();
+    EXPECT_EQ(form.txtBallSpin.text(), "21900");
+    swept = &form.txtLaunchAngle;
+    form.mnuStyLaunch.Click();
     EXPECT_EQ(form.txtLaunchAngle.text(), "54");
 }
 
@@ -98,6 +153,8 @@ TEST_F(Studies, EndWithoutARunWhereTheyCannotFinish) {
     EXPECT_TRUE(rows().empty());
     EXPECT_EQ(form.txtLaunchAngle.text(), std::to_string(std::lround(form.shot.LaunchAngle)));
     EXPECT_TRUE(form.Command1.enabled());
+    form.mnuStyLaunch.Click(); // the next one isn't stopped
+    EXPECT_EQ(rows().size(), 1U);
 }
 
 TEST_F(Studies, HoldBackWhatWouldDisturbThemAndLetGo) {

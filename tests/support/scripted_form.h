@@ -7,6 +7,16 @@
 
 namespace parabolt::support {
 
+/// What of one kind stands on a canvas.
+template <class Shape>
+std::vector<Shape> shapesOf(const PictureBox& box) {
+    std::vector<Shape> found;
+    for (const Drawing& drawing : box.drawings())
+        if (const auto* shape = std::get_if<Shape>(&drawing))
+            found.push_back(*shape);
+    return found;
+}
+
 /// Time that passes at once: each yield is a tick of the form's timer, and calls `meanwhile`.
 struct ScriptedEventLoop : EventLoop {
     Timer* timer = nullptr;
@@ -63,9 +73,8 @@ struct ScriptedForm {
     /// The colours of the curves in the plot, in the order of drawing.
     std::vector<Rgb> curves() const {
         std::vector<Rgb> colours;
-        for (const Drawing& drawing : form.Picture2.drawings())
-            if (const auto* curve = std::get_if<DrawnCurve>(&drawing))
-                colours.push_back(curve->colour);
+        for (const DrawnCurve& curve : shapesOf<DrawnCurve>(form.Picture2))
+            colours.push_back(curve.colour);
         return colours;
     }
 
