@@ -10,7 +10,8 @@ import sys
 from pathlib import Path
 
 GROUND = {"numbers", "controls"}
-LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange", "maps"}
+LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
+                  "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
