@@ -1,6 +1,4 @@
-#include "qt/dialogs.h"
 #include "qt/main_window.h"
-#include "qt/program.h"
 #include "qt/splash_window.h"
 #include "qt/text.h"
 #include "tests/gui/as_soon_as.h"
@@ -13,13 +11,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <QTextBlock>
-#include <QTimer>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
@@ -399,123 +395,6 @@ TEST_F(MainWindowTest, TypingIntoTheTableMovesTheNextRow) {
     EXPECT_TRUE(held.contains(typed));
     EXPECT_EQ(table->toPlainText(), held.replace(QChar::Nbsp, ' '));
     EXPECT_TRUE(table->document()->findBlockByNumber(4).text().startsWith("  W-1/4"));
-}
-
-/// The same window over the platform's own message boxes and event loop.
-struct RealServicesTest : testing::Test {
-    ScriptedForm scripted; // lends the services that need no reality
-    QtMessageBoxes messages;
-    QtEventLoop events;
-    frmMain main{{messages, scripted.files, scripted.preferences, scripted.desktop, events, "/"}};
-    std::unique_ptr<MainWindow> window;
-    bool ended = false;
-
-    void SetUp() override {
-        main.endProgram = [this] {
-            main.pause.stop();
-            ended = true;
-        };
-        main.Form_Load();
-        window = std::make_unique<MainWindow>(main);
-        window->resize(1100, 800);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-    QLineEdit* field(const char* name) { return window->findChild<QLineEdit*>(name); }
-};
-
-// The message comes up inside the click or the key that leaves the field.
-TEST_F(RealServicesTest, AMessageSwallowsNoMoreThanTheKeyThatClosesIt) {
-    int boxes = 0;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            ++boxes;
-            EXPECT_EQ(box->windowTitle(), "Parabolt");
-            QTest::keyPress(box->button(QMessageBox::Ok), Qt::Key_Return);
-        }
-    });
-    closer.start(20);
-    QLineEdit* wind = field("txtWind");
-    wind->setFocus();
-    QTest::keyClicks(wind, "99");
-    QTest::keyClick(wind, Qt::Key_Return);
-    window->activateWindow(); // there is no window manager to do it
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    EXPECT_TRUE(wind->hasFocus());
-    wind->deselect();
-    QTest::keyRelease(wind, Qt::Key_Return);
-    EXPECT_FALSE(wind->hasSelectedText()) << "judged again by the Enter that closed the message";
-    QTest::keyClicks(wind, "99");
-    auto* run = window->findChild<QPushButton*>("Command1");
-    for (const char* runs : {"0", "1"}) {
-        QTest::mouseClick(run, Qt::LeftButton);
-        EXPECT_EQ(field("txtRun")->text(), runs);
-        EXPECT_FALSE(run->isDown());
-    }
-    EXPECT_EQ(boxes, 2);
-}
-
-TEST_F(RealServicesTest, EscAnswersNoQuestion) {
-    const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
-    asSoonAs(
-        *window, [=] { return box() != nullptr; },
-        [=] {
-            QTest::keyClick(box(), Qt::Key_Escape);
-            ASSERT_TRUE(box() && !box()->close());
-            box()->button(QMessageBox::Yes)->click();
-        });
-    EXPECT_TRUE(messages.ask("All the data?"));
-}
-
-TEST_F(RealServicesTest, EscStopsAStudyAndTheFormIsUsableAgain) {
-    const auto* run = window->findChild<QPushButton*>("Command1");
-    const auto* progress = window->findChild<QWidget*>("frmProgress");
-    ASSERT_TRUE(run && progress);
-    asSoonAs(
-        *window, [&] { return !run->isEnabled() && progress->isVisible(); },
-        [&] { QTest::keyClick(window.get(), Qt::Key_Escape); });
-    main.form.mnuStyLaunch.Click();
-    EXPECT_EQ(field("txtRun")->text(), "0");
-    EXPECT_TRUE(run->isEnabled() && !progress->isVisible());
-}
-
-TEST_F(RealServicesTest, ClosingTheWindowEndsARunningBatch) {
-    main.form.optAuto.select();
-    asSoonAs(
-        *window, [&] { return main.form.Runs.count() > 0; }, [&] { window->close(); });
-    main.form.Command1.Click();
-    EXPECT_TRUE(ended);
-    EXPECT_LT(main.form.Runs.count(), 6);
-}
-
-TEST(ProgramTest, TheMainWindowHasTheKeysAgainAfterTheClosingQuestion) {
-    Program program;
-    program.start();
-    for (QWidget* shown : QApplication::topLevelWidgets())
-        if (shown->objectName() == "frmSplash")
-            QTest::keyClick(shown, Qt::Key_Space);
-    QWidget* window = frontWindow();
-    ASSERT_EQ(window->objectName(), "frmMain");
-    window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
-    QTimer user;
-    int questions = 0;
-    QObject::connect(&user, &QTimer::timeout, [&] {
-        QWidget* modal = QApplication::activeModalWidget();
-        if (auto* question = qobject_cast<QMessageBox*>(modal)) {
-            ++questions;
-            question->button(QMessageBox::No)->click();
-        } else if (modal != nullptr) {
-            QTest::keyClicks(modal->findChild<QLineEdit*>("txtDescription"), "x");
-            QTimer::singleShot(0, modal->findChild<QPushButton*>("Command1"), &QPushButton::click);
-        }
-    });
-    user.start(20);
-    QTest::keyClick(window, Qt::Key_D, Qt::ControlModifier);
-    EXPECT_EQ(questions, 1);
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window));
 }
 
 } // namespace

@@ -69,6 +69,7 @@ struct Described {
         text << "ring " << ring.centre << " of " << ring.radius << ring.colour << ", " << ring.pen
              << " wide";
     }
+    void operator()(const DrawnImage&) const { text << "image"; }
     void operator()(const DrawnText& label) const {
         text << "text " << label.place << " \"" << label.text << '"' << label.colour;
     }
