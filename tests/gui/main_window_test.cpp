@@ -79,16 +79,7 @@ struct MainWindowTest : testing::Test {
     MainWindow window{user.main};
 };
 
-TEST_F(MainWindowTest, WidgetsAndControlsAnswerEachOther) {
-    for (const Control* control : user.form.controls.all()) {
-        const QString name = toQt(control->name());
-        const auto* object = window.findChild<QObject*>(name);
-        ASSERT_NE(object, nullptr) << control->name();
-        if (const auto* widget = qobject_cast<const QWidget*>(object)) {
-            EXPECT_EQ(widget->isHidden(), !control->visible()) << control->name();
-            EXPECT_EQ(widget->isEnabled(), control->enabled()) << control->name();
-        }
-    }
+TEST_F(MainWindowTest, NothingChangesAFieldUnjudged) {
     for (const QLineEdit* edit : window.findChildren<QLineEdit*>()) {
         const std::string name = fromQt(edit->objectName());
         EXPECT_NE(edit->accessibleName().isEmpty(), !edit->isHidden()) << name;
