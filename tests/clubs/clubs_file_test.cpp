@@ -1,8 +1,7 @@
 #include "clubs/clubs_file.h"
 #include "clubs/clubs_text.h"
-#include "clubs/frm_club_params.h"
 #include "tests/support/golden.h"
-#include "tests/support/scripted_services.h"
+#include "tests/support/scripted_editor.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -18,15 +17,10 @@ TEST(ClubsFile, TheDefaultSetIsTheseBytes) {
     const Bytes file = defaultFile();
     ASSERT_EQ(file.size(), 701U);
     const std::pair<std::ptrdiff_t, Bytes> known[] = {
-        {0, {0x17, 0x00, 'D', 'e', 'f', 'a', 'u', 'l', 't', ' ', 'C'}},
-        {25, {0x17, 0x00, 'D', 'e', 'f', 'a', 'u', 'l', 't', ' ', 'W'}},
-        {50, {0x17, 0x00, 'D', 'e', 'f', 'a', 'u', 'l', 't', ' ', 'I'}},
-        {75, Bytes(26)},
+        {75, Bytes(26)}, // no comment, and no iron 0
         // Iron 1: 16, 225, 100, 0.76, 0, 0.
         {101, {0x00, 0x00, 0x80, 0x41, 0x00, 0x00, 0x61, 0x43, 0x00, 0x00, 0xC8, 0x42,
                0x5C, 0x8F, 0x42, 0x3F, 0,    0,    0,    0,    0,    0,    0,    0}},
-        {437, Bytes(24)},
-        {437 + 6 * 24, Bytes(24)},
         // Wood 10: 24, 233, 91, 0.8, 0, 0.
         {677, {0x00, 0x00, 0xC0, 0x41, 0x00, 0x00, 0x69, 0x43, 0x00, 0x00, 0xB6, 0x42,
                0xCD, 0xCC, 0x4C, 0x3F, 0,    0,    0,    0,    0,    0,    0,    0}}};
@@ -71,16 +65,7 @@ TEST(ClubsText, ShowsTextsAndGridsLineByLine) {
         EXPECT_NE(text.find(line), std::string::npos) << line;
 }
 
-/// The editor without its window.
-struct ClubEditing : testing::Test {
-    ClubTables clubs = InitClubTables();
-    support::ScriptedMessageBoxes messages;
-    support::ScriptedFileDialog dialog;
-    support::MemoryPreferences preferences;
-    support::RecordingDesktop desktop;
-    frmClubParams frm{clubs, {messages, dialog, preferences, desktop, "/app", [] {}}};
-    ClubForm& form = frm.form;
-};
+struct ClubEditing : testing::Test, support::ScriptedEditor {};
 
 TEST_F(ClubEditing, AppliesWhatIsWithinItsBounds) {
     for (const auto& row : support::goldenRows("club_bounds.txt")) {

@@ -1,7 +1,7 @@
 #include "clubs/clubs_file.h"
 #include "qt/club_editor_window.h"
 #include "qt/text.h"
-#include "tests/support/scripted_services.h"
+#include "tests/support/scripted_editor.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QApplication>
@@ -18,7 +18,7 @@ namespace parabolt::support {
 namespace {
 
 /// The editor in its window, with real keys.
-struct ClubEditorTest : testing::Test {
+struct ClubEditorTest : testing::Test, ScriptedEditor {
     ClubEditorTest() {
         window.show();
         window.activateWindow();
@@ -55,16 +55,6 @@ struct ClubEditorTest : testing::Test {
         return messages.texts;
     }
 
-    ClubTables clubs = InitClubTables();
-    ScriptedMessageBoxes messages;
-    ScriptedFileDialog dialog;
-    MemoryPreferences preferences;
-    RecordingDesktop desktop;
-    std::string mainCaption;
-    frmClubParams frm{clubs, {messages, dialog, preferences, desktop, "/app", [this] {
-                                  mainCaption = clubs.ClubsDescription;
-                              }}};
-    ClubForm& form = frm.form;
     ClubEditor& editor = frm.editor;
     Grid& irons = form.GridIrons;
     Grid& woods = form.GridWoods;
@@ -139,8 +129,6 @@ TEST_F(ClubEditorTest, ProceduresTellTheGridsApart) {
 
 TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     EXPECT_LE(window.minimumSizeHint().width(), 1024);
-    for (const Control* control : form.controls.all())
-        EXPECT_TRUE(window.findChild<QObject*>(toQt(control->name()))) << control->name();
     auto& table = part<QTableWidget>("GridIrons");
     auto& edit = part<QLineEdit>("txtIronEdit");
     QTest::mouseClick(table.viewport(), Qt::LeftButton, {}, cell(table, 1, 4).center());

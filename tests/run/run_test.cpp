@@ -1,3 +1,4 @@
+#include "tests/support/golden.h"
 #include "tests/support/scripted_form.h"
 #include "tests/support/shots.h"
 
@@ -43,10 +44,14 @@ TEST_F(RunDriver, AFullBufferAsksInAutoToo) {
 }
 
 TEST_F(RunDriver, GivesTwelveColoursInTurn) {
-    const std::vector<Rgb> colours{{255, 0, 0},    {0, 255, 0},     {0, 0, 255},     {255, 127, 80},
-                                   {0, 255, 255},  {218, 112, 147}, {255, 0, 255},   {255, 20, 147},
-                                   {218, 165, 32}, {0, 191, 255},   {175, 175, 175}, {160, 82, 45},
-                                   {255, 0, 0}};
+    std::vector<Rgb> colours;
+    for (const auto& row : goldenRows("curve_colours.txt")) {
+        const auto part = [&](std::size_t i) {
+            return static_cast<std::uint8_t>(std::stoi(row.at(i)));
+        };
+        colours.push_back({part(0), part(1), part(2)});
+    }
+    ASSERT_EQ(colours.size(), 13U);
     std::vector<Rgb> rowColours;
     form.txtResult.onInsert = [&](std::size_t, const std::string&, Rgb colour) {
         rowColours.push_back(colour);

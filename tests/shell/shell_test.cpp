@@ -1,27 +1,10 @@
-#include "shell/frm_splash.h"
+#include "shell/build_values.h"
 #include "tests/support/scripted_form.h"
 
 namespace parabolt::support {
 namespace {
 
 struct FrmMain : testing::Test, ScriptedForm {};
-
-TEST_F(FrmMain, EveryEventHasAHandler) {
-    std::string silent; // what only opens a list, or shows the state of something else
-    for (Control* control : form.controls.all()) {
-        bool connected = true;
-        if (const auto* item = dynamic_cast<MenuItem*>(control))
-            connected = item->Click.connected();
-        else if (const auto* button = dynamic_cast<Button*>(control))
-            connected = button->Click.connected();
-        else if (const auto* option = dynamic_cast<OptionButton*>(control))
-            connected = option->Click.connected();
-        else if (const auto* field = dynamic_cast<TextBox*>(control))
-            connected = field->LostFocus.connected() && field->KeyUp.connected();
-        silent += connected ? "" : control->name() + " ";
-    }
-    EXPECT_EQ(silent, "txtRun txtMode txtType Help ");
-}
 
 TEST_F(FrmMain, MenusJudgeTheEditedFieldAndOpenTheirForms) {
     type(form.txtWind, "gale");
@@ -72,28 +55,6 @@ TEST_F(FrmMain, ThePlotFollowsTheFormWithItsCurves) {
     EXPECT_EQ(form.txtResult.width(), 16000 - 5190);
     EXPECT_EQ(form.Frame7.width(), 16000 - 7260);
     EXPECT_EQ(curves().size(), 1U);
-}
-
-TEST(Splash, GoesOnceByItselfOrAtAnyOfItsEvents) {
-    for (const bool byItself : {true, false}) {
-        RecordingDesktop desktop;
-        frmSplash frm(desktop);
-        SplashForm& form = frm.form;
-        int unloads = 0;
-        form.Unload.connect([&] { ++unloads; });
-        frm.handlers.Label1_Click(); // opens its page, and the splash stays
-        EXPECT_EQ(desktop.opened, Texts{form.Label1.caption()});
-        EXPECT_EQ(unloads, 0);
-        int milliseconds = 0;
-        for (; byItself && unloads == 0 && milliseconds < 10000;
-             milliseconds += form.Timer1.interval())
-            form.Timer1.Tick();
-        EXPECT_EQ(milliseconds, byItself ? 5100 : 0);
-        frm.handlers.Form_KeyPress();
-        frm.handlers.Frame1_Click();
-        EXPECT_EQ(unloads, 1) << "a second main form would come up";
-        EXPECT_FALSE(form.Timer1.enabled());
-    }
 }
 
 } // namespace
