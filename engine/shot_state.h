@@ -27,7 +27,7 @@ struct ShotInputs {
     float Bending = 0;        ///< degrees, -10 to 10: shaft bend at impact; adds to the loft
 
     // Weather and course.
-    double WindSpeed = 0;        ///< mph, -35 to 35, along the line of play; positive is a head wind
+    double WindSpeed = 0;        ///< mph, -35 to 35, along the line; above 0 against the ball
     float Temperature = 70;      ///< degrees Fahrenheit, 20 to 120
     float BaroPressure = 29.92F; ///< inches of mercury, 25 to 34, as read at sea level
     float RH = 50;               ///< percent, 0 to 100: relative humidity

@@ -19,8 +19,8 @@ protected:
 QString existingFolder(const QString& wanted);
 
 /// File dialogs over the window in front. Opening takes files that exist; saving asks before it
-/// takes the name of one. A name is taken as typed: no ending is added, unless one was suggested. Where the folder to start
-/// in is gone, the dialog starts in the user's home folder.
+/// takes the name of one. A name is taken as typed: no ending is added, unless one was suggested.
+/// Where the folder to start in is gone, the dialog starts in the user's home folder.
 class QtFileDialog : public FileDialog {
 public:
     void showOpen() override { show(false); }

@@ -23,8 +23,8 @@ public:
     Program();
     ~Program();
 
-    /// Runs the program from its splash to its end, and returns its exit code. When the splash goes,
-    /// the main form comes.
+    /// Runs the program from its splash to its end, and returns its exit code. When the splash
+    /// goes, the main form comes.
     int run();
     /// Loads and shows the main form.
     void showMainForm();
