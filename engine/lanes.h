@@ -33,8 +33,8 @@ struct alignas(64) Lanes {
     PerLane<float> topY;
     std::array<LaneBalls, 2> balls; ///< behind the last step and before it, by turns
     std::size_t turn;
-    std::uint32_t
-        unsure; ///< a bit for each lane whose last step has to be done again, by `advance`
+    /// A bit for each lane whose last step has to be done again, by `advance`.
+    std::uint32_t unsure;
 
     LaneBalls& now() { return balls[turn]; }
     LaneBalls& before() { return balls[1 - turn]; }

@@ -36,7 +36,7 @@ bool ShotEntry::enterSwing(const ShotInputs& shot) {
 bool ShotEntry::enter(OptionButton& option, OperatingMode::Number mode,
                       std::span<const Field> fields, const ShotInputs& shot) {
     // What waits is held back as the Run button is; what is being edited is judged first.
-    if (!form_.Command1.enabled() || !form_.focus.give(form_.Picture1))
+    if (!form_.Command1.enabled() || !form_.focus.give(rest_))
         return false;
     option.select();
     form_.txtMode.setText(std::to_string(mode));

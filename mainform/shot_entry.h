@@ -10,8 +10,11 @@ namespace parabolt {
 /// or batch runs, or where the field being edited is refused.
 class ShotEntry {
 public:
-    /// The validators may come into being later, but before the first entry.
-    ShotEntry(MainForm& form, Validators& validators) : form_(form), validators_(validators) {}
+    /// `rest` is where the focus goes while values are entered.
+    ShotEntry(InputControls& form, Control& rest, Validators& validators)
+        : form_(form),
+          rest_(rest),
+          validators_(validators) {}
 
     /// The launch of a shot, in the mode Launch.
     bool enterLaunch(const ShotInputs& shot);
@@ -23,7 +26,8 @@ private:
     bool enter(OptionButton& option, OperatingMode::Number mode, std::span<const Field> fields,
                const ShotInputs& shot);
 
-    MainForm& form_;
+    InputControls& form_;
+    Control& rest_;
     Validators& validators_;
 };
 

@@ -40,7 +40,7 @@ void RunDriver::Command1_Click() {
 /// Counts the data set of this press. A full buffer is saved, and the press ends (false), or it
 /// starts afresh.
 bool RunDriver::makeRoom() {
-    if (!form_.Runs.full()) {
+    if (runNumber(form_) < RunBook::kMost) {
         run_.countRun();
         return true;
     }
@@ -49,7 +49,7 @@ bool RunDriver::makeRoom() {
         saveResult_();
         return false;
     }
-    form_.Runs.clear();
+    run_.dropRuns();
     run_.countRun();
     WriteResultHeader(txtResult_);
     plot_.DrawPlotFrame();

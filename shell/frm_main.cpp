@@ -8,9 +8,9 @@ namespace parabolt {
 frmMain::frmMain(const FormServices& services)
     : plot(form, form, form.Frame7, services.messages),
       pause(form, form.Timer1, form.Picture1, services.events),
-      shotEntry(form, validators_),
-      validators_(form, plot, services.messages),
-      clubChoice_(form, form.clubs, validators_),
+      validators(form, plot, services.messages),
+      shotEntry(form, form.Picture1, validators),
+      clubChoice_(form, form.clubs, validators),
       modes_(form, clubChoice_),
       defaults_(form, services.messages),
       resultExport_(form.txtResult, services.ccrpFileDialogs1, services.preferences,

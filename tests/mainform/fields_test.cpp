@@ -23,7 +23,7 @@ TEST_F(Modes, EnableWhatTheUserGives) {
             for (std::size_t column = 0; column <= mode; ++column)
                 states >> state;
             for (std::string name; names >> name;)
-                EXPECT_EQ(form.controls.find(name)->enabled(), state == "on") << name << mode;
+                EXPECT_EQ(controlOf(form, name).enabled(), state == "on") << name << mode;
         }
     }
 }
@@ -110,7 +110,7 @@ TEST_F(Validators, JudgeEachFieldByItsLimits) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.at(0));
         ScriptedForm user;
-        auto& field = dynamic_cast<TextBox&>(*user.form.controls.find(row.at(0)));
+        auto& field = dynamic_cast<TextBox&>(controlOf(user.form, row.at(0)));
         field.setEnabled(true);
         const auto variable = [&] {
             float value = user.form.sRange;

@@ -228,7 +228,7 @@ TEST(FillInBatch, FliesWhatTheClubsFlySingly) {
     }
     for (Control* control : single.form.controls.all()) // and leave the same in the fields
         if (const auto* field = dynamic_cast<TextBox*>(control); field && field->visible()) {
-            const auto& same = dynamic_cast<TextBox&>(*batch.form.controls.find(field->name()));
+            const auto& same = dynamic_cast<TextBox&>(controlOf(batch.form, field->name()));
             EXPECT_EQ(same.text(), field->text()) << field->name();
         }
 }
