@@ -7,6 +7,7 @@
 #include "qt/main_window.h"
 #include "qt/picture_painter.h"
 #include "qt/print_view_window.h"
+#include "shots/fly.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -15,6 +16,7 @@
 #include <chrono>
 #include <cmath>
 #include <fstream>
+#include <vector>
 
 namespace {
 
@@ -41,8 +43,9 @@ struct Silent : MessageBoxes, FileDialog, PreferencesStore, Desktop, EventLoop, 
     void openAddress(std::string_view) override {}
     void yield() override { timer->Tick(); }
     PageSize paper() override { return {}; }
-    Outcome<void, std::string> print(std::string_view, const std::function<void(Page&)>&) override {
-        return {};
+    Outcome<std::string, std::string> print(std::string_view,
+                                            const std::function<void(Page&)>&) override {
+        return std::string();
     }
 };
 
@@ -62,12 +65,25 @@ struct LoadedForm {
     frmMain main{{services, services, services, services, services, "/"}};
 };
 
-void bareFlight(benchmark::State& state) {
-    bench::BareShot bare = bench::bareShot(*prepare(Shot()));
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(bare);
-        benchmark::DoNotOptimize(bench::bareCarry(bare));
-    }
+/// The yardstick of a benchmark: its flights by the bare loop.
+void flyBare(benchmark::State& state, const std::vector<Shot>& shots) {
+    std::vector<bench::BareShot> flights;
+    for (const Shot& shot : shots)
+        flights.push_back(bench::bareShot(*prepare(shot)));
+    for (auto _ : state)
+        for (bench::BareShot& flight : flights) {
+            benchmark::DoNotOptimize(flight);
+            benchmark::DoNotOptimize(bench::bareCarry(flight));
+        }
+}
+
+/// The defaults at each spin that a study tries on its way up.
+std::vector<Shot> spinsUpTo(float highest) {
+    std::vector<Shot> shots;
+    Shot shot;
+    for (shot.RPM = 0; shot.RPM <= highest; shot.RPM += 100)
+        shots.push_back(shot);
+    return shots;
 }
 
 /// The computing of a spin study and its closing run, without the pauses.
@@ -79,30 +95,64 @@ void spinStudy(benchmark::State& state) {
         loaded.main.form.Command2.Click();
         state.ResumeTiming();
     }
-    state.counters["flights"] = loaded.main.form.shot.RPM / 100 + 3;
+}
+
+/// Up to the first spin that carries less than the best, and then the best once more.
+void bareSpinStudy(benchmark::State& state) {
+    LoadedForm loaded(0);
+    loaded.main.form.mnuStySpin.Click();
+    const float found = loaded.main.form.shot.RPM;
+    std::vector<Shot> shots = spinsUpTo(found + 100);
+    shots.push_back(shots.at(shots.size() - 2));
+    flyBare(state, shots);
 }
 
 /// All flights that a spin study can make.
 void longestSpinStudy(benchmark::State& state) {
-    ShotState shot = *prepare(Shot());
-    for (auto _ : state) {
-        for (int spin = 0; spin <= 22000; spin += 100) {
-            shot.RPM = static_cast<float>(spin);
+    std::vector<ShotState> shots;
+    for (const Shot& shot : spinsUpTo(22000))
+        shots.push_back(*prepare(shot));
+    for (auto _ : state)
+        for (ShotState& shot : shots) {
+            benchmark::DoNotOptimize(shot);
             benchmark::DoNotOptimize(SimulateCarry(shot));
         }
-    }
-    state.counters["flights"] = 221;
 }
+
+void bareLongestSpinStudy(benchmark::State& state) {
+    flyBare(state, spinsUpTo(22000));
+}
+
+/// A form whose Run is the batch over the irons.
+struct BatchForm : LoadedForm {
+    BatchForm() : LoadedForm(0) {
+        main.form.optAuto.select();
+        main.form.optIron.select();
+        main.form.chkBatch.setChecked(true);
+    }
+};
 
 /// The computing and drawing of a batch over the irons, without the pauses.
 void batch(benchmark::State& state) {
-    LoadedForm loaded(0);
-    loaded.main.form.optAuto.select();
-    loaded.main.form.optIron.select();
-    loaded.main.form.chkBatch.setChecked(true);
+    BatchForm loaded;
     for (auto _ : state)
         loaded.main.form.Command1.Click();
-    state.counters["flights"] = 12;
+}
+
+void bareBatch(benchmark::State& state) {
+    BatchForm loaded;
+    loaded.main.form.Command1.Click();
+    std::vector<Shot> shots;
+    for (const RunRecord& flown : loaded.main.form.Runs.records().subspan(1)) {
+        Shot shot; // the rest is the weather of the defaults
+        shot.LaunchAngle = flown.LaunchAngle;
+        shot.RPM = flown.RPM;
+        shot.LaunchSpeed = flown.LaunchSpeed;
+        if (fly(shot)->record.Path != flown.Path)
+            return state.SkipWithError("The batch flies other shots.");
+        shots.push_back(shot);
+    }
+    flyBare(state, shots);
 }
 
 /// DrawCurves and the painting of the plot, at a density of the screen.
@@ -171,9 +221,11 @@ void openPrintView(benchmark::State& state) {
     }
 }
 
-BENCHMARK(bareFlight)->Unit(benchmark::kMicrosecond);
+BENCHMARK(bareSpinStudy)->Unit(benchmark::kMicrosecond);
 BENCHMARK(spinStudy)->Unit(benchmark::kMicrosecond);
+BENCHMARK(bareLongestSpinStudy)->Unit(benchmark::kMicrosecond);
 BENCHMARK(longestSpinStudy)->Unit(benchmark::kMicrosecond);
+BENCHMARK(bareBatch)->Unit(benchmark::kMicrosecond);
 BENCHMARK(batch)->Unit(benchmark::kMicrosecond);
 BENCHMARK(draw)->ArgsProduct({{1, 12, 24}, {1, 2}})->Unit(benchmark::kMicrosecond);
 BENCHMARK(pressRun)->Unit(benchmark::kMillisecond)->Iterations(20);

@@ -34,7 +34,7 @@ CellEditing::CellEditing(Grid& grid, TextBox& edit, Focus& focus, Advance advanc
     grid_.KeyPress.connect([this](KeyStroke& key) { gridKeyPress(key); });
     edit_.KeyDown.connect([this](int code) { editKeyDown(code); });
     edit_.KeyPress.connect([this](KeyStroke& key) { editKeyPress(key); });
-    edit_.LostFocus.connect([this] { edit_.setVisible(false); });
+    edit_.LostFocus.connect([this] { closeEdit(); });
 }
 
 void CellEditing::open() {
@@ -73,11 +73,19 @@ void CellEditing::leaveCell() {
     grid_.setCellBackColor(std::nullopt);
 }
 
+void CellEditing::closeEdit() {
+    showEdit();
+    edit_.setVisible(false);
+}
+
 void CellEditing::takeEdit() {
-    if (edit_.text().empty())
-        return;
-    setCell(edit_.text());
+    showEdit();
     edit_.setText("");
+}
+
+void CellEditing::showEdit() {
+    if (!edit_.text().empty())
+        setCell(edit_.text());
 }
 
 void CellEditing::gridKeyPress(KeyStroke& key) {

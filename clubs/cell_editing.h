@@ -16,7 +16,8 @@ std::string cellText(std::string_view typed);
 
 /// The key and focus rules of one grid and the edit box over its current cell. Either the box is
 /// hidden, the grid has the focus and the current cell is green; or the box stands over the cell
-/// and has the focus. The cell follows what is typed, and takes the box's text when it is left.
+/// and has the focus. The cell follows what is typed, and takes the box's text when box or cell is
+/// left.
 class CellEditing {
 public:
     /// Where a confirmed entry leads: on along the row, or down the column.
@@ -43,7 +44,9 @@ private:
     void backspaceInCell();
     void stepBack();
     void stepOn();
+    void closeEdit();
     void takeEdit();
+    void showEdit();
     void setCell(std::string_view typed) { grid_.setText(cellText(typed)); }
 
     Grid& grid_;

@@ -73,9 +73,9 @@ float clubField(const ClubTables& tables, ClubKind kind, int row, int col) {
 }
 
 std::string clubCellText(float value) {
-    // An infinity shows as the largest number, so that the bounds of its cell refuse it.
+    // The largest number stands for what isn't finite, so that the bounds of its cell refuse it.
     constexpr float kMost = std::numeric_limits<float>::max();
-    return std::isnan(value) ? "0" : shortestText(std::clamp(value, -kMost, kMost));
+    return shortestText(std::isnan(value) ? kMost : std::clamp(value, -kMost, kMost));
 }
 
 const ClubBounds& clubBounds(ClubKind kind, int row) {

@@ -27,8 +27,8 @@ std::string_view clubRowLabel(int row);
 float& clubField(ClubTables& tables, ClubKind kind, int row, int col);
 float clubField(const ClubTables& tables, ClubKind kind, int row, int col);
 
-/// How a cell shows a value of the club set. What isn't a number, as a broken file may hold, shows
-/// as the value that it counts for: 0.
+/// How a cell shows a value of the club set. What is infinite or no number, as a broken file may
+/// hold, shows as a number that no cell may hold.
 std::string clubCellText(float value);
 
 /// What a cell may hold, both bounds included, and what the user is told otherwise.

@@ -29,6 +29,10 @@ public:
     std::string title;
     std::string filter; ///< description and pattern in turn, separated by bars
 
+    /// A name to start with; a name without an ending then gets that of the filter. Empty to start
+    /// with none and to take names as they are typed.
+    std::string suggestedName;
+
     virtual void showOpen() = 0;
     virtual void showSave() = 0;
 

@@ -2,6 +2,11 @@
 
 namespace parabolt {
 
+void CaptionedControl::changeCaption(std::string caption) {
+    caption_ = std::move(caption);
+    viewChanged();
+}
+
 void Frame::setWidth(double twips) {
     width_ = twips;
     viewChanged();

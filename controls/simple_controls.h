@@ -2,9 +2,11 @@
 
 #include "controls/control.h"
 
+#include <utility>
+
 namespace parabolt {
 
-/// A control that shows one unchanging line of text; base of those that differ by what they do.
+/// A control that shows one line of text; base of those that differ by what they do.
 class CaptionedControl : public Control {
 public:
     CaptionedControl(ControlSet& form, std::string_view name, std::string_view caption,
@@ -12,6 +14,9 @@ public:
         : Control(form, name, whileBusy),
           caption_(caption) {}
     const std::string& caption() const { return caption_; }
+
+protected:
+    void changeCaption(std::string caption);
 
 private:
     std::string caption_;
@@ -21,6 +26,7 @@ private:
 class Label : public CaptionedControl {
 public:
     using CaptionedControl::CaptionedControl;
+    void setCaption(std::string caption) { changeCaption(std::move(caption)); }
 };
 
 /// A titled box around other controls. `Width` is in twips.

@@ -32,6 +32,7 @@ struct FlightState {
 struct RunTags {
     std::int16_t Mode = 0; ///< operating mode, 0 to 4
     bool IsWood = true;    ///< the club is a wood, not an iron
+    friend bool operator==(const RunTags&, const RunTags&) = default;
 };
 
 /// Flies the shot from the launch to the first step below the ground and completes the record of

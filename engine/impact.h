@@ -16,6 +16,7 @@ struct ImpactSources {
     bool wholeRecord = false;
     /// A launch angle that was measured: the attack angle then follows from it, not the other way.
     std::optional<double> measuredLaunchAngle;
+    friend bool operator==(const ImpactSources&, const ImpactSources&) = default;
 };
 
 /// Turns a swing into a launch: sets `RPM` (whole rpm), `LaunchAngle` and `LaunchSpeed` of the

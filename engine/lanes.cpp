@@ -96,28 +96,28 @@ struct Step {
 
 /// What the outcome needs of the path: the clock runs on, and the highest point so far is kept.
 HWY_INLINE void keepTime(Lanes& lanes, const LaneBalls& from, std::size_t i) {
-    const Floats t = hn::Load(kFloats, lanes.t + i);
-    hn::Store(t + all32(kTimeStep), kFloats, lanes.t + i);
+    const Floats t = hn::Load(kFloats, lanes.t.data() + i);
+    hn::Store(t + all32(kTimeStep), kFloats, lanes.t.data() + i);
 
-    const Floats x = store32(load(from.x + i) * all(kYardsPerMetre));
-    const Floats y = store32(load(from.y + i) * all(kYardsPerMetre));
-    const Floats topX = hn::Load(kFloats, lanes.topX + i);
-    const Floats topY = hn::Load(kFloats, lanes.topY + i);
+    const Floats x = store32(load(from.x.data() + i) * all(kYardsPerMetre));
+    const Floats y = store32(load(from.y.data() + i) * all(kYardsPerMetre));
+    const Floats topX = hn::Load(kFloats, lanes.topX.data() + i);
+    const Floats topY = hn::Load(kFloats, lanes.topY.data() + i);
     const FloatMask higher = hn::Gt(y, topY);
-    hn::Store(hn::IfThenElse(higher, x, topX), kFloats, lanes.topX + i);
-    hn::Store(hn::IfThenElse(higher, y, topY), kFloats, lanes.topY + i);
+    hn::Store(hn::IfThenElse(higher, x, topX), kFloats, lanes.topX.data() + i);
+    hn::Store(hn::IfThenElse(higher, y, topY), kFloats, lanes.topY.data() + i);
 }
 
 HWY_INLINE void meetAir(Step& step, const Lanes& lanes, const LaneBalls& from, std::size_t i) {
-    step.density = load(lanes.density + i);
-    step.vx = load(from.vx + i);
-    step.vy = load(from.vy + i);
-    step.w = load(from.w + i);
-    const Doubles along = step.vx + load(lanes.headWind + i);
+    step.density = load(lanes.density.data() + i);
+    step.vx = load(from.vx.data() + i);
+    step.vy = load(from.vy.data() + i);
+    step.w = load(from.w.data() + i);
+    const Doubles along = step.vx + load(lanes.headWind.data() + i);
     step.speedSquared = widen(store32(step.vy * step.vy + along * along));
     const Doubles speed = hn::Sqrt(step.speedSquared);
     const Floats reynolds =
-        store32(((step.density * all(kBallDiameter)) * speed) / load(lanes.viscosity + i));
+        store32(((step.density * all(kBallDiameter)) * speed) / load(lanes.viscosity.data() + i));
     const Floats spin = store32(((step.w * all(kBallDiameter)) * all(0.5)) / speed);
     step.spin = widen(spin);
 
@@ -182,13 +182,13 @@ HWY_INLINE void move(Step& step, const LaneBalls& from, LaneBalls& to, std::size
     const Floats w = store32(widen(aw) * dt + step.w);
     step.vx = widen(vx);
     step.vy = widen(vy);
-    const Floats x = store32(step.vx * dt + load(from.x + i));
-    const Floats y = store32(step.vy * dt + load(from.y + i));
-    hn::Store(vx, kFloats, to.vx + i);
-    hn::Store(vy, kFloats, to.vy + i);
-    hn::Store(w, kFloats, to.w + i);
-    hn::Store(x, kFloats, to.x + i);
-    hn::Store(y, kFloats, to.y + i);
+    const Floats x = store32(step.vx * dt + load(from.x.data() + i));
+    const Floats y = store32(step.vy * dt + load(from.y.data() + i));
+    hn::Store(vx, kFloats, to.vx.data() + i);
+    hn::Store(vy, kFloats, to.vy.data() + i);
+    hn::Store(w, kFloats, to.w.data() + i);
+    hn::Store(x, kFloats, to.x.data() + i);
+    hn::Store(y, kFloats, to.y.data() + i);
 
     const Floats sum = hn::Abs(((x + y) + (vx + vy)) + w);
     step.up =
@@ -197,7 +197,8 @@ HWY_INLINE void move(Step& step, const LaneBalls& from, LaneBalls& to, std::size
 
 HWY_INLINE void turn(Step& step, LaneBalls& to, std::size_t i) {
     const Doubles theta = hn::Atan(kDoubles, step.vy / step.vx);
-    hn::Store(store32(theta, hn::Abs(theta) * all(kBound), step.sure), kFloats, to.theta + i);
+    hn::Store(store32(theta, hn::Abs(theta) * all(kBound), step.sure), kFloats,
+              to.theta.data() + i);
 }
 
 /// One step of all lanes; false if one of them needs a look.
@@ -205,7 +206,7 @@ HWY_INLINE bool advanceAll(Lanes& lanes) {
     lanes.turn = 1 - lanes.turn;
     const LaneBalls& from = lanes.before();
     LaneBalls& to = lanes.now();
-    Step steps[kVectors];
+    std::array<Step, kVectors> steps;
     const auto each = [&](auto formulas) HWY_ATTR {
         formulas(steps[0], 0);
         formulas(steps[1], kLanesOfVector);
@@ -214,14 +215,15 @@ HWY_INLINE bool advanceAll(Lanes& lanes) {
     each([&](Step&, std::size_t i) HWY_ATTR { keepTime(lanes, from, i); });
     each([&](Step& step, std::size_t i) HWY_ATTR { meetAir(step, lanes, from, i); });
     each([&](Step& step, std::size_t i) HWY_ATTR {
-        step.lift = hn::Load(kDoubles, lanes.liftExponent + i) * hn::Log(kDoubles, step.spin);
+        step.lift =
+            hn::Load(kDoubles, lanes.liftExponent.data() + i) * hn::Log(kDoubles, step.spin);
     });
     each([&](Step& step, std::size_t) HWY_ATTR { computeLift(step); });
     each([&](Step& step, std::size_t) HWY_ATTR { computeDrag(step); });
     each([&](Step& step, std::size_t i)
-             HWY_ATTR { step.cosTheta = hn::Cos(kDoubles, load(from.theta + i)); });
+             HWY_ATTR { step.cosTheta = hn::Cos(kDoubles, load(from.theta.data() + i)); });
     each([&](Step& step, std::size_t i)
-             HWY_ATTR { step.sinTheta = hn::Sin(kDoubles, load(from.theta + i)); });
+             HWY_ATTR { step.sinTheta = hn::Sin(kDoubles, load(from.theta.data() + i)); });
     each([&](Step& step, std::size_t i) HWY_ATTR { move(step, from, to, i); });
     each([&](Step& step, std::size_t i) HWY_ATTR { turn(step, to, i); });
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -8,26 +9,29 @@ namespace parabolt {
 
 inline constexpr std::size_t kMostLanes = 24; ///< of any processor: three vectors of eight
 
+template <class Number>
+using PerLane = std::array<Number, kMostLanes>;
+
 /// Balls in flight beside each other; members as in `FlightState`.
 struct alignas(64) LaneBalls {
-    float x[kMostLanes];
-    float y[kMostLanes];
-    float vx[kMostLanes];
-    float vy[kMostLanes];
-    float w[kMostLanes];
-    float theta[kMostLanes];
+    PerLane<float> x;
+    PerLane<float> y;
+    PerLane<float> vx;
+    PerLane<float> vy;
+    PerLane<float> w;
+    PerLane<float> theta;
 };
 
 /// All that the lanes compute with. The air is that of `FlightAir`.
 struct alignas(64) Lanes {
-    double liftExponent[kMostLanes]; ///< above 0, at most `kMostLaneExponent`
-    float density[kMostLanes];
-    float viscosity[kMostLanes];
-    float headWind[kMostLanes];
-    float t[kMostLanes];    ///< seconds since the launch
-    float topX[kMostLanes]; ///< yards, of the first of the highest points before the last step
-    float topY[kMostLanes];
-    LaneBalls balls[2]; ///< behind the last step and before it, by turns
+    PerLane<double> liftExponent; ///< above 0, at most `kMostLaneExponent`
+    PerLane<float> density;
+    PerLane<float> viscosity;
+    PerLane<float> headWind;
+    PerLane<float> t;    ///< seconds since the launch
+    PerLane<float> topX; ///< yards, of the first of the highest points before the last step
+    PerLane<float> topY;
+    std::array<LaneBalls, 2> balls; ///< behind the last step and before it, by turns
     std::size_t turn;
     std::uint32_t
         unsure; ///< a bit for each lane whose last step has to be done again, by `advance`

@@ -193,11 +193,11 @@ private:
     SingleFlights single_;
     const LaneWay& way_;
     Lanes lanes_{};
-    Flight flights_[kMostLanes];
+    PerLane<Flight> flights_;
 };
 
 void flyShare(Queue& queue, const LaneWay* lanes) {
-    if (lanes)
+    if (lanes != nullptr)
         LaneFlights(queue, *lanes).flyAll();
     else
         SingleFlights(queue).flyAll();

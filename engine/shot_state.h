@@ -27,7 +27,7 @@ struct ShotInputs {
     float Bending = 0;        ///< degrees, -10 to 10: shaft bend at impact; adds to the loft
 
     // Weather and course.
-    double WindSpeed = 0;        ///< mph, -35 to 35, along the line of play; positive is a head wind
+    double WindSpeed = 0;        ///< mph, -35 to 35, along the line; above 0 against the ball
     float Temperature = 70;      ///< degrees Fahrenheit, 20 to 120
     float BaroPressure = 29.92F; ///< inches of mercury, 25 to 34, as read at sea level
     float RH = 50;               ///< percent, 0 to 100: relative humidity
@@ -37,6 +37,8 @@ struct ShotInputs {
     float Slope1 = 0;          ///< rpm per degree and mph, added to the impact model's spin factor
     float CD1 = 0;             ///< added to the exponent of the lift law
     std::int16_t BallType = 4; ///< selected option, 1 to 4
+
+    friend bool operator==(const ShotInputs&, const ShotInputs&) = default;
 };
 
 /// The one set of numbers from which the engine computes a shot: its inputs, and what is derived

@@ -15,14 +15,15 @@ struct DialogRule {
     void (FileDialog::*show)();
     std::string_view title;
     std::string_view filter;
-    std::array<std::string_view, 2> endings; ///< in lower case, without a dot; the second may lack
+    std::array<std::string_view, 3> endings; ///< in lower case, without a dot; all but one may lack
     std::string_view refusal;
+    std::string_view suggestion = {}; ///< a name to start with
 };
 
 constexpr std::string_view kCannotOpen = "The file type is not correct!";
 constexpr std::string_view kCannotSave = "The file type is not support!";
 
-constexpr std::array<DialogRule, 5> kRules{{
+constexpr std::array<DialogRule, 7> kRules{{
     {DialogPurpose::OpenParameters,
      &FileDialog::showOpen,
      "Open Parameters File",
@@ -53,6 +54,20 @@ constexpr std::array<DialogRule, 5> kRules{{
      "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt",
      {"clb", "txt"},
      kCannotSave},
+    {DialogPurpose::SaveMapPicture,
+     &FileDialog::showSave,
+     "Save Carry Map As Picture",
+     "PNG Picture(*.png)|*.png|SVG Drawing(*.svg)|*.svg|PDF Document(*.pdf)|*.pdf",
+     {"png", "svg", "pdf"},
+     kCannotSave,
+     "carry map.png"},
+    {DialogPurpose::SaveMapTable,
+     &FileDialog::showSave,
+     "Export Carry Map As Table",
+     "Comma-Separated Values(*.csv)|*.csv",
+     {"csv"},
+     kCannotSave,
+     "carry map.csv"},
 }};
 
 constexpr std::string_view kAppName = "Parabolt";
@@ -85,6 +100,7 @@ Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& wor
     dialog_.initialFolder = lastPath->empty() ? applicationFolder_ : *lastPath;
     dialog_.title = rule.title;
     dialog_.filter = rule.filter;
+    dialog_.suggestedName = rule.suggestion;
     (dialog_.*rule.show)();
 
     if (const std::string fileName = dialog_.fileName; !fileName.empty()) {

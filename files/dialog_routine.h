@@ -9,14 +9,22 @@
 namespace parabolt {
 
 /// What a file dialog is shown for.
-enum class DialogPurpose { OpenParameters, SaveParameters, SaveResult, OpenClubs, SaveClubs };
+enum class DialogPurpose {
+    OpenParameters,
+    SaveParameters,
+    SaveResult,
+    OpenClubs,
+    SaveClubs,
+    SaveMapPicture,
+    SaveMapTable
+};
 
 /// What all file dialogs of the program have in common: they start in the folder where the last one
 /// ended, and refuse names by their ending.
 class DialogRoutine {
 public:
-    /// Does what the dialog was shown for. Gets the file's name and the ending that it matched, one
-    /// of "opt", "clb" and "txt".
+    /// Does what the dialog was shown for. Gets the file's name and the ending that it matched, in
+    /// lower case and without a dot.
     using Work =
         std::function<Outcome<void, Failure>(const std::string& fileName, std::string_view ending)>;
 

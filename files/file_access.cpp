@@ -1,11 +1,9 @@
 #include "files/file_access.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <filesystem>
-#include <memory>
+#include "files/system_file.h"
+
+#include <algorithm>
 #include <random>
-#include <system_error>
 
 namespace parabolt {
 
@@ -13,23 +11,25 @@ namespace fs = std::filesystem;
 
 namespace {
 
-struct Close {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using File = std::unique_ptr<std::FILE, Close>;
-
 enum class Tail { Kept, Dropped };
+using Open = SystemFile::Open;
 
-std::error_code lastError() {
-    return {errno, std::generic_category()};
-}
+constexpr std::string_view kTemporaryStart = ".parabolt-";
+constexpr std::string_view kTemporaryEnd = ".tmp";
+
+/// A larger file has a tail that isn't ours: to copy it, perhaps by the gigabyte, would cost the
+/// user more than a whole old file is worth.
+constexpr ::off_t kMostCopied = 1 << 20;
 
 Because<Failure> failure(const std::error_code& error) {
     const bool badName = error == std::errc::filename_too_long ||
                          error == std::errc::invalid_argument ||
                          error == std::errc::illegal_byte_sequence;
     const auto code = static_cast<std::uint32_t>(error.value());
-    return because(Failure{badName ? kBadFileName : kFileFailureBase + code, error.message()});
+    return because(Failure{badName ? kBadFileName : kFileFailureBase + code,
+                           error == std::errc::not_supported
+                               ? "This is a pipe or a device, not an ordinary file"
+                               : englishText(error)});
 }
 
 /// The system's functions would take such a name for the part in front of the zero.
@@ -37,80 +37,110 @@ bool holdsZero(const std::string& fileName) {
     return fileName.find('\0') != std::string::npos;
 }
 
-/// Opens a file for reading and writing where it stands; creates it if there is none.
-File openOrCreate(const std::string& fileName) {
-    File file(std::fopen(fileName.c_str(), "r+b"));
-    if (file == nullptr && errno == ENOENT)
-        file.reset(std::fopen(fileName.c_str(), "w+b"));
-    return file;
+/// What stands for an end that leaves the bytes to be written into the old file.
+std::error_code intoOldFile() {
+    return std::make_error_code(std::errc::operation_not_permitted);
 }
 
-/// Writes at the file's position and closes it. Only the close tells whether all has arrived.
-std::error_code writeAndClose(File file, const std::string& data) {
-    if (std::fwrite(data.data(), 1, data.size(), file.get()) != data.size())
-        return lastError();
-    return std::fclose(file.release()) == 0 ? std::error_code() : lastError();
+std::error_code writeInPlace(const fs::path& target, std::string_view data, Tail tail) {
+    SystemFile file(target, Open::OrNew);
+    file.write(data);
+    if (tail == Tail::Dropped)
+        file.cut(data.size());
+    file.sync();
+    return file.error;
 }
 
-std::error_code writeInPlace(const std::string& fileName, const std::string& data, Tail tail) {
-    File file =
-        tail == Tail::Kept ? openOrCreate(fileName) : File(std::fopen(fileName.c_str(), "wb"));
-    return file == nullptr ? lastError() : writeAndClose(std::move(file), data);
+bool isTemporaryName(const std::string& name) {
+    return name.size() > kTemporaryStart.size() + kTemporaryEnd.size() &&
+           name.starts_with(kTemporaryStart) && name.ends_with(kTemporaryEnd) &&
+           std::all_of(name.begin() + kTemporaryStart.size(), name.end() - kTemporaryEnd.size(),
+                       [](char c) { return c >= '0' && c <= '9'; });
 }
 
-fs::path temporaryName(const fs::path& target) {
-    return target.parent_path() / (".parabolt-" + std::to_string(std::random_device()()) + ".tmp");
-}
-
-/// Makes the new file beside the old one. `old` is what is known of the old file.
-std::error_code writeTemporary(const fs::path& temporary, const fs::path& target,
-                               const fs::file_status& old, const std::string& data, Tail tail) {
-    std::error_code error;
-    const bool copy = fs::exists(old) && tail == Tail::Kept;
-    if (copy && !fs::copy_file(target, temporary, error))
-        return error;
-    File file(std::fopen(temporary.c_str(), copy ? "r+b" : "wbx"));
-    if (file == nullptr)
-        return lastError();
-    if (fs::exists(old)) // before anything private stands in it
-        fs::permissions(temporary, old.permissions(), error);
-    return error ? error : writeAndClose(std::move(file), data);
-}
-
-bool takesPlaceOfOld(const fs::path& target, const fs::file_status& old) {
+/// Removes the temporary files of writes that didn't live to do so. A living one has marked its
+/// own.
+void removeLeftovers(const fs::path& folder) {
     std::error_code ignored;
-    if (!fs::exists(old)) // a link whose target is missing stays, and gets its target
-        return !fs::is_symlink(fs::symlink_status(target, ignored));
-    return fs::is_regular_file(old) && fs::hard_link_count(target, ignored) == 1;
+    const fs::directory_iterator end;
+    for (fs::directory_iterator at(folder.empty() ? "." : folder, ignored); at != end;
+         at.increment(ignored)) {
+        if (!isTemporaryName(at->path().filename().string()) || at->is_symlink(ignored))
+            continue;
+        SystemFile file(at->path(), Open::Existing);
+        if (!file.error && file.mark() == SystemFile::Mark::Ours)
+            fs::remove(at->path(), ignored);
+    }
 }
 
-Outcome<void, Failure> write(const std::string& fileName, const std::string& data, Tail tail) {
+/// Puts a new file into the place of the target. `old` is what is known of the old one, if any.
+std::error_code putNewFile(const fs::path& target, const std::optional<struct ::stat>& old,
+                           std::string_view content) {
+    for (;;) {
+        const fs::path name =
+            target.parent_path() / std::string(kTemporaryStart)
+                                       .append(std::to_string(std::random_device()()))
+                                       .append(kTemporaryEnd);
+        // Nobody else may read the content of a private file meanwhile.
+        SystemFile file(name, Open::New, old ? 0600 : 0666);
+        if (file.error)
+            return file.error;
+        const bool others = file.mark() == SystemFile::Mark::Others;
+        if (const auto made = file.status(); others || (made && made->st_nlink == 0))
+            continue; // taken for a leftover before it was marked
+
+        std::error_code error;
+        if (old && !file.take(*old)) {
+            error = intoOldFile();
+        } else {
+            file.write(content);
+            file.sync();
+            error = file.error;
+        }
+        if (!error)
+            fs::rename(name, target, error);
+        std::error_code ignored;
+        if (error)
+            fs::remove(name, ignored);
+        else
+            syncFolder(target.parent_path());
+        return error;
+    }
+}
+
+/// Writes a new file that takes the place of the old one.
+std::error_code writeAnew(const fs::path& target, std::string_view data, Tail tail) {
+    std::error_code ignored;
+    if (!fs::exists(fs::symlink_status(target, ignored)))
+        return putNewFile(target, std::nullopt, data);
+    SystemFile file(target, Open::Existing);
+    const std::optional<struct ::stat> old = file.status();
+    if (file.error == std::errc::no_such_file_or_directory)
+        return intoOldFile(); // the link stays, and gets its target
+    if (!old)
+        return file.error;
+    const bool large = tail == Tail::Kept && old->st_size > kMostCopied;
+    if (large || old->st_nlink > 1 || hasAccessList(target))
+        return intoOldFile();
+    std::string content(data);
+    if (tail == Tail::Kept) {
+        const std::string before = file.read(static_cast<std::size_t>(old->st_size));
+        content.append(before, std::min(before.size(), data.size()));
+    }
+    return file.error ? file.error : putNewFile(target, old, content);
+}
+
+Outcome<void, Failure> write(const std::string& fileName, std::string_view data, Tail tail) {
     if (holdsZero(fileName))
         return failure(std::make_error_code(std::errc::invalid_argument));
     std::error_code error;
     fs::path target = fs::canonical(fileName, error);
     if (error)
         target = fileName;
-    const fs::file_status old = fs::status(target, error);
-    if (fs::exists(old) && File(std::fopen(target.c_str(), "r+b")) == nullptr)
-        return failure(lastError());
-
-    bool inPlace = !takesPlaceOfOld(target, old);
-    error.clear();
-    if (!inPlace) {
-        const fs::path temporary = temporaryName(target);
-        error = writeTemporary(temporary, target, old, data, tail);
-        if (!error)
-            fs::rename(temporary, target, error);
-        if (error) {
-            std::error_code ignored;
-            fs::remove(temporary, ignored);
-        }
-        inPlace =
-            error == std::errc::permission_denied || error == std::errc::operation_not_permitted;
-    }
-    if (inPlace)
-        error = writeInPlace(target.string(), data, tail);
+    removeLeftovers(target.parent_path());
+    error = writeAnew(target, data, tail);
+    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted)
+        error = writeInPlace(target, data, tail);
     if (error)
         return failure(error);
     return {};
@@ -121,26 +151,18 @@ Outcome<void, Failure> write(const std::string& fileName, const std::string& dat
 Outcome<Bytes, Failure> readFileStart(const std::string& fileName, std::size_t most) {
     if (holdsZero(fileName))
         return failure(std::make_error_code(std::errc::invalid_argument));
-    std::error_code error;
-    const fs::file_status status = fs::status(fileName, error);
-    // A pipe or a terminal would let the reader wait without end.
-    if (fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status))
-        return failure(std::make_error_code(std::errc::not_supported));
-    const File file = openOrCreate(fileName);
-    if (file == nullptr)
-        return failure(lastError());
-    Bytes data(most);
-    data.resize(std::fread(data.data(), 1, most, file.get()));
-    if (std::ferror(file.get()) != 0)
-        return failure(lastError());
-    return data;
+    SystemFile file(fileName, Open::OrNew);
+    const std::string data = file.read(most);
+    if (file.error)
+        return failure(file.error);
+    return Bytes(data.begin(), data.end());
 }
 
 Outcome<void, Failure> writeFileStart(const std::string& fileName, const Bytes& data) {
     return write(fileName, std::string(data.begin(), data.end()), Tail::Kept);
 }
 
-Outcome<void, Failure> replaceFile(const std::string& fileName, const std::string& content) {
+Outcome<void, Failure> replaceFile(const std::string& fileName, std::string_view content) {
     return write(fileName, content, Tail::Dropped);
 }
 

@@ -14,6 +14,13 @@ Shot takeShot(const ShotControls& form, const ClubTables& clubs) {
     return shot;
 }
 
+Shot acceptedShot(const ShotControls& form, const ClubTables& clubs) {
+    Shot shot = takeShot(form, clubs);
+    if (shot.sources.measuredLaunchAngle && form.focus.active() == &form.txtLaunchAngle)
+        shot.sources.measuredLaunchAngle = form.shot.LaunchAngle;
+    return shot;
+}
+
 std::optional<ClubRecord> clubOfSet(const Shot& shot, const ClubTables& clubs) {
     if (shot.Mode != OperatingMode::Default && shot.Mode != OperatingMode::Auto)
         return std::nullopt;

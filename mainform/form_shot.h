@@ -14,6 +14,9 @@ namespace parabolt {
 /// and the club of the set where the mode asks for one.
 Shot takeShot(const ShotControls& form, const ClubTables& clubs);
 
+/// The same without what is still being typed: a measured launch angle counts from its acceptance.
+Shot acceptedShot(const ShotControls& form, const ClubTables& clubs);
+
 /// The club of the set that the mode, the club type and `ClubNo` choose; none in the modes that
 /// take no club from the set.
 std::optional<ClubRecord> clubOfSet(const Shot& shot, const ClubTables& clubs);

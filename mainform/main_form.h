@@ -142,6 +142,7 @@ struct MenuControls : virtual FormCore {
     MenuItem mnuStudies{controls, "mnuStudies", "&Studies", WhileBusy::Free};
     MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
     MenuItem mnuStySpin{controls, "mnuStySpin", "Spin &Rate"};
+    MenuItem mnuStyMap{controls, "mnuStyMap", "Carry &Map...", WhileBusy::Free};
     MenuItem mnuReset{controls, "mnuReset", "&Reset"};
     MenuItem Help{controls, "Help", "&Help", WhileBusy::Free};
     MenuItem mnuHelp{controls, "mnuHelp", "&Help", WhileBusy::Free};

@@ -1,5 +1,7 @@
 #include "mainform/plot_panel.h"
 
+#include "numbers/text_number.h"
+
 namespace parabolt {
 
 void PlotPanel::Form_Resize(const FormSize& size, bool minimized) {
@@ -32,6 +34,15 @@ void PlotPanel::PreparePrintPlots() {
     DrawPrintFrame(results_.printPlot(), run_.sRange);
     if (runNumber(run_) >= 1)
         DrawPrintCurves(results_.printPlot(), run_.Runs.records());
+}
+
+std::string PlotPanel::inWords() const {
+    const int count = run_.Runs.count();
+    std::string words = std::to_string(count) + (count == 1 ? " data set." : " data sets.");
+    for (int number = 1; number <= count; ++number)
+        words += " " + std::to_string(number) + ": carry " +
+                 formatPattern(run_.Runs[number].CarryDist, "0") + " yards.";
+    return words;
 }
 
 } // namespace parabolt

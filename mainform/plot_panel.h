@@ -25,6 +25,8 @@ public:
     void DrawCurves();
     /// Gives the print twin the present geometry and draws it completely.
     void PreparePrintPlots();
+    /// What the plot shows, in words: the number of data sets, and the carry of each.
+    std::string inWords() const;
 
 private:
     RunControls& run_;

@@ -4,6 +4,22 @@
 #include <utility>
 
 namespace parabolt {
+namespace {
+
+bool contains(const DrawnBox& box, Place place) {
+    return place.x >= box.corner.x && place.x <= box.corner.x + box.size.x &&
+           place.y >= box.corner.y && place.y <= box.corner.y + box.size.y;
+}
+
+bool hides(const DrawnBox& box, const Drawing& earlier) {
+    if (const auto* text = std::get_if<DrawnText>(&earlier))
+        return contains(box, text->place);
+    const auto* other = std::get_if<DrawnBox>(&earlier);
+    return other != nullptr && contains(box, other->corner) &&
+           contains(box, {other->corner.x + other->size.x, other->corner.y + other->size.y});
+}
+
+} // namespace
 
 PictureBox::PictureBox(ControlSet& form, std::string_view name, Rgb background, Rgb foreground)
     : Control(form, name),
@@ -43,7 +59,9 @@ void PictureBox::curve(std::span<const TrajectoryPoint> points) {
 }
 
 void PictureBox::box(Place corner, Place size, Rgb colour) {
-    add(DrawnBox{corner, size, colour});
+    const DrawnBox box{corner, size, colour};
+    std::erase_if(drawings_, [&box](const Drawing& earlier) { return hides(box, earlier); });
+    add(box);
 }
 
 void PictureBox::circle(Place centre, double radius) {
@@ -52,6 +70,14 @@ void PictureBox::circle(Place centre, double radius) {
 
 void PictureBox::print(Place place, std::string text) {
     add(DrawnText{place, std::move(text), foreColor_});
+}
+
+void PictureBox::label(Place place, std::string text, Place anchor, std::optional<Rgb> halo) {
+    add(DrawnText{place, std::move(text), foreColor_, anchor, halo});
+}
+
+void PictureBox::image(Place corner, Place size, int columns, std::vector<Rgb> pixels) {
+    add(DrawnImage{corner, size, columns, std::move(pixels)});
 }
 
 void PictureBox::add(Drawing drawing) {

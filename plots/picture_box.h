@@ -4,6 +4,7 @@
 #include "engine/shot_state.h"
 #include "numbers/rgb.h"
 
+#include <optional>
 #include <span>
 #include <string>
 #include <variant>
@@ -46,13 +47,24 @@ struct DrawnCircle { ///< outline; the radius is in x units
     int pen = 1;
     friend bool operator==(const DrawnCircle&, const DrawnCircle&) = default;
 };
-struct DrawnText { ///< top left corner at the place
+struct DrawnText { ///< top left corner at the place, unless `anchor` says otherwise
     Place place;
     std::string text;
     Rgb colour;
+    /// What of the text stands at the place, in shares of its width and height: {0.5, 1} is the
+    /// middle of its lower edge.
+    Place anchor{};
+    std::optional<Rgb> halo{}; ///< a rim around the letters, for a coloured ground
     friend bool operator==(const DrawnText&, const DrawnText&) = default;
 };
-using Drawing = std::variant<DrawnLine, DrawnCurve, DrawnBox, DrawnCircle, DrawnText>;
+struct DrawnImage { ///< rows of equal pixels, from the corner on
+    Place corner;
+    Place size;
+    int columns = 1;
+    std::vector<Rgb> pixels;
+    friend bool operator==(const DrawnImage&, const DrawnImage&) = default;
+};
+using Drawing = std::variant<DrawnLine, DrawnCurve, DrawnBox, DrawnCircle, DrawnText, DrawnImage>;
 
 /// The coordinates of a canvas: its left edge has the x value `left`, its top edge the y value
 /// `top`; a negative `height` makes y run upward.
@@ -65,8 +77,9 @@ struct CanvasScale {
 };
 
 /// A canvas that remembers what was drawn on it, as shapes, until it is erased. A view paints the
-/// shapes at its own resolution, on the screen as on paper. Everything drawn is opaque, so a shape
-/// that is drawn again hides its earlier self: only the last of equal shapes is kept.
+/// shapes at its own resolution, on the screen as on paper. Everything drawn is opaque, so what can
+/// no longer be seen isn't kept: of equal shapes the last stays, and a filled box takes away the
+/// boxes inside it and the texts that start in it.
 class PictureBox : public Control {
 public:
     PictureBox(ControlSet& form, std::string_view name, Rgb background, Rgb foreground);
@@ -100,6 +113,10 @@ public:
     void box(Place corner, Place size, Rgb colour);
     void circle(Place centre, double radius);
     void print(Place place, std::string text);
+    /// A text by its anchor, with a rim if one is given.
+    void label(Place place, std::string text, Place anchor, std::optional<Rgb> halo = std::nullopt);
+    /// Pixels in rows of `columns`, stretched over a rectangle.
+    void image(Place corner, Place size, int columns, std::vector<Rgb> pixels);
 
     const std::vector<Drawing>& drawings() const { return drawings_; }
 

@@ -1,5 +1,7 @@
 #include "printing/matrix_str.h"
 
+#include "files/code_page.h"
+
 #include <stdexcept>
 
 namespace parabolt {
@@ -33,7 +35,8 @@ void clsMatrixStr::Clear() {
 }
 
 std::string clsMatrixStr::GetField(std::int16_t vintRow) const {
-    return vintRow > MaxRows() ? std::string() : rows_.at(static_cast<std::size_t>(vintRow));
+    return vintRow > MaxRows() ? std::string()
+                               : fromCodePage(rows_.at(static_cast<std::size_t>(vintRow)));
 }
 
 void clsMatrixStr::Field(std::int32_t veumAlign, std::int16_t vintCol, std::int16_t vintRow,
@@ -43,15 +46,16 @@ void clsMatrixStr::Field(std::int32_t veumAlign, std::int16_t vintCol, std::int1
     const auto rowIndex = static_cast<std::size_t>(vintRow);
     if (vintRow > MaxRows())
         rows_.resize(rowIndex + 1);
-    if (vvntValue.empty())
+    const std::string bytes = toCodePage(vvntValue);
+    if (bytes.empty())
         return;
-    const long length = checked(static_cast<long>(vvntValue.size()));
+    const long length = checked(static_cast<long>(bytes.size()));
     const long last = lastColumn(veumAlign, vintCol, length);
     checked(last - length); // the column before the first
     if (last < 1)
         return;
     const auto end = static_cast<std::size_t>(last);
-    const std::string_view value = vvntValue.substr(0, end);
+    const std::string_view value = std::string_view(bytes).substr(0, end);
     std::string& row = rows_[rowIndex];
     if (row.size() < end)
         row.append(end - row.size(), ' ');
@@ -62,7 +66,7 @@ std::string clsMatrixStr::OutForm() const {
     std::string text;
     for (std::size_t row = 1; row < rows_.size(); ++row) {
         const std::size_t length = rows_[row].find_last_not_of(' ') + 1;
-        text.append(rows_[row], 0, length).append("\r\n");
+        text.append(fromCodePage(std::string_view(rows_[row]).substr(0, length))).append("\r\n");
     }
     return text;
 }

@@ -8,7 +8,9 @@
 namespace parabolt {
 
 /// A block of monospaced text that is written field by field, in any order, and taken as a whole.
-/// Rows and columns count from 1; a column is one byte. The block grows as fields need it.
+/// Rows and columns count from 1; a column is one character of the code page, and a character that
+/// the code page lacks becomes a "?". Texts go in and come out as UTF-8. The block grows as fields
+/// need it.
 class clsMatrixStr {
 public:
     /// How a field lies to its column.
@@ -37,7 +39,7 @@ public:
     std::string OutForm() const;
 
 private:
-    std::vector<std::string> rows_ = {{}}; ///< element 0 stays empty
+    std::vector<std::string> rows_ = {{}}; ///< in the code page; element 0 stays empty
 };
 
 } // namespace parabolt

@@ -8,6 +8,14 @@ namespace {
 
 constexpr std::string_view kUntitled = "Parabolt - Report"; ///< of a document without a caption
 
+/// What the user reads about the rows that the page leaves out.
+std::string tellRowsLeftOut(int rows) {
+    if (rows == 0)
+        return {};
+    return std::to_string(rows) +
+           (rows == 1 ? " row of the table doesn't fit." : " rows of the table don't fit.");
+}
+
 } // namespace
 
 PrintView::PrintView(PrintViewForm& form, const PlotCanvases& printPlot,
@@ -17,6 +25,7 @@ PrintView::PrintView(PrintViewForm& form, const PlotCanvases& printPlot,
       txtResult_(txtResult),
       printer_(printer),
       messages_(messages) {
+    form_.lblRows.setCaption(tellRowsLeftOut(rowsLeftOut(txtResult.text())));
     form_.cmdPrintPreview.Click.connect([this] { cmdPrintPreview_Click(); });
     form_.cmdPrint.Click.connect([this] { cmdPrint_Click(); });
     form_.cmdClose.Click.connect([this] {
@@ -54,6 +63,7 @@ void PrintView::cmdPrint_Click() {
     const std::string_view title = content.caption.empty() ? kUntitled : content.caption;
     const auto printed =
         printer_.print(title, [&](Page& page) { ComposeReport(page, 1, PicRatio_, content); });
+    form_.lblResult.setCaption(printed ? *printed : "");
     if (!printed)
         messages_.show(printed.why());
 }

@@ -24,6 +24,8 @@ struct PrintViewForm {
     Button cmdPrintPreview{controls, "cmdPrintPreview", "Pre&view"};
     Button cmdPrint{controls, "cmdPrint", "&Print"};
     Button cmdClose{controls, "cmdClose", "&Close"};
+    Label lblRows{controls, "lblRows", ""};     ///< how much of the table the page leaves out
+    Label lblResult{controls, "lblResult", ""}; ///< where the last report went
     PictureBox Picture0{controls, "Picture0", kWhite, kBlack}; ///< the page on the screen
 };
 

@@ -18,9 +18,10 @@ public:
     virtual PageSize paper() = 0;
 
     /// Lets `compose` draw one page, in inches of the report's layout, and sends it out under a
-    /// title, or describes what went wrong. Nothing is drawn if the user backs out.
-    virtual Outcome<void, std::string> print(std::string_view title,
-                                             const std::function<void(Page&)>& compose) = 0;
+    /// title. Tells the user where it went, or describes what went wrong. Nothing is drawn, and
+    /// nothing told, if the user backs out.
+    virtual Outcome<std::string, std::string> print(std::string_view title,
+                                                    const std::function<void(Page&)>& compose) = 0;
 };
 
 } // namespace parabolt

@@ -22,8 +22,9 @@ constexpr double kCaptionSize = 16;
 constexpr double kHeadingSize = 14;
 constexpr double kTableSize = 9;
 
-constexpr int kLastLine = 17; ///< of the table, the first being 0
+constexpr std::size_t kMostRows = 18; ///< of the table
 constexpr std::int16_t kLineLength = 125;
+constexpr std::size_t kRoomDown = 19; ///< lines that fit between the table's top and the frame
 
 /// Pages wider than this get the wide pen for the frame, in twips.
 constexpr double kWidePage = 10000;
@@ -50,15 +51,20 @@ void paintPlot(Page& target, double PicRatio, const PlotCanvases& plot) {
     target.PaintPlot(plot, kPlot, {width * fit, kPlotHeight * fit});
 }
 
-void writeTableLine(Page& target, std::string_view line) {
-    const auto write = [&target](std::string_view text) {
-        target.CurrentX = kTable.x;
-        target.Print(text);
-    };
-    if (characterCount(line) <= kLineLength)
-        return write(line);
-    for (const std::string& piece : SplitSentence(line, kLineLength))
-        write(piece);
+/// The rows of the table, each as the lines in which it is printed.
+std::vector<std::vector<std::string>> printedRows(std::string_view table) {
+    std::vector<std::vector<std::string>> rows;
+    while (!table.empty()) {
+        std::string_view row = table.substr(0, table.find('\n'));
+        table.remove_prefix(std::min(row.size() + 1, table.size()));
+        if (row.ends_with('\r'))
+            row.remove_suffix(1);
+        if (characterCount(row) <= kLineLength)
+            rows.push_back({std::string(row)});
+        else
+            rows.push_back(SplitSentence(row, kLineLength));
+    }
+    return rows;
 }
 
 } // namespace
@@ -78,6 +84,21 @@ PreviewScale ScalePreviewToPage(const PageSize& page, double boxWidth, double bo
     const double Ratio = std::min(boxHeight / page.height, boxWidth / page.width);
     return {Ratio, page.width * Ratio, page.height * Ratio, -(page.width - page.printableWidth) / 2,
             -(page.height - page.printableHeight) / 2};
+}
+
+int rowsLeftOut(std::string_view table) {
+    int leftOut = 0;
+    std::size_t number = 0;
+    std::size_t down = 0; // printed lines so far
+    for (const auto& row : printedRows(table)) {
+        std::size_t last = down; // line that isn't empty
+        for (const std::string& line : row)
+            if (++down; !line.empty())
+                last = down;
+        if (++number > kMostRows || last > kRoomDown)
+            leftOut += row.front().find_first_not_of(' ') == std::string::npos ? 0 : 1;
+    }
+    return leftOut;
 }
 
 void ComposeReport(Page& target, double Ratio, double PicRatio, const ReportContent& content) {
@@ -100,14 +121,13 @@ void ComposeReport(Page& target, double Ratio, double PicRatio, const ReportCont
 
     target.FontSize = kTableSize * Ratio;
     target.CurrentY = kTable.y;
-    std::string_view rest = content.table;
-    for (int number = 0; number <= kLastLine && !rest.empty(); ++number) {
-        std::string_view line = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-        if (line.ends_with('\r'))
-            line.remove_suffix(1);
-        writeTableLine(target, line);
-    }
+    auto rows = printedRows(content.table);
+    rows.resize(std::min(rows.size(), kMostRows));
+    for (const auto& row : rows)
+        for (const std::string& line : row) {
+            target.CurrentX = kTable.x;
+            target.Print(line);
+        }
 }
 
 std::vector<std::string> SplitSentence(std::string_view text, std::int16_t maxLength) {

@@ -46,6 +46,10 @@ struct ReportContent {
     PlotCanvases plot;
 };
 
+/// How many rows of the table the report loses: those beyond its last line, and those that wrapped
+/// lines above push out of the frame. Empty rows are no loss.
+int rowsLeftOut(std::string_view table);
+
 /// Draws the report on a page whose units are inches from the corner of the printable area. `Ratio`
 /// is the size of the target relative to the page, 1 for a printer; `PicRatio` is the plot's width
 /// over its height. A caption or a plot too wide for the frame is drawn smaller.

@@ -130,6 +130,7 @@ void ClubEditorWindow::makeText(QGridLayout& layout, const Label& label, const T
     auto* edit = new QLineEdit;
     name(*edit, box);
     edit->setValidator(new CharacterLimit(box.maxLength(), edit));
+    edit->setToolTip(QString("At most %1 characters").arg(box.maxLength()));
     title->setBuddy(edit);
     const int row = layout.rowCount();
     layout.addWidget(title, row, 0);

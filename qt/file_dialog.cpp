@@ -4,8 +4,10 @@
 #include "qt/text.h"
 
 #include <QDir>
-#include <QFileDialog>
+#include <QFile>
 #include <QFileInfo>
+#include <algorithm>
+#include <climits>
 
 namespace parabolt {
 
@@ -24,16 +26,37 @@ QStringList nameFilters(const QString& filter) {
 
 } // namespace
 
+void NamingDialog::accept() {
+    const QStringList files = selectedFiles();
+    const bool tooLong = std::any_of(files.begin(), files.end(), [](const QString& file) {
+        return QFile::encodeName(QFileInfo(file).fileName()).size() > NAME_MAX ||
+               QFile::encodeName(file).size() >= PATH_MAX;
+    });
+    if (tooLong)
+        QtMessageBoxes().show("The name is too long for a file. Type a shorter one.");
+    else
+        QFileDialog::accept();
+}
+
 QString existingFolder(const QString& wanted) {
     return QFileInfo(wanted).isDir() ? wanted : QDir::homePath();
 }
 
 void QtFileDialog::show(bool save) {
-    QFileDialog dialog(frontWindow(), toQt(title), existingFolder(toQt(initialFolder)));
+    NamingDialog dialog(frontWindow(), toQt(title), existingFolder(toQt(initialFolder)));
     dialog.setObjectName("ccrpFileDialogs1");
     dialog.setNameFilters(nameFilters(toQt(filter)));
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+
+    if (!suggestedName.empty()) {
+        const auto addEndingOf = [&dialog](const QString& shown) {
+            dialog.setDefaultSuffix(shown.section("*.", -1).chopped(1));
+        };
+        dialog.selectFile(toQt(suggestedName));
+        addEndingOf(dialog.selectedNameFilter());
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, addEndingOf);
+    }
 
     const QStringList files =
         dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();

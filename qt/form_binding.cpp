@@ -2,6 +2,7 @@
 
 #include "qt/text.h"
 
+#include <QAbstractScrollArea>
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
@@ -11,6 +12,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -28,6 +30,10 @@ std::size_t bytes(const QString& text, qsizetype characters) {
 
 int characters(std::string_view utf8, std::size_t bytes) {
     return static_cast<int>(toQt(utf8.substr(0, bytes)).size());
+}
+
+bool isEnter(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 } // namespace
@@ -89,8 +95,11 @@ void FormBinding::bind(Control& control) {
 void FormBinding::followFocus(QWidget& widget, Control& control) {
     controlOf_.insert(&widget, &control);
     widgetOf_.insert(&control, &widget);
-    if (control.takesFocus())
-        widget.installEventFilter(this);
+    if (!control.takesFocus())
+        return;
+    widget.installEventFilter(this);
+    if (const auto* area = qobject_cast<QAbstractScrollArea*>(&widget))
+        area->viewport()->installEventFilter(this); // which gets what the mouse does
 }
 
 void FormBinding::showState(const Control& control, QWidget& widget) const {
@@ -198,6 +207,7 @@ void FormBinding::bindMenuItem(MenuItem& item) {
     if (action == nullptr)
         return;
     item.onViewChange = [&item, action] {
+        action->setText(toQt(item.caption()));
         action->setEnabled(item.enabled());
         action->setVisible(item.visible());
     };
@@ -256,30 +266,41 @@ void FormBinding::moveRealFocus() {
 bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
     if (qobject_cast<QMenuBar*>(watched) != nullptr) {
         const bool opens = event->type() == QEvent::MouseButtonPress ||
-                           event->type() == QEvent::Shortcut || event->type() == QEvent::KeyPress;
+                           event->type() == QEvent::Shortcut || event->type() == QEvent::KeyPress ||
+                           event->type() == QEvent::FocusIn; // by Alt alone
         return opens && !settle();
     }
     switch (event->type()) {
     case QEvent::FocusIn:
         return focusArrived(watched, static_cast<QFocusEvent*>(event)->reason());
     case QEvent::MouseButtonPress:
-        return std::exchange(refusedPressOn_, nullptr) == watched;
+    case QEvent::MouseButtonDblClick:
+        refusedPressOn_ = refusedFocus(watched) ? watched : nullptr;
+        return refusedPressOn_ != nullptr;
+    case QEvent::MouseButtonRelease:
+        return released(watched, static_cast<QMouseEvent*>(event)->button());
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        return refusedFocus(watched);
     case QEvent::Wheel: // over a list that only happens to lie under the pointer
-        if (qobject_cast<QComboBox*>(watched) == nullptr || window_.focusWidget() == watched)
+        if (!refusedFocus(watched))
             return false;
         event->ignore(); // what lies around it may scroll
         return true;
     case QEvent::KeyPress: {
         const auto* press = static_cast<QKeyEvent*>(event);
-        if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter)
-            enterPressedIn_ = watched;
+        if (isEnter(*press))
+            return enterPressed(watched, press->isAutoRepeat());
         // A mnemonic without a control that answers it is no text.
         return press->modifiers() == Qt::AltModifier && !press->text().isEmpty();
     }
-    case QEvent::KeyRelease:
-        if (!static_cast<QKeyEvent*>(event)->isAutoRepeat())
-            keyReleased(watched, static_cast<QKeyEvent*>(event)->key());
+    case QEvent::KeyRelease: {
+        const auto* release = static_cast<QKeyEvent*>(event);
+        if (isEnter(*release) && !release->isAutoRepeat())
+            enterReleased(watched);
         return false;
+    }
     default:
         return false;
     }
@@ -289,23 +310,50 @@ bool FormBinding::focusArrived(QObject* watched, Qt::FocusReason reason) {
     if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
         return false;
     Control* control = controlOf_.value(watched);
-    if (control == nullptr || focus_.give(*control))
+    if (control != nullptr && !focus_.give(*control))
+        return true; // a field on the way has kept the focus
+    clickedInto_ = reason == Qt::MouseFocusReason ? watched : nullptr;
+    return false;
+}
+
+/// True if the focus would have come with a press on this widget, but is elsewhere.
+bool FormBinding::refusedFocus(const QObject* watched) const {
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    if (const QWidget* proxy = widget->focusProxy())
+        widget = proxy;
+    return (widget->focusPolicy() & Qt::ClickFocus) != 0 && window_.focusWidget() != widget;
+}
+
+/// True if the widget must not see the release: it belongs to a refused press, or would place the
+/// caret into the text that it selects.
+bool FormBinding::released(QObject* watched, Qt::MouseButton button) {
+    const bool bringsFocus = std::exchange(clickedInto_, nullptr) == watched;
+    if (std::exchange(refusedPressOn_, nullptr) == watched)
+        return true;
+    auto* edit = qobject_cast<QLineEdit*>(watched);
+    const bool dragged = edit != nullptr && edit->hasSelectedText();
+    if (edit == nullptr || !bringsFocus || button != Qt::LeftButton || dragged)
         return false;
-    // A field on the way has kept the focus: the widget must not act on the click that brought it.
-    if (reason == Qt::MouseFocusReason) {
-        refusedPressOn_ = watched;
-        QTimer::singleShot(0, this, [this] { refusedPressOn_ = nullptr; });
-    }
+    edit->selectAll();
     return true;
 }
 
-void FormBinding::keyReleased(QObject* watched, int key) {
-    const auto* box = dynamic_cast<TextBox*>(controlOf_.value(watched));
-    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    // The release of an Enter that closed a message box isn't one of this field.
-    if (box == nullptr || !enter || std::exchange(enterPressedIn_, nullptr) != watched)
+/// True if the widget must not see the key. A button acts on the release, as fields do: a key held
+/// down would go on to answer the question that the button asks.
+bool FormBinding::enterPressed(QObject* watched, bool again) {
+    if (!again)
+        enterPressedIn_ = watched;
+    return qobject_cast<QPushButton*>(watched) != nullptr;
+}
+
+void FormBinding::enterReleased(QObject* watched) {
+    // The release of an Enter that closed a message box isn't one of this control.
+    if (std::exchange(enterPressedIn_, nullptr) != watched)
         return;
-    box->KeyUp(keys::kEnter);
+    if (auto* button = qobject_cast<QPushButton*>(watched))
+        button->click();
+    else if (const auto* box = dynamic_cast<TextBox*>(controlOf_.value(watched)))
+        box->KeyUp(keys::kEnter);
 }
 
 } // namespace parabolt

@@ -33,6 +33,10 @@ namespace parabolt {
 /// commands settle it; where the field being edited is refused, the command doesn't run; only the
 /// end of the program waits for nothing.
 ///
+/// The click that brings the focus into a field selects its whole text, as Tab does. A click, a
+/// drop or the wheel acts only on the widget that has the focus: where a refused field has kept it,
+/// nothing of the press reaches the widget under the pointer.
+///
 /// Lets go of the controls when it dies; it must do so before they do.
 class FormBinding : public QObject {
     Q_OBJECT
@@ -47,7 +51,7 @@ public:
     QWidget* widget(const Control& control) const;
     /// For widgets that are bound elsewhere: ties only their focus to the control's.
     void followFocus(QWidget& widget, Control& control);
-    /// Settles the field being edited before the menus of this bar open.
+    /// Settles the field being edited before this bar takes the keyboard or opens a menu.
     void settleBefore(QMenuBar& menuBar);
     /// True if nothing is being edited any more that would be refused.
     [[nodiscard]] bool settle();
@@ -67,7 +71,10 @@ private:
     void showState(const Control& control, QWidget& widget) const;
     void moveRealFocus();
     bool focusArrived(QObject* watched, Qt::FocusReason reason);
-    void keyReleased(QObject* watched, int key);
+    bool refusedFocus(const QObject* watched) const;
+    bool released(QObject* watched, Qt::MouseButton button);
+    bool enterPressed(QObject* watched, bool again);
+    void enterReleased(QObject* watched);
 
     QWidget& window_;
     const ControlSet& controls_;
@@ -76,6 +83,7 @@ private:
     QHash<const QObject*, Control*> controlOf_;
     QHash<const Control*, QPointer<QWidget>> widgetOf_;
     QPointer<QObject> enterPressedIn_; ///< where Enter went down, so that its release counts there
+    QPointer<QObject> clickedInto_;    ///< what the mouse press under way has brought the focus to
     QPointer<QObject> refusedPressOn_; ///< whose mouse press must not act: its focus was refused
 };
 

@@ -1,6 +1,8 @@
 #include "qt/main_layout.h"
 
-#include "mainform/main_form.h"
+#include "mainform/defaults.h"
+#include "mainform/validators.h"
+#include "numbers/text_number.h"
 #include "qt/text.h"
 
 #include <QBoxLayout>
@@ -29,6 +31,13 @@ QLabel* label(const Label& control) {
     return named(new QLabel(toQt(control.caption())), control);
 }
 
+/// A label that names an input, also to those who don't see where it stands.
+QLabel* labelOf(const Label& control, QWidget* input) {
+    QLabel* name = label(control);
+    name->setBuddy(input);
+    return name;
+}
+
 QLineEdit* field(const TextBox& control, const QString& spoken) {
     auto* edit = named(new QLineEdit, control);
     edit->setAccessibleName(spoken);
@@ -39,8 +48,16 @@ QLineEdit* field(const TextBox& control, const QString& spoken) {
     return edit;
 }
 
-QRadioButton* option(const OptionButton& control) {
-    return named(new QRadioButton(toQt(control.caption())), control);
+/// An option, and what choosing it means.
+struct Choice {
+    const OptionButton& button;
+    QString meaning;
+};
+
+QRadioButton* option(const Choice& choice) {
+    auto* radio = named(new QRadioButton(toQt(choice.button.caption())), choice.button);
+    radio->setToolTip(choice.meaning);
+    return radio;
 }
 
 QPushButton* button(const Button& control) {
@@ -61,10 +78,12 @@ public:
         grid_->setHorizontalSpacing(kGap);
         grid_->setVerticalSpacing(2);
     }
-    void add(QLabel* name, QWidget* input) {
-        grid_->addWidget(name, row_, 3 * column_);
-        grid_->addWidget(input, row_++, 3 * column_ + 1);
+    void add(const Label& name, QWidget* input) {
+        grid_->addWidget(labelOf(name, input), row_, 3 * column_);
+        add(input);
     }
+    /// An input that carries its name itself.
+    void add(QWidget* input) { grid_->addWidget(input, row_++, 3 * column_ + 1); }
     void nextColumn() {
         grid_->setColumnMinimumWidth(3 * column_ + 2, kGap);
         ++column_;
@@ -82,35 +101,73 @@ private:
     int column_ = 0;
 };
 
-template <class... Options>
-QGroupBox* optionFrame(const Frame& control, const Options&... options) {
+QGroupBox* optionFrame(const Frame& control, std::initializer_list<Choice> choices) {
     auto* box = frame(control);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(6, 2, 6, 4);
     column->setSpacing(2);
-    (column->addWidget(option(options)), ...);
+    for (const Choice& choice : choices)
+        column->addWidget(option(choice));
     column->addStretch();
+    return box;
+}
+
+QGroupBox* modeFrame(const MainForm& form) {
+    return optionFrame(
+        form.Frame1,
+        {{form.optActual,
+          "From swing, club and the measured launch angle: computes the attack angle"},
+         {form.optManual, "From swing and club: computes the launch"},
+         {form.optLaunch, "From launch angle, spin and speed: computes the flight alone"},
+         {form.optStandard, "From a club of the club tables: computes the launch"},
+         {form.optAuto, "Flies all clubs of a type, one after another"}});
+}
+
+QGroupBox* typeFrame(const MainForm& form) {
+    return optionFrame(form.Frame4, {{form.optWood, "Club numbers are those of the woods"},
+                                     {form.optIron, "Club numbers are those of the irons"}});
+}
+
+/// What a ball changes in spin and lift.
+QString effect(const BallOption& ball) {
+    const auto change = [](float value) {
+        return (value > 0 ? "+" : "") + toQt(shortestText(value));
+    };
+    if (ball.Slope1 != 0)
+        return "Spin from the club: " + change(ball.Slope1) +
+               " rpm for each degree of loft and mph of head speed";
+    if (ball.CD1 != 0)
+        return "Lift: " + change(ball.CD1) + " on the exponent of the lift law";
+    return "Usual spin and lift";
+}
+
+QGroupBox* ballFrame(const MainForm& form) {
+    auto* box = optionFrame(
+        form.Frame6,
+        {{form.BallOpt1, {}}, {form.BallOpt2, {}}, {form.BallOpt3, {}}, {form.BallOpt4, {}}});
+    for (const BallOption& ball : ballOptions())
+        box->findChild<QWidget*>(toQt((form.*ball.button).name()))->setToolTip(effect(ball));
     return box;
 }
 
 QGroupBox* swingFrame(const MainForm& form) {
     auto* box = frame(form.Frame2);
     FieldGrid grid(box);
-    grid.add(label(form.Label3), field(form.txtLaunchAngle, "Launch angle, degrees"));
-    grid.add(label(form.Label2), field(form.txtBallSpin, "Ball spin, rpm"));
-    grid.add(label(form.Label7), field(form.txtLaunchSpeed, "Launch speed, mph"));
+    grid.add(form.Label3, field(form.txtLaunchAngle, "Launch angle, degrees"));
+    grid.add(form.Label2, field(form.txtBallSpin, "Ball spin, rpm"));
+    grid.add(form.Label7, field(form.txtLaunchSpeed, "Launch speed, mph"));
     auto* clubs = named(new QComboBox, form.cmbClubNo);
     clubs->setAccessibleName("Club number");
-    clubs->setToolTip("Club number");
+    clubs->setToolTip("Number of the club");
     clubs->setFocusPolicy(Qt::StrongFocus); // the wheel alone doesn't bring the focus
     clubs->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    grid.add(label(form.Label8), clubs);
-    grid.add(label(form.Label9), field(form.txtHeadSpeed, "Head speed, mph"));
-    grid.add(label(form.Label10),
+    grid.add(form.Label8, clubs);
+    grid.add(form.Label9, field(form.txtHeadSpeed, "Head speed, mph"));
+    grid.add(form.Label10,
              field(form.txtSpeedIncrement, "Fall of the head speed from club to club, mph"));
     auto* fillIn = named(new QCheckBox(toQt(form.chkBatch.caption())), form.chkBatch);
     fillIn->setToolTip("Auto takes all values of each club from the club tables");
-    grid.add(new QLabel, fillIn);
+    grid.add(fillIn);
     grid.end();
     return box;
 }
@@ -118,11 +175,11 @@ QGroupBox* swingFrame(const MainForm& form) {
 QGroupBox* clubFrame(const MainForm& form) {
     auto* box = frame(form.Frame5);
     FieldGrid grid(box);
-    grid.add(label(form.Label6), field(form.txtCor, "Coefficient of restitution"));
-    grid.add(label(form.Label12), field(form.txtHeadWeight, "Head weight, grams"));
-    grid.add(label(form.Label14), field(form.txtLoftAngle, "Loft angle, degrees"));
-    grid.add(label(form.Label20), field(form.txtBending, "Bend angle of the shaft, degrees"));
-    grid.add(label(form.Label13), field(form.txtAttackAngle, "Attack angle, degrees"));
+    grid.add(form.Label6, field(form.txtCor, "Coefficient of restitution"));
+    grid.add(form.Label12, field(form.txtHeadWeight, "Head weight, grams"));
+    grid.add(form.Label14, field(form.txtLoftAngle, "Loft angle, degrees"));
+    grid.add(form.Label20, field(form.txtBending, "Bend angle of the shaft, degrees"));
+    grid.add(form.Label13, field(form.txtAttackAngle, "Attack angle, degrees"));
     grid.end();
     return box;
 }
@@ -130,12 +187,12 @@ QGroupBox* clubFrame(const MainForm& form) {
 QGroupBox* weatherFrame(const MainForm& form) {
     auto* box = frame(form.Frame7);
     FieldGrid grid(box);
-    grid.add(label(form.Label15), field(form.txtAltitude, "Altitude, feet"));
-    grid.add(label(form.Label16), field(form.txtWind, "Wind, mph, positive against the ball"));
-    grid.add(label(form.Label17), field(form.txtPressure, "Pressure, inches of mercury"));
+    grid.add(form.Label15, field(form.txtAltitude, "Altitude, feet"));
+    grid.add(form.Label16, field(form.txtWind, "Wind, mph, positive against the ball"));
+    grid.add(form.Label17, field(form.txtPressure, "Pressure, inches of mercury"));
     grid.nextColumn();
-    grid.add(label(form.Label18), field(form.txtTemperature, "Temperature, degrees Fahrenheit"));
-    grid.add(label(form.Label19), field(form.txtRelativeHumidity, "Relative humidity, percent"));
+    grid.add(form.Label18, field(form.txtTemperature, "Temperature, degrees Fahrenheit"));
+    grid.add(form.Label19, field(form.txtRelativeHumidity, "Relative humidity, percent"));
     grid.end();
     return box;
 }
@@ -165,20 +222,24 @@ QLayout* strip(const MainForm& form) {
     row->setSpacing(kGap);
     row->addWidget(title(form));
     row->addStretch();
-    row->addWidget(label(form.Label4));
     auto* count = field(form.txtRun, "Number of data sets");
+    count->setToolTip(QString("Number of data sets, at most %1").arg(RunBook::kMost));
     count->setReadOnly(true);
     count->setMinimumWidth(0);
     count->setMaximumWidth(count->fontMetrics().horizontalAdvance("00000"));
+    row->addWidget(labelOf(form.Label4, count));
     row->addWidget(count);
     row->addSpacing(4 * kGap);
-    row->addWidget(label(form.Label11));
-    row->addWidget(field(form.txtRange, "Width of the plot, yards"));
+    auto* range = field(form.txtRange, "Width of the plot, yards");
+    row->addWidget(labelOf(form.Label11, range));
+    row->addWidget(range);
     row->addSpacing(4 * kGap);
     QPushButton* run = button(form.Command1);
     run->setToolTip("Run (F5)");
     row->addWidget(run);
-    row->addWidget(button(form.Command2));
+    QPushButton* clear = button(form.Command2);
+    clear->setToolTip("Clear plot and table (Alt+C)");
+    row->addWidget(clear);
     return row;
 }
 
@@ -199,6 +260,15 @@ QPlainTextEdit* resultTable(const MainForm& form) {
     paper.setColor(QPalette::Text, Qt::black);
     table->setPalette(paper);
     return table;
+}
+
+/// Adds to what a field's tool tip says the values that it accepts.
+void tellLimits(const MainForm& form, const QWidget* panel) {
+    for (const FieldRule& rule : fieldRules()) {
+        auto* edit = panel->findChild<QWidget*>(toQt((form.*rule.field).name()));
+        edit->setToolTip(edit->accessibleName() + ", " + toQt(shortestText(rule.lowest)) + " to " +
+                         toQt(shortestText(rule.highest)));
+    }
 }
 
 /// Tab goes through the inputs as the eye does, then to the buttons and the table.
@@ -253,15 +323,13 @@ MainLayout layOutMainForm(const MainForm& form, QWidget* parent) {
     columns->setSpacing(kGap);
     auto* choices = new QVBoxLayout;
     choices->setSpacing(kGap);
-    choices->addWidget(optionFrame(form.Frame1, form.optActual, form.optManual, form.optLaunch,
-                                   form.optStandard, form.optAuto));
-    choices->addWidget(optionFrame(form.Frame4, form.optWood, form.optIron));
+    choices->addWidget(modeFrame(form));
+    choices->addWidget(typeFrame(form));
     columns->addLayout(choices);
     columns->addWidget(swingFrame(form), 1);
     columns->addWidget(clubFrame(form), 1);
 
-    auto* ball =
-        optionFrame(form.Frame6, form.BallOpt1, form.BallOpt2, form.BallOpt3, form.BallOpt4);
+    auto* ball = ballFrame(form);
     auto* weather = weatherFrame(form);
     auto* table = resultTable(form);
     auto* below = new QHBoxLayout;
@@ -280,6 +348,7 @@ MainLayout layOutMainForm(const MainForm& form, QWidget* parent) {
     grid->setRowStretch(1, 1);
     grid->setColumnStretch(1, 1);
     orderTabs(form, panel);
+    tellLimits(form, panel);
     return {panel, inputs, ball, table, weather};
 }
 

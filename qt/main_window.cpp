@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -18,6 +17,7 @@
 #include <QShortcut>
 #include <QShortcutEvent>
 #include <QStatusBar>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 
@@ -78,8 +78,6 @@ MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
     centre_->installEventFilter(this);
     buildPlots();
     layout_ = layOutMainForm(logic.form, centre_);
-    for (const TextBox* hidden : {&logic.form.txtMode, &logic.form.txtType})
-        (new QLineEdit(centre_))->setObjectName(toQt(hidden->name()));
     room->setWidget(centre_);
     connect(qApp, &QApplication::focusChanged, room, [this, room](QWidget*, QWidget* now) {
         if (now != nullptr && layout_.panel->isAncestorOf(now))
@@ -98,6 +96,7 @@ MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
     tableBinding_ = std::make_unique<RichTextBinding>(logic.form.txtResult,
                                                       *findChild<QPlainTextEdit*>("txtResult"));
     connectLogic();
+    describePlot();
 
     setLeastSize();
     resize(1280, 800);
@@ -114,8 +113,6 @@ void MainWindow::buildPlots() {
     auto* outer = new PictureWidget(logic_.form.Picture1, centre_);
     outer->setAccessibleName("Plot of the flights");
     new PictureWidget(logic_.form.Picture2, outer);
-    auto* twin = new PictureWidget(logic_.form.Picture3, centre_);
-    new PictureWidget(logic_.form.Picture4, twin);
 }
 
 void MainWindow::buildMenus() {
@@ -144,6 +141,8 @@ void MainWindow::buildMenus() {
     QMenu* studies = addMenu(form.mnuStudies);
     add(studies, form.mnuStyLaunch);
     add(studies, form.mnuStySpin);
+    studies->addSeparator();
+    add(studies, form.mnuStyMap, Qt::CTRL | Qt::Key_M);
     add(menuBar(), form.mnuReset, Qt::CTRL | Qt::Key_R);
     QMenu* help = addMenu(form.Help);
     add(help, form.mnuHelp, Qt::Key_F1);
@@ -195,8 +194,26 @@ void MainWindow::runInPlace() {
     if (!form.Command1.enabled() || !binding_->settle())
         return;
     form.Command1.Click();
-    if (edited != nullptr && form.focus.active() == &form.Picture1)
-        form.focus.give(*edited);
+    if (edited == nullptr || form.focus.active() != &form.Picture1 || !form.focus.give(*edited))
+        return;
+    if (auto* field = dynamic_cast<TextBox*>(edited)) // the run may have written another text
+        SelectWholeText(*field);
+}
+
+/// Tells what the plot shows to those who can't see it, once a change has been drawn completely.
+void MainWindow::describePlot() {
+    auto* drawn = new QTimer(this);
+    drawn->setSingleShot(true);
+    connect(drawn, &QTimer::timeout, this, [this] {
+        findChild<PictureWidget*>(toQt(logic_.form.Picture1.name()))
+            ->setAccessibleDescription(toQt(logic_.plot.inWords()));
+    });
+    PictureBox& curves = logic_.form.Picture2;
+    curves.onViewChange = [repaint = curves.onViewChange, drawn] {
+        repaint();
+        drawn->start(0);
+    };
+    curves.onViewChange();
 }
 
 /// The twip grows with the font, so that all that stands above the plot fits into its share.

@@ -33,6 +33,7 @@ private:
     void buildPlots();
     void connectLogic();
     void runInPlace();
+    void describePlot();
     void setLeastSize();
     void fitToSize();
     double pixelsPerTwip() const;

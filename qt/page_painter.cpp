@@ -25,6 +25,8 @@ PagePainter PagePainter::onPaper(QPainter& painter, const PageSize& paper) {
     const double scale = painter.device()->logicalDpiX() * layoutScale(paper) / kUnitsPerInch;
     painter.scale(scale, scale);
     const PageSize page = inLayoutInches(paper);
+    painter.translate(
+        units({(page.width - page.printableWidth) / 2, (page.height - page.printableHeight) / 2}));
     return {
         painter, true, paper.width * kTwipsPerInch, {page.printableWidth, page.printableHeight}, 1};
 }

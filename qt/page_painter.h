@@ -13,7 +13,7 @@ namespace parabolt {
 /// has it. Changes the painter's transformation.
 class PagePainter : public Page {
 public:
-    /// The painter of a printer whose origin is the corner of the printable area.
+    /// The painter of a printer whose origin is the corner of the paper.
     static PagePainter onPaper(QPainter& painter, const PageSize& paper);
     /// The painter of a widget of the given shape.
     static PagePainter onScreen(QPainter& painter, const PreviewScale& scale);

@@ -4,8 +4,10 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QImage>
 #include <QPaintEngine>
 #include <QPainter>
+#include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
@@ -13,6 +15,7 @@ namespace parabolt {
 namespace {
 
 constexpr double kTextSize = 8.25 * 20; ///< of axis labels and legend, in twips
+constexpr double kHaloWidth = 50; ///< of the rim around letters, on both sides together, twips
 
 QColor toQColor(Rgb colour) {
     return {colour.red, colour.green, colour.blue};
@@ -109,8 +112,34 @@ public:
     }
 
     void operator()(const DrawnText& text) const {
+        const QString shown = QString::fromStdString(text.text);
+        const QFontMetricsF metrics(painter_.font(), painter_.device());
+        const QPointF start = map(text.place) + QPointF(0, ascent_) -
+                              QPointF(text.anchor.x * metrics.horizontalAdvance(shown),
+                                      text.anchor.y * metrics.height());
+        if (text.halo) {
+            QPainterPath letters;
+            letters.addText(start, painter_.font(), shown);
+            const double rim = kHaloWidth * perTwip_;
+            painter_.strokePath(letters, QPen(toQColor(*text.halo), rim, Qt::SolidLine,
+                                              Qt::RoundCap, Qt::RoundJoin));
+        }
         painter_.setPen(toQColor(text.colour));
-        painter_.drawText(map(text.place) + QPointF(0, ascent_), QString::fromStdString(text.text));
+        painter_.drawText(start, shown);
+    }
+
+    void operator()(const DrawnImage& image) const {
+        const int rows = static_cast<int>(image.pixels.size()) / image.columns;
+        QImage pixels(image.columns, rows, QImage::Format_RGB32);
+        for (int row = 0; row < rows; ++row)
+            for (int column = 0; column < image.columns; ++column) {
+                const Rgb& colour =
+                    image.pixels[static_cast<std::size_t>(row * image.columns + column)];
+                pixels.setPixel(column, row, qRgb(colour.red, colour.green, colour.blue));
+            }
+        const QRectF rect(map(image.corner),
+                          map({image.corner.x + image.size.x, image.corner.y + image.size.y}));
+        painter_.drawImage(onWholePixels(rect.normalized()), pixels);
     }
 
 private:

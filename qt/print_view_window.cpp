@@ -43,6 +43,17 @@ QPushButton* button(const Button& control, QWidget* parent) {
     return widget;
 }
 
+/// Shows what the logic writes into a label; cut off where it is longer than the window is wide.
+QLabel* notice(const Label& control, QWidget* parent) {
+    auto* widget = new QLabel(parent);
+    widget->setObjectName(toQt(control.name()));
+    widget->setTextFormat(Qt::PlainText);
+    widget->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    widget->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return widget;
+}
+
+/// Caption and buttons, and below them what there is to tell.
 QWidget* rowOfControls(const PrintViewForm& form, QWidget* parent) {
     auto* row = new QWidget(parent);
     row->setFixedHeight(PrintViewForm::kRowOfControls / kTwipsPerPixel);
@@ -51,9 +62,15 @@ QWidget* rowOfControls(const PrintViewForm& form, QWidget* parent) {
     auto* caption = new QLineEdit(row);
     caption->setObjectName(toQt(form.txtCaption.name()));
     label->setBuddy(caption);
-    auto* layout = new QHBoxLayout(row);
     const int gap = PrintViewForm::kGapAtSides / kTwipsPerPixel;
-    layout->setContentsMargins(gap, 0, gap, 0);
+    auto* lines = new QVBoxLayout(row);
+    lines->setContentsMargins(gap, gap, gap, 0);
+    auto* layout = new QHBoxLayout;
+    lines->addLayout(layout);
+    auto* notices = new QHBoxLayout;
+    lines->addLayout(notices);
+    notices->addWidget(notice(form.lblRows, row), 1);
+    notices->addWidget(notice(form.lblResult, row), 2);
     layout->addWidget(label);
     layout->addWidget(caption, 1);
     layout->addSpacing(gap);
@@ -89,6 +106,14 @@ PrintViewWindow::PrintViewWindow(frmPrintView& printView, QWidget* parent)
                                .toAlignedRect());
         sheet->update();
     };
+    for (Label* told : {&form.lblRows, &form.lblResult}) {
+        auto* widget = findChild<QLabel*>(toQt(told->name()));
+        told->onViewChange = [told, widget] {
+            widget->setText(toQt(told->caption()));
+            widget->setToolTip(widget->text());
+        };
+        told->onViewChange();
+    }
     form.onUnload = [this] { accept(); };
     form.focus.give(form.txtCaption);
 }

@@ -13,6 +13,7 @@
 
 namespace parabolt {
 
+class MapWindow;
 class SplashWindow;
 
 /// The whole program: the services of this platform, the main form on them, and the windows that it
@@ -22,8 +23,8 @@ public:
     Program();
     ~Program();
 
-    /// Runs the program from its splash to its end, and returns its exit code. When the splash goes,
-    /// the main form comes.
+    /// Runs the program from its splash to its end, and returns its exit code. When the splash
+    /// goes, the main form comes.
     int run();
     /// Loads and shows the main form.
     void showMainForm();
@@ -33,16 +34,19 @@ public:
 private:
     void showClubEditor();
     void showPrintView();
+    void showCarryMap();
     void showAbout();
 
     QtMessageBoxes messages_;
     QtFileDialog fileDialog_;
-    SettingsStore preferences_;
+    SettingsStore preferences_{messages_};
     QtDesktop desktop_;
     QtEventLoop events_;
     QtPrinter printer_;
+    FormServices services_;
     frmMain logic_;
     std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<MapWindow> mapWindow_;
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<SplashWindow> splashWindow_;
 };

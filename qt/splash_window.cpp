@@ -2,12 +2,16 @@
 
 #include "qt/text.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
+#include <QStyleHints>
+#include <QTimer>
+#include <cmath>
 
 namespace parabolt {
 
@@ -42,6 +46,30 @@ protected:
 
 private:
     QImage image_;
+};
+
+/// Takes the second press of a double click, whose first has closed a window, from whatever stands
+/// behind that window.
+class SecondPress : public QObject {
+public:
+    explicit SecondPress(const QMouseEvent& first) : place_(first.globalPosition()) {
+        qApp->installEventFilter(this);
+        QTimer::singleShot(QApplication::doubleClickInterval(), this, &QObject::deleteLater);
+    }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonPress &&
+            event->type() != QEvent::MouseButtonDblClick)
+            return false;
+        deleteLater();
+        qApp->removeEventFilter(this);
+        const QPointF away = static_cast<QMouseEvent*>(event)->globalPosition() - place_;
+        const int near = QGuiApplication::styleHints()->mouseDoubleClickDistance();
+        return std::abs(away.x()) <= near && std::abs(away.y()) <= near;
+    }
+
+private:
+    QPointF place_;
 };
 
 QLabel* label(const Label& control, double relativeSize, QWidget* parent) {
@@ -105,6 +133,7 @@ void SplashWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void SplashWindow::mousePressEvent(QMouseEvent* event) {
+    new SecondPress(*event); // goes by itself
     const QWidget* clicked = childAt(event->position().toPoint());
     if (clicked && clicked->objectName() == "Picture1")
         splash_.Picture1_Click();

@@ -7,21 +7,21 @@ constexpr int kTicksPerPause = 10;
 
 } // namespace
 
-Pause::Pause(FormCore& form, Timer& Timer1, Control& rest, EventLoop& events)
+Pause::Pause(FormCore& form, Timer& timer, Control& rest, EventLoop& events)
     : form_(form),
-      Timer1_(Timer1),
+      timer_(timer),
       rest_(rest),
       events_(events) {
-    Timer1_.Tick.connect(
+    timer_.Tick.connect(
         [this] { TimerTicks_ = TimerTicks_ < kTicksPerPause ? TimerTicks_ + 1 : 0; });
 }
 
 bool Pause::wait() {
     TimerTicks_ = 0;
-    Timer1_.setEnabled(true);
+    timer_.setEnabled(true);
     while (TimerTicks_ != kTicksPerPause && !stopped_)
         events_.yield();
-    Timer1_.setEnabled(false);
+    timer_.setEnabled(false);
     TimerTicks_ = 0;
     return !stopped_;
 }

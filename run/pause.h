@@ -13,7 +13,7 @@ namespace parabolt {
 class Pause {
 public:
     /// `rest` is where the focus waits during a study or batch.
-    Pause(FormCore& form, Timer& Timer1, Control& rest, EventLoop& events);
+    Pause(FormCore& form, Timer& timer, Control& rest, EventLoop& events);
 
     /// Waits ten ticks. False if the user has asked to stop meanwhile, or before.
     bool wait();
@@ -27,7 +27,7 @@ private:
     friend class LongRun;
 
     FormCore& form_;
-    Timer& Timer1_;
+    Timer& timer_;
     Control& rest_;
     EventLoop& events_;
     int TimerTicks_ = 0;

@@ -11,10 +11,10 @@ struct Studies::Study {
     int tickMs; ///< interval of the timer that paces the study
 };
 
-Studies::Studies(ShotControls& form, Timer& Timer1, ShotRun& run, RunDriver& driver, Pause& pause,
+Studies::Studies(ShotControls& form, Timer& timer, ShotRun& run, RunDriver& driver, Pause& pause,
                  ProgressForm& progress)
     : form_(form),
-      Timer1_(Timer1),
+      timer_(timer),
       run_(run),
       driver_(driver),
       pause_(pause),
@@ -39,7 +39,7 @@ void Studies::study(const Study& study) {
         const LongRun busy(pause_);
         form_.optLaunch.select();
         form_.txtMode.setText("0");
-        Timer1_.setInterval(study.tickMs);
+        timer_.setInterval(study.tickMs);
         progress_.ProgressBar1.setValue(progress_.ProgressBar1.least());
         if (progress_.onShow)
             progress_.onShow(true);

@@ -11,7 +11,7 @@ namespace parabolt {
 /// found. Leaves the mode Launch.
 class Studies {
 public:
-    Studies(ShotControls& form, Timer& Timer1, ShotRun& run, RunDriver& driver, Pause& pause,
+    Studies(ShotControls& form, Timer& timer, ShotRun& run, RunDriver& driver, Pause& pause,
             ProgressForm& progress);
 
     void mnuStyLaunch_Click();
@@ -24,7 +24,7 @@ private:
     void set(const Study& study, int value);
 
     ShotControls& form_;
-    Timer& Timer1_;
+    Timer& timer_;
     ShotRun& run_;
     RunDriver& driver_;
     Pause& pause_;

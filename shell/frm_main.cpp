@@ -8,6 +8,7 @@ namespace parabolt {
 frmMain::frmMain(const FormServices& services)
     : plot(form, form, form.Frame7, services.messages),
       pause(form, form.Timer1, form.Picture1, services.events),
+      shotEntry(form, validators_),
       validators_(form, plot, services.messages),
       clubChoice_(form, form.clubs, validators_),
       modes_(form, clubChoice_),
@@ -43,6 +44,7 @@ void frmMain::wireMenus(Desktop& desktop) {
     });
     form.mnuStyLaunch.Click.connect([this] { studies_.mnuStyLaunch_Click(); });
     form.mnuStySpin.Click.connect([this] { studies_.mnuStySpin_Click(); });
+    form.mnuStyMap.Click.connect([this] { showCarryMap(); });
     form.mnuReset.Click.connect([this] { defaults_.mnuReset_Click(); });
     form.mnuHelp.Click.connect([settle, &desktop] {
         settle();

@@ -4,6 +4,7 @@
 #include "mainform/defaults.h"
 #include "mainform/modes.h"
 #include "mainform/parameter_handlers.h"
+#include "mainform/shot_entry.h"
 #include "results/result_export.h"
 #include "run/studies.h"
 
@@ -34,10 +35,13 @@ public:
     ProgressForm frmProgress;
     PlotPanel plot; ///< lays out and draws the plot when the view says what size the form has
     Pause pause;    ///< of a study or batch; the view can stop it
+    /// Enters a shot from elsewhere, such as a map, into the fields.
+    ShotEntry shotEntry;
 
     // The forms and the end of the program, which the view brings about.
     std::function<void()> showClubEditor; ///< `frmClubParams`, modal
     std::function<void()> showPrintView;  ///< `frmPrintView`, modal
+    std::function<void()> showCarryMap;   ///< beside the form
     std::function<void()> showAbout;      ///< `frmSplash`, modal
     std::function<void()> endProgram;     ///< at once, with no question
 

@@ -1,11 +1,9 @@
 #include "shots/climb.h"
 
-#include <utility>
-
 namespace parabolt {
 
-Climb::Climb(Shot shot, const ClimbRange& range)
-    : shot_(std::move(shot)),
+Climb::Climb(const Shot& shot, const ClimbRange& range)
+    : shot_(shot),
       range_(range),
       next_(range.first) {}
 

@@ -17,7 +17,7 @@ struct ClimbRange {
 /// so that after the first value it ends the climb too. Only flies: no path is kept.
 class Climb {
 public:
-    Climb(Shot shot, const ClimbRange& range);
+    Climb(const Shot& shot, const ClimbRange& range);
 
     /// True until the carry has dropped or the values have ended.
     bool goesOn() const { return !dropped_ && next_ <= range_.last; }

@@ -13,7 +13,7 @@ Outcome<FlownShot, NotFlown> fly(const Shot& shot) {
     if (!state)
         return because(NotFlown{state.why(), std::nullopt});
     FlownShot flown{shot, {}};
-    static_cast<ShotInputs&>(flown.shot) = *state;
+    static_cast<ShotInputs&>(flown.shot) = static_cast<const ShotInputs&>(*state);
     if (const auto landed = SimulateFlight(*state, shot, flown.record); !landed)
         return because(NotFlown{landed.why(), std::move(flown)});
     return flown;

@@ -14,7 +14,7 @@ struct FlownShot {
 
 /// Why a shot has not come down.
 struct NotFlown {
-    Fault fault;
+    Fault fault{};
     /// The flight as far as it came, the record's outcome at zero; nothing if the shot has no air
     /// or no launch.
     std::optional<FlownShot> flight;

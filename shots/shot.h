@@ -21,7 +21,8 @@ struct OperatingMode {
 ///
 ///     type           member                      unit   meaning
 ///     ShotInputs     (its members)                      launch, swing, club, weather, ball
-///     std::int16_t   Mode                        0..4   an `OperatingMode`; above Launch the impact
+///     std::int16_t   Mode                        0..4   an `OperatingMode`; above Launch the
+///     impact
 ///                                                       model turns the swing into the launch
 ///     bool           IsWood                             a wood, not an iron
 ///     optional       sources.club                       club of the set: loft and head mass
@@ -29,6 +30,7 @@ struct OperatingMode {
 ///     optional       sources.measuredLaunchAngle deg    the attack angle then follows from it
 struct Shot : ShotInputs, RunTags {
     ImpactSources sources;
+    friend bool operator==(const Shot&, const Shot&) = default;
 };
 
 } // namespace parabolt

@@ -10,7 +10,8 @@ import sys
 from pathlib import Path
 
 GROUND = {"numbers", "controls"}
-LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results"}
+LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
+                  "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -20,7 +21,9 @@ MAY_SEE = {
     "files": GROUND,
     "shots": {"numbers", "engine"},
     "plots": GROUND | {"engine"},
-    "printing": GROUND | {"engine", "plots"},
+    "exchange": {"numbers"},
+    "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
+    "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
     "results": GROUND | {"engine", "printing", "files"},
     "mainform": LOGIC,

@@ -4,6 +4,28 @@
 #include "tests/support/scripted_services.h"
 #include "tests/support/temporary_folder.h"
 
+#include <cerrno>
+#include <clocale>
+#include <libintl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace {
+/// Comes before each wait for the disk, which fails where it returns false.
+std::function<bool(int descriptor)> beforeSync;
+} // namespace
+
+extern "C" int fsync(int descriptor) {
+    if (beforeSync && !beforeSync(descriptor)) {
+        errno = EIO;
+        return -1;
+    }
+    return static_cast<int>(::syscall(SYS_fsync, descriptor));
+}
+
 namespace parabolt::support {
 namespace {
 
@@ -84,11 +106,149 @@ TEST_F(FileAccess, SaysWhyAFileCannotBeUsed) {
         }
     }
     EXPECT_EQ(folder.entries(), 0);
-    // A device is neither replaced nor waited for.
-    EXPECT_FALSE(replaceFile("/dev/full", "text"));
-    EXPECT_TRUE(fs::is_character_file("/dev/full"));
-    ASSERT_EQ(std::system(("mkfifo " + folder.path("pipe")).c_str()), 0);
-    EXPECT_EQ(readStart(folder.path("pipe"), 10), "failed");
+}
+
+TEST_F(FileAccess, OnlyOrdinaryFilesAreUsedAndNothingIsWaitedFor) {
+    ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0666), 0);
+    fs::create_symlink("pipe", folder.path("link"));
+    for (const std::string& bad : {folder.path("pipe"), folder.path("link"),
+                                   std::string("/dev/full"), std::string("/dev/null")}) {
+        const auto read = readFileStart(bad, 10);
+        const auto written = writeFileStart(bad, bytesOf("a"));
+        const auto replaced = replaceFile(bad, "a");
+        ASSERT_FALSE(read || written || replaced) << bad;
+        for (const Failure& failure : {read.why(), written.why(), replaced.why()})
+            EXPECT_NE(failure.description.find("not an ordinary file"), std::string::npos);
+    }
+    EXPECT_TRUE(fs::is_fifo(folder.path("pipe")) && fs::is_character_file("/dev/full"));
+    for (const bool there : {false, true}) {
+        fs::create_symlink("target", folder.path("to file" + std::to_string(there)));
+        EXPECT_TRUE(replaceFile(folder.path("to file" + std::to_string(there)), "text"));
+        EXPECT_EQ(contentOf(folder.path("target")), "text");
+        EXPECT_TRUE(fs::is_symlink(folder.path("to file" + std::to_string(there))));
+    }
+}
+
+TEST_F(FileAccess, TheNewFileStandsOnTheDiskBeforeItTakesThePlaceOfTheOld) {
+    putContent(name, "old");
+    Texts synced;
+    beforeSync = [&](int descriptor) {
+        struct ::stat of {};
+        ::fstat(descriptor, &of);
+        synced.push_back((S_ISDIR(of.st_mode) ? "folder " : "file ") + contentOf(name));
+        return true;
+    };
+    EXPECT_TRUE(replaceFile(name, "new"));
+    EXPECT_EQ(synced, (Texts{"file old", "folder new"}));
+    beforeSync = [](int) { return false; };
+    EXPECT_EQ(replaceFile(name, "newer").why().description, "Input/output error");
+    EXPECT_EQ(contentOf(name), "new");
+    beforeSync = {};
+    EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST_F(FileAccess, AWriteRemovesWhatAKilledOneLeftButNotALivingOnes) {
+    const ::pid_t child = ::fork();
+    if (child == 0) {
+        beforeSync = [](int) { return ::raise(SIGKILL) == 0; };
+        std::ignore = replaceFile(name, "killed");
+        ::_exit(0);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status));
+    EXPECT_EQ(folder.entries(), 1);
+    putContent(folder.path(".parabolt-notes.tmp"), "the user's own");
+    beforeSync = [this](int) { // in the middle of the write below
+        beforeSync = {};
+        return bool(writeFileStart(folder.path("other"), bytesOf("other")));
+    };
+    EXPECT_TRUE(replaceFile(name, "whole"));
+    EXPECT_EQ(contentOf(name) + contentOf(folder.path("other")), "wholeother");
+    EXPECT_EQ(folder.entries(), 3);
+}
+
+TEST_F(FileAccess, TheTailOfALargeFileIsNotCopied) {
+    constexpr std::uintmax_t kSize = 1 << 27;
+    putContent(name, "012345");
+    fs::resize_file(name, kSize);
+    {
+        const FailingDisk disk(1000); // has no room for a copy
+        EXPECT_TRUE(writeFileStart(name, bytesOf("abc")));
+    }
+    EXPECT_EQ(readStart(name, 6), "abc345");
+    EXPECT_EQ(fs::file_size(name), kSize);
+}
+
+/// Makes the process an ordinary user who owns none of the files before, as long as the object
+/// lives. A process that is no administrator already is an ordinary user.
+struct OrdinaryUser {
+    OrdinaryUser() { EXPECT_TRUE(::geteuid() != 0 || ::seteuid(65534) == 0); }
+    ~OrdinaryUser() { EXPECT_EQ(::seteuid(::getuid()), 0); }
+};
+
+TEST_F(FileAccess, AFileKeepsItsOwnerItsGroupAndWhoMayUseIt) {
+    const auto replaced = [this](const std::string& content) {
+        struct ::stat before {
+        }, after{};
+        ::stat(name.c_str(), &before);
+        EXPECT_TRUE(replaceFile(name, content));
+        EXPECT_EQ(contentOf(name), content);
+        ::stat(name.c_str(), &after);
+        EXPECT_EQ(std::tie(after.st_uid, after.st_gid, after.st_mode),
+                  std::tie(before.st_uid, before.st_gid, before.st_mode));
+    };
+    putContent(name, "something longer than what comes");
+    fs::permissions(folder.path(), fs::perms::all);
+    fs::permissions(name, fs::perms(0666));
+    // Its user 1234 may read and write, as the system keeps such a list.
+    const Bytes list{2, 0,   0,   0,   1,   0,   6,  0, 255, 255, 255, 255, 2,   0,  6,
+                     0, 210, 4,   0,   0,   4,   0,  4, 0,   255, 255, 255, 255, 16, 0,
+                     6, 0,   255, 255, 255, 255, 32, 0, 4,   0,   255, 255, 255, 255};
+    const char* const attribute = "system.posix_acl_access";
+    if (::setxattr(name.c_str(), attribute, list.data(), list.size(), 0) == 0) {
+        replaced("with a list");
+        EXPECT_GT(::getxattr(name.c_str(), attribute, nullptr, 0), 0);
+        ::removexattr(name.c_str(), attribute);
+    }
+    fs::permissions(name, fs::perms(0666));
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only an administrator can give files away";
+    ASSERT_EQ(::chown(name.c_str(), 12345, 54321), 0);
+    replaced("by an administrator");
+    const OrdinaryUser user;
+    replaced("by another");
+}
+
+TEST_F(FileAccess, AFileThatMayNotBeUsedSaysSoInEnglish) {
+    putContent(name, "mine");
+    fs::permissions(name, fs::perms::none);
+    fs::permissions(folder.path(), fs::perms::all);
+    // A desktop in a language where the system says "Nein.", as a catalogue of one message has it.
+    const std::string key = "Permission denied", text = "Nein.";
+    ByteWriter catalogue;
+    for (const int number :
+         {0x12DE, 0x9504, 0, 0, 1, 0, 28, 0, 36, 0, 0, 0, 0, 0, 17, 0, 44, 0, 5, 0, 62, 0})
+        catalogue.u16(static_cast<std::uint16_t>(number));
+    catalogue.bytes(key + '\0' + text + '\0');
+    const TemporaryFolder messages;
+    fs::create_directories(messages.path("de/LC_MESSAGES"));
+    putContent(messages.path("de/LC_MESSAGES/libc.mo"),
+               {catalogue.data().begin(), catalogue.data().end()});
+    fs::permissions(messages.path(), fs::perms::all);
+    const std::string before = ::bindtextdomain("libc", nullptr);
+    ASSERT_EQ(::setenv("LOCPATH", PARABOLT_TEST_LOCALES, 1), 0);
+    ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr);
+    ::bindtextdomain("libc", messages.path().c_str());
+    EXPECT_EQ(std::generic_category().message(EACCES), text);
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(readFileStart(name, 1).why().description, key);
+        EXPECT_EQ(writeFileStart(name, bytesOf("a")).why().description, key);
+        EXPECT_EQ(replaceFile(name, "a").why().description, key);
+    }
+    std::setlocale(LC_ALL, "C");
+    ::bindtextdomain("libc", before.c_str());
 }
 
 TEST(Preferences, FailsWithNumberAndDescription) {

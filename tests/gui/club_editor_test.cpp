@@ -1,3 +1,4 @@
+#include "clubs/clubs_file.h"
 #include "qt/club_editor_window.h"
 #include "qt/text.h"
 #include "tests/support/scripted_editor.h"
@@ -10,6 +11,8 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
+#include <cmath>
+#include <limits>
 
 namespace parabolt::support {
 namespace {
@@ -144,6 +147,11 @@ TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     auto& woods2 = part<QTableWidget>("GridWoods");
     QTest::mouseClick(woods2.viewport(), Qt::LeftButton, {}, cell(woods2, 0, 0).center());
     EXPECT_TRUE(woods2.hasFocus() && edit.isHidden());
+    type("F<7T"); // inside the text
+    EXPECT_EQ(woods2.item(0, 0)->text(), "1978");
+    EXPECT_EQ(form.txtWoodEdit.text(), "1978");
+    woods.setText(1, 1, "198");
+    form.txtWoodEdit.setText("");
     QLineEdit& description = part<QLineEdit>("txtDescription");
     description.setText(QString(40, 'd'));
     description.home(false);
@@ -262,6 +270,19 @@ TEST_F(ClubEditorTest, FilesThatCannotBeUsed) {
     EXPECT_EQ(use(form.mnuSave, "bad.clb"),
               Texts{"Then head weight must between 180 and 320 grams."});
     EXPECT_EQ(folder.entries(), 1);
+}
+
+TEST_F(ClubEditorTest, WhatIsNoNumberInAFileIsRefused) {
+    constexpr float kInf = std::numeric_limits<float>::infinity();
+    for (const float broken : {std::nanf(""), -std::nanf(""), kInf, -kInf}) {
+        ClubTables set = InitClubTables();
+        set.Woods[2].Bending = broken; // where 0 would do
+        const Bytes bytes = *encodeClubs(set);
+        putContent(folder.path("broken.clb"), {bytes.begin(), bytes.end()});
+        EXPECT_EQ(use(form.mnuOpenClub, "broken.clb"), Texts());
+        EXPECT_EQ(use(form.mnuSave, "broken.clb"),
+                  Texts{"Then bend angle must between -10 and 10 degrees."});
+    }
 }
 
 } // namespace

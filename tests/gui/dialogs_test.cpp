@@ -1,6 +1,7 @@
 #include "qt/file_dialog.h"
 #include "qt/settings_store.h"
 #include "qt/text.h"
+#include "tests/support/scripted_services.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QApplication>
@@ -11,6 +12,7 @@
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
+#include <sys/stat.h>
 
 namespace parabolt::support {
 namespace {
@@ -22,16 +24,22 @@ struct FileDialogTest : testing::Test {
         QObject::connect(&user, &QTimer::timeout, [this] { look(); });
         user.start(20);
     }
-    /// Acts as the user: once at each file dialog, and at the question whether to overwrite.
+    /// Acts as the user: once at each file dialog, and at its messages: whether to overwrite, or
+    /// that another name is needed.
     void look() {
         QWidget* modal = QApplication::activeModalWidget();
         if (auto* question = qobject_cast<QMessageBox*>(modal)) {
             ++questions;
+            if (auto* ok = question->button(QMessageBox::Ok)) {
+                act = typing("short.txt");
+                ok->click();
+                return;
+            }
             question->button(overwrite ? QMessageBox::Yes : QMessageBox::No)->click();
         } else if (auto* shown = qobject_cast<QFileDialog*>(modal)) {
             if (act)
                 QTimer::singleShot(0, shown, [this, shown] { std::exchange(act, {})(*shown); });
-            else if (questions > 0 && !overwrite) // back in the dialog
+            else if (!overwrite) // back in the dialog
                 shown->reject();
         }
     }
@@ -93,8 +101,20 @@ TEST_F(FileDialogTest, OpensWhatExistsAndTellsTheFolderItEndedIn) {
     EXPECT_EQ(dialog.finalFolder, fromQt(QDir::homePath()));
 }
 
+TEST_F(FileDialogTest, SaysThatANameIsTooLongAndStays) {
+    for (const std::string letter : {"n", "\u00F6"}) {
+        std::string name = ".txt";
+        for (int i = 0; i < 252 / std::ssize(letter); ++i)
+            name.insert(0, letter);
+        save(name); // closes the message, then types a name that goes
+        EXPECT_EQ(questions, 1) << letter;
+        EXPECT_EQ(dialog.pickedName, "short.txt");
+    }
+}
+
 TEST(SettingsStore, GivesTextsBackWholeOrSaysWhyNot) {
-    SettingsStore store;
+    ScriptedMessageBoxes messages;
+    SettingsStore store(messages);
     std::string application = "SettingsStoreTest";
     std::string file = fromQt(
         QSettings(QSettings::NativeFormat, QSettings::UserScope, toQt(application)).fileName());
@@ -120,8 +140,30 @@ TEST(SettingsStore, GivesTextsBackWholeOrSaysWhyNot) {
     EXPECT_NE(contentOf(file).find("/home"), std::string::npos);
     application += "2"; // what Qt knows of a file outlives it
     std::filesystem::create_directory(file.insert(file.rfind('.'), "2"));
-    EXPECT_EQ(text(), "Could not open registry section");
-    EXPECT_EQ(save("/home"), "Could not open/create registry section");
+    EXPECT_TRUE(messages.texts.empty());
+    // What can't be used is set aside, and is told once: a folder, a pipe, a broken file.
+    EXPECT_EQ(text(), "default");
+    EXPECT_TRUE(std::filesystem::is_directory(file + ".unreadable"));
+    EXPECT_EQ(save("/home"), "");
+    EXPECT_EQ(text(), "/home");
+    std::filesystem::remove(file);
+    ASSERT_EQ(::mkfifo(file.c_str(), 0666), 0);
+    EXPECT_EQ(text(), "default");
+    putContent(file, "[startup\nno line of it");
+    EXPECT_EQ(text(), "default");
+    EXPECT_EQ(contentOf(file + ".unreadable3"), "[startup\nno line of it");
+    EXPECT_EQ(save("/home"), "");
+    EXPECT_EQ(text(), "/home");
+    // What can't even be set aside, as its new name would be too long, leaves the session.
+    application = std::string(245, 'x');
+    const auto stuck = std::filesystem::path(file).replace_filename(application + ".conf");
+    std::filesystem::create_directory(stuck);
+    EXPECT_EQ(text(), "default");
+    EXPECT_EQ(save("/home"), "");
+    EXPECT_EQ(text(), "/home");
+    EXPECT_TRUE(std::filesystem::is_directory(stuck));
+    ASSERT_EQ(messages.texts.size(), 1U);
+    EXPECT_NE(messages.texts[0].find(".unreadable"), std::string::npos);
 }
 
 } // namespace

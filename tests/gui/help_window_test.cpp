@@ -25,7 +25,10 @@ QString page(const QString& name) {
 
 TEST(Help, ListsEveryPageAndEveryLinkLeadsToOne) {
     HelpWindow window{kManual};
-    const auto listed = [contents = window.findChild<QListWidget*>("helpContents")] {
+    const auto* contents = window.findChild<QListWidget*>("helpContents");
+    auto* search = window.findChild<QLineEdit*>("helpSearch");
+    ASSERT_TRUE(contents && search);
+    const auto listed = [contents] {
         QStringList shown;
         for (int row = 0; row < contents->count(); ++row)
             if (!contents->item(row)->isHidden())
@@ -45,7 +48,7 @@ TEST(Help, ListsEveryPageAndEveryLinkLeadsToOne) {
     }
     titles.sort();
     EXPECT_EQ(listed(), titles);
-    QTest::keyClicks(window.findChild<QLineEdit*>("helpSearch"), "preview  LANDSCAPE");
+    QTest::keyClicks(search, "preview  LANDSCAPE");
     EXPECT_EQ(listed(), QStringList{"Printing"}) << "the only page with both words";
 }
 
@@ -56,6 +59,7 @@ TEST(Manual, TellsEveryFieldWithItsLimitsAndFallback) {
     for (const FieldRule& rule : fieldRules()) {
         // The label of a field was made just before it.
         const auto at = std::find(controls.begin(), controls.end(), &(form.*rule.field));
+        ASSERT_TRUE(at != controls.begin() && at != controls.end()) << rule.fallback;
         const auto* label = dynamic_cast<const Label*>(*std::prev(at));
         ASSERT_NE(label, nullptr) << (*at)->name();
         const QString caption = QString::fromStdString(label->caption());

@@ -1,13 +1,16 @@
-#include "qt/dialogs.h"
 #include "qt/main_window.h"
+#include "qt/splash_window.h"
 #include "qt/text.h"
+#include "tests/gui/as_soon_as.h"
 #include "tests/support/scripted_form.h"
 
+#include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -16,7 +19,6 @@
 #include <QStatusBar>
 #include <QTest>
 #include <QTextBlock>
-#include <QTimer>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
@@ -74,6 +76,12 @@ struct MainWindowTest : testing::Test {
     }
     std::string focused() { return fromQt(window.focusWidget()->objectName()); }
     int runs() { return field("txtRun")->text().toInt(); }
+    /// Presses and releases as the window system reports it, wherever the focus is.
+    void clickAt(const char* name, Qt::MouseButton button) {
+        QWidget* widget = find(name);
+        QTest::mouseClick(window.windowHandle(), button, {},
+                          widget->mapTo(&window, widget->rect().center()));
+    }
     void press(int key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
     }
@@ -81,6 +89,19 @@ struct MainWindowTest : testing::Test {
     ScriptedForm user;
     MainWindow window{user.main};
 };
+
+TEST_F(MainWindowTest, WidgetsAndControlsAnswerEachOther) {
+    for (const Control* control : user.form.controls.all()) {
+        const QString name = toQt(control->name());
+        const auto* object = window.findChild<QObject*>(name);
+        // What the user never sees is nothing that a key or a screen reader could come to.
+        ASSERT_EQ(object != nullptr, control->visible()) << control->name();
+        if (const auto* widget = qobject_cast<const QWidget*>(object)) {
+            EXPECT_EQ(widget->isHidden(), !control->visible()) << control->name();
+            EXPECT_EQ(widget->isEnabled(), control->enabled()) << control->name();
+        }
+    }
+}
 
 TEST_F(MainWindowTest, NothingChangesAFieldUnjudged) {
     for (const QLineEdit* edit : window.findChildren<QLineEdit*>()) {
@@ -200,6 +221,8 @@ TEST_F(MainWindowTest, ARefusedFieldIsToldOnceHoweverItIsLeft) {
         {"F5", [&] { press(Qt::Key_F5); }},
         {"the mnemonic of Run", [&] { press(Qt::Key_R, Qt::AltModifier); }},
         {"the mnemonic of a menu", [&] { press(Qt::Key_F, Qt::AltModifier); }},
+        {"Alt alone", [&] { QTest::keyClick(window.windowHandle(), Qt::Key_Alt); }},
+        {"the keypad's Enter", [&] { press(Qt::Key_Enter, Qt::KeypadModifier); }},
         {"a menu",
          [&] {
              QMenuBar* bar = window.menuBar();
@@ -212,7 +235,7 @@ TEST_F(MainWindowTest, ARefusedFieldIsToldOnceHoweverItIsLeft) {
         user.messages.texts.clear();
         type("txtHeadSpeed", "20");
         leave();
-        QTest::qWait(1);
+        QApplication::processEvents();
         EXPECT_EQ(user.messages.texts.size(), 1U) << about;
         EXPECT_EQ(focused(), "txtHeadSpeed") << about;
         EXPECT_EQ(field("txtHeadSpeed")->selectedText(), "100") << about;
@@ -225,6 +248,127 @@ TEST_F(MainWindowTest, ARefusedFieldIsToldOnceHoweverItIsLeft) {
     click("Command1");
     EXPECT_EQ(runs(), 1);
     EXPECT_TRUE(user.messages.texts.empty());
+}
+
+TEST_F(MainWindowTest, WhereTheFocusIsRefusedNothingIsPasted) {
+    QClipboard& clipboard = *QApplication::clipboard();
+    clipboard.setText("7");
+    clipboard.setText("7", QClipboard::Selection);
+    const QString table = find<QPlainTextEdit>("txtResult")->toPlainText();
+    for (const char* other : {"txtCor", "txtResult"})
+        for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+            user.messages.texts.clear();
+            type("txtHeadSpeed", "20");
+            clickAt(other, button);
+            EXPECT_EQ(user.messages.texts.size(), 1U);
+            EXPECT_EQ(focused(), "txtHeadSpeed");
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a menu with Paste";
+        }
+    EXPECT_EQ(field("txtCor")->text(), "0.83");
+    EXPECT_EQ(find<QPlainTextEdit>("txtResult")->toPlainText(), table);
+    clickAt("txtCor", Qt::MiddleButton); // the safe value passes
+    EXPECT_TRUE(field("txtCor")->text().contains("7"));
+}
+
+TEST_F(MainWindowTest, TheFirstClickSelectsTheFieldAndTheSecondPlacesTheCaret) {
+    clickAt("txtLoftAngle", Qt::LeftButton);
+    EXPECT_EQ(field("txtLoftAngle")->selectedText(), "10");
+    QTest::keyClicks(field("txtLoftAngle"), "12");
+    EXPECT_EQ(user.form.txtLoftAngle.text(), "12");
+    field("txtLoftAngle")->selectAll();
+    clickAt("txtLoftAngle", Qt::LeftButton);
+    EXPECT_FALSE(field("txtLoftAngle")->hasSelectedText());
+    QTest::mousePress(field("txtCor"), Qt::LeftButton, {}, {8, 8});
+    QMouseEvent drag(QEvent::MouseMove, {90, 8}, field("txtCor")->mapToGlobal(QPointF(90, 8)),
+                     Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(field("txtCor"), &drag);
+    const QString passed = field("txtCor")->selectedText();
+    QTest::mouseRelease(field("txtCor"), Qt::LeftButton, {}, {90, 8});
+    EXPECT_EQ(field("txtCor")->selectedText(), passed);
+    EXPECT_TRUE(!passed.isEmpty() && passed != "0.83") << "what the drag selected stays";
+}
+
+TEST_F(MainWindowTest, EnterPressesTheButtonThatHasTheFocus) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        find("Command1")->setFocus();
+        QTest::keyPress(find("Command1"), key);
+        QTest::keyRelease(find("Command1"), key);
+    }
+    EXPECT_EQ(runs(), 2);
+    find("Command2")->setFocus();
+    user.messages.answers = {MessageBoxes::Answer::Yes};
+    QTest::keyPress(find("Command2"), Qt::Key_Return);
+    EXPECT_EQ(runs(), 2) << "a key held down would answer the question";
+    QTest::keyRelease(find("Command2"), Qt::Key_Return);
+    EXPECT_EQ(runs(), 0);
+    click("txtCor");
+    press(Qt::Key_Return);
+    EXPECT_EQ(runs(), 0) << "it is no default button";
+}
+
+TEST_F(MainWindowTest, ARunByItsKeyLeavesTheFieldReadyForTheNextValue) {
+    type("txtLoftAngle", "011"); // the run writes it with fewer digits
+    press(Qt::Key_F5);
+    EXPECT_EQ(focused() + fromQt(field("txtLoftAngle")->selectedText()), "txtLoftAngle11");
+}
+
+TEST_F(MainWindowTest, WhatIsShownIsAlsoTold) {
+    const auto told = [this](const char* name) {
+        QCoreApplication::processEvents();
+        return fromQt(
+            QAccessible::queryAccessibleInterface(find(name))->text(QAccessible::Description));
+    };
+    EXPECT_EQ(told("Picture1"), "0 data sets.");
+    click("Command1");
+    click("Command1");
+    EXPECT_EQ(told("Picture1"), "2 data sets. 1: carry 233 yards. 2: carry 233 yards.");
+    user.messages.answers = {MessageBoxes::Answer::Yes};
+    click("Command2");
+    EXPECT_EQ(told("Picture1"), "0 data sets.");
+
+    const std::pair<const char*, const char*> tips[] = {
+        {"txtHeadSpeed", "mph, 50 to 165"},
+        {"txtCor", "0.7 to 0.9"},
+        {"txtTemperature", "it, 20 to 120"},
+        {"txtBending", "degrees, -10 to 10"},
+        {"optActual", "measured launch angle"},
+        {"BallOpt1", "+0.5 rpm"},
+        {"BallOpt2", "-0.1"},
+        {"txtRun", "24"},
+    };
+    for (const auto& [name, part] : tips)
+        EXPECT_NE(told(name).find(part), std::string::npos) << told(name);
+    for (const Control* control : user.form.controls.all()) {
+        const bool input = control->takesFocus() && control->visible() &&
+                           !control->name().starts_with("Picture") &&
+                           control != &user.form.txtResult;
+        EXPECT_TRUE(!input || told(control->name().c_str()).size() > 5) << control->name();
+    }
+    for (QLabel* label : window.findChildren<QLabel*>())
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name),
+                  label->text())
+            << "a label without a text would be read as the title of its frame";
+}
+
+TEST_F(MainWindowTest, ADoubleClickOnAboutStopsThere) {
+    const int usual = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(1'000'000); // however slow the machine
+    frmSplash about(user.desktop);
+    SplashWindow splash(about, &window);
+    splash.show();
+    QWidget* soft = find("BallOpt1");
+    splash.move(soft->mapToGlobal(QPoint(8, soft->height() / 2)) - QPoint(40, 40));
+    auto* picture = splash.findChild<QWidget*>("Picture1");
+    for (const bool chosen : {false, true}) { // the second press of a double click, and a later one
+        if (!chosen)
+            QTest::mouseClick(
+                picture, Qt::LeftButton, {},
+                picture->mapFromGlobal(soft->mapToGlobal(QPoint(8, soft->height() / 2))));
+        EXPECT_FALSE(splash.isVisible());
+        click("BallOpt1");
+        EXPECT_EQ(user.form.BallOpt1.selected(), chosen);
+    }
+    QApplication::setDoubleClickInterval(usual);
 }
 
 TEST_F(MainWindowTest, TheCaretStaysWhileTheUserTypes) {
@@ -288,102 +432,6 @@ TEST_F(MainWindowTest, TypingIntoTheTableMovesTheNextRow) {
     const QScrollBar* bar = table->verticalScrollBar();
     EXPECT_GT(bar->maximum(), 3);
     EXPECT_EQ(bar->value(), bar->maximum());
-}
-
-/// The same window over the platform's own message boxes and event loop.
-struct RealServicesTest : testing::Test {
-    ScriptedForm scripted; // lends the services that need no reality
-    QtMessageBoxes messages;
-    QtEventLoop events;
-    frmMain main{{messages, scripted.files, scripted.preferences, scripted.desktop, events, "/"}};
-    std::unique_ptr<MainWindow> window;
-    bool ended = false;
-
-    void SetUp() override {
-        main.endProgram = [this] {
-            main.pause.stop();
-            ended = true;
-        };
-        main.Form_Load();
-        window = std::make_unique<MainWindow>(main);
-        window->resize(1100, 800);
-        window->show();
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-    QLineEdit* field(const char* name) { return window->findChild<QLineEdit*>(name); }
-};
-
-// The message comes up inside the click or the key that leaves the field.
-TEST_F(RealServicesTest, AMessageSwallowsNoMoreThanTheKeyThatClosesIt) {
-    int boxes = 0;
-    QTimer closer;
-    QObject::connect(&closer, &QTimer::timeout, [&] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            ++boxes;
-            EXPECT_EQ(box->windowTitle(), "Parabolt");
-            QTest::keyPress(box->button(QMessageBox::Ok), Qt::Key_Return);
-        }
-    });
-    closer.start(20);
-    QLineEdit* wind = field("txtWind");
-    wind->setFocus();
-    QTest::keyClicks(wind, "99");
-    QTest::keyClick(wind, Qt::Key_Return);
-    window->activateWindow(); // there is no window manager to do it
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    EXPECT_TRUE(wind->hasFocus());
-    wind->deselect();
-    QTest::keyRelease(wind, Qt::Key_Return);
-    EXPECT_FALSE(wind->hasSelectedText()) << "judged again by the Enter that closed the message";
-    QTest::keyClicks(wind, "99");
-    auto* run = window->findChild<QPushButton*>("Command1");
-    for (const char* runs : {"0", "1"}) {
-        QTest::mouseClick(run, Qt::LeftButton);
-        EXPECT_EQ(field("txtRun")->text(), runs);
-        EXPECT_FALSE(run->isDown());
-    }
-    EXPECT_EQ(boxes, 2);
-}
-
-TEST_F(RealServicesTest, EscAnswersNoQuestion) {
-    QTimer::singleShot(100, [] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        QTest::keyClick(box, Qt::Key_Escape);
-        EXPECT_TRUE(box->isVisible() && !box->close());
-        box->button(QMessageBox::Yes)->click();
-    });
-    EXPECT_TRUE(messages.ask("All the data?"));
-    const std::pair<QMessageBox::StandardButton, Answer> answers[] = {
-        {QMessageBox::Yes, Answer::Yes},
-        {QMessageBox::No, Answer::No},
-        {QMessageBox::Cancel, Answer::Cancel}};
-    for (const auto& [button, answer] : answers) {
-        QTimer::singleShot(100, [button = button] {
-            qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->button(button)->click();
-        });
-        EXPECT_EQ(messages.askOrCancel("All the data?"), answer);
-    }
-}
-
-TEST_F(RealServicesTest, EscStopsAStudyAndTheFormIsUsableAgain) {
-    const auto* run = window->findChild<QPushButton*>("Command1");
-    const auto* progress = window->findChild<QWidget*>("frmProgress");
-    QTimer::singleShot(700, [&] {
-        EXPECT_TRUE(!run->isEnabled() && progress->isVisible());
-        QTest::keyClick(window.get(), Qt::Key_Escape);
-    });
-    main.form.mnuStyLaunch.Click();
-    EXPECT_EQ(field("txtRun")->text(), "0");
-    EXPECT_TRUE(run->isEnabled() && !progress->isVisible());
-}
-
-TEST_F(RealServicesTest, ClosingTheWindowEndsARunningBatch) {
-    main.form.optAuto.select();
-    QTimer::singleShot(250, [&] { window->close(); });
-    main.form.Command1.Click();
-    EXPECT_TRUE(ended);
-    EXPECT_LT(main.form.Runs.count(), 6);
 }
 
 } // namespace

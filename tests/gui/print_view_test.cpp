@@ -3,24 +3,34 @@
 #include "qt/print_view_window.h"
 #include "qt/printer.h"
 #include "qt/text.h"
+#include "tests/gui/as_soon_as.h"
 #include "tests/support/scripted_services.h"
 #include "tests/support/temporary_folder.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QFileInfo>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPageLayout>
 #include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
-#include <QTimer>
 #include <algorithm>
+#include <stdexcept>
 
 namespace parabolt::support {
 namespace {
 
 constexpr int kRows = 12;
+
+/// A part of a window that the test can't do without.
+template <class Widget>
+Widget* part(const QWidget& window, const char* name) {
+    auto* found = window.findChild<Widget*>(name);
+    return found != nullptr ? found : throw std::logic_error(name);
+}
 
 /// What the main form would hand over: a plot of one red path of 240 yards on a scale of 300, and a
 /// table whose rows are as wide as they get.
@@ -46,7 +56,8 @@ struct PrintedReport : testing::Test {
     static QString output(const QString& program, const QStringList& arguments) {
         QProcess process;
         process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0) << program.toStdString();
+        EXPECT_TRUE(process.waitForFinished(-1) && process.exitCode() == 0)
+            << program.toStdString();
         return process.readAllStandardOutput();
     }
 
@@ -86,6 +97,8 @@ TEST_F(PrintedReport, IsTextAndLinesInsideItsFrameOnEachPaper) {
                     red |= QRectF(x, y, 1, 1);
             }
         EXPECT_TRUE(QRectF(page.rect()).adjusted(14, 14, -14, -14).contains(ink));
+        EXPECT_NEAR(ink.left(), page.width() * 0.2 / 11 + 14.4, 2)
+            << "the frame stands beside the margin";
         QMultiHash<QString, QRectF> words;
         for (const auto& match : boxed.globalMatch(output("pdftotext", {"-bbox", file, "-"}))) {
             const auto point = [&](int x) {
@@ -109,31 +122,74 @@ TEST_F(PrintedReport, IsTextAndLinesInsideItsFrameOnEachPaper) {
         EXPECT_FALSE(write(file, QPageSize::A4));
     }
     EXPECT_EQ(QFileInfo(file).size(), size);
+    const auto refused = write("/dev/full", QPageSize::A4);
+    ASSERT_FALSE(refused);
+    EXPECT_NE(refused.why().find("not an ordinary file"), std::string::npos) << refused.why();
+}
+
+TEST(Paper, IsThatOfTheUsersCountry) {
+    struct Setting {
+        const char *all, *paper, *lang;
+        QPageSize::PageSizeId expected;
+    };
+    const char* const names[] = {"LC_ALL", "LC_PAPER", "LANG"};
+    const QByteArray before[] = {qgetenv(names[0]), qgetenv(names[1]), qgetenv(names[2])};
+    for (const auto& [all, paper, lang, expected] :
+         {Setting{"", "fr_CA.UTF-8", "fr_FR.UTF-8", QPageSize::Letter},
+          {"", "en_GB", "en_US.UTF-8", QPageSize::A4},
+          {"", "", "en_US.UTF-8", QPageSize::Letter},
+          {"de_DE@euro", "en_US", "en_US", QPageSize::A4}}) {
+        qputenv(names[0], all);
+        qputenv(names[1], paper);
+        qputenv(names[2], lang);
+        EXPECT_EQ(usualPaper(), expected) << all << paper << lang;
+    }
+    for (std::size_t i = 0; i < std::size(names); ++i)
+        qputenv(names[i], before[i]);
+}
+
+// The side to which the printer turns the page isn't known: what is drawn has to fit both ways.
+TEST(Paper, KeepsThePrintersWidestMarginsWhenItIsTurned) {
+    const PageSize page = turnedToLandscape({QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                             QMarginsF(11, 17, 23, 85), QPageLayout::Point});
+    constexpr double kPoints = 72;
+    EXPECT_NEAR(page.width * kPoints, 842, 0.5);
+    EXPECT_NEAR(page.height * kPoints, 595, 0.5);
+    EXPECT_NEAR((page.width - page.printableWidth) * kPoints, 85 + 85, 0.01);
+    EXPECT_NEAR((page.height - page.printableHeight) * kPoints, 23 + 23, 0.01);
 }
 
 TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
-    EXPECT_EQ(usualPaper(QLocale("fr_CA")), QPageSize::Letter);
-    EXPECT_EQ(usualPaper(QLocale("en_GB")), QPageSize::A4);
     PrintViewWindow window(frm);
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     EXPECT_EQ(window.focusWidget()->objectName(), "txtCaption");
     const auto press = [&](const char* name) {
-        QTest::mouseClick(window.findChild<QPushButton*>(name), Qt::LeftButton);
+        QTest::mouseClick(part<QPushButton>(window, name), Qt::LeftButton);
     };
     const auto print = [&](const std::string& name) {
-        QTimer::singleShot(200, [this, name] {
-            auto* dialog = QApplication::activeModalWidget();
-            ASSERT_TRUE(dialog);
-            EXPECT_EQ(dialog->objectName(), "printFileDialog");
-            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(toQt(folder.path(name)));
-            static_cast<QDialog*>(dialog)->accept();
-        });
+        const auto dialog = [] {
+            auto* modal = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            return modal != nullptr && modal->objectName() == "printFileDialog" ? modal : nullptr;
+        };
+        asSoonAs(
+            window, [=] { return dialog() != nullptr; },
+            [=, this] {
+                auto* edit = dialog()->findChild<QLineEdit*>("fileNameEdit");
+                if (edit == nullptr) {
+                    ADD_FAILURE() << "no place for a name";
+                    return dialog()->reject();
+                }
+                edit->setText(toQt(folder.path(name)));
+                dialog()->accept();
+            });
         press("cmdPrint");
     };
-    auto* sheet = window.findChild<QWidget*>("Picture0");
+    auto* sheet = part<QWidget>(window, "Picture0");
+    const auto* result = part<QLabel>(window, "lblResult");
     form.txtCaption.setText("Before");
     print("report"); // no preview is needed
+    EXPECT_TRUE(result->text().contains(toQt(folder.path("report.pdf"))));
     const QString printed = output("pdftotext", {toQt(folder.path("report.pdf")), "-"});
     EXPECT_TRUE(printed.contains("Before") && printed.contains("row12"));
     press("cmdPrintPreview");
@@ -159,6 +215,10 @@ TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
     std::filesystem::create_directory(folder.path("taken.pdf"));
     print("taken.pdf/x/y");
     EXPECT_EQ(messages.texts.size(), 1U);
+    EXPECT_EQ(result->text(), "");
+    txtResult.insert(0, QString("further\n").repeated(12).toStdString(), kBlack);
+    const frmPrintView longer({outer, inner}, txtResult, printer, messages);
+    EXPECT_EQ(longer.form.lblRows.caption().substr(0, 2), "6 ") << "twelve and twelve, of eighteen";
     form.txtCaption.setText("");
     print("untitled");
     EXPECT_TRUE(

@@ -32,8 +32,10 @@ QString described(const QWidget& window, const ControlSet& controls) {
     for (const Control* control : controls.all()) {
         const QString name = toQt(control->name());
         const auto* part = window.findChild<const QObject*>(name);
-        if (part == nullptr)
-            return name + " is missing";
+        if (part == nullptr) {
+            lines += name + " | not there\n";
+            continue;
+        }
         const auto* widget = qobject_cast<const QWidget*>(part);
         QStringList cells{name, property(*part, {"text", "title", "currentText", "interval"}),
                           widget == nullptr ? property(*part, {"shortcut"})

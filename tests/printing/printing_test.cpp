@@ -24,6 +24,8 @@ TEST(MatrixStr, LaysFieldsIntoARow) {
         {{{left, 8, "late"}, {left, 1, "early"}}, "early  late"},
         {{{left, 1, "abcdef"}, {left, 3, "XY"}}, "abXYef"},
         {{{left, 1, "abc  "}}, "abc  "},
+        {{{right, 4, "\u00e9\u20ac"}, {left, 6, "x"}}, "  \u00e9\u20ac x"}, // two and three bytes
+        {{{right, 2, "\u00e9\u2192\u00e8"}, {left, 2, "\u00df"}}, "\u00e9\u00df"},
     };
     for (const auto& [writes, row] : table) {
         clsMatrixStr matrix;
@@ -101,6 +103,7 @@ TEST(DrvPrinter, LaysTextIntoTheCellsOfTheStandardSize) {
     for (const auto& [alignment, x] :
          {std::pair{0, 1.0}, {1, 0.6}, {2, 0.2}, {7, 0.2}, {-1, 0.2}}) {
         driver.PrintText(alignment, "abcd");
+        ASSERT_FALSE(page.lines.empty());
         EXPECT_NEAR(page.lines.back().x, x, 1e-12) << alignment;
         EXPECT_EQ(page.lines.back().y, 0.5) << "each on the same line";
     }
@@ -110,6 +113,8 @@ struct Report : testing::Test {
     RecordedPage compose(double Ratio = 1, double PicRatio = 2) {
         RecordedPage page;
         ComposeReport(page, Ratio, PicRatio, {caption, table, {outer, inner}});
+        if (!page.frame || page.lines.size() < 2)
+            throw std::logic_error("a report without frame, caption or heading");
         return page;
     }
 
@@ -140,7 +145,7 @@ TEST_F(Report, FillsThePageInProportion) {
         const auto [corner, size, pen] = compose(1, PicRatio).plot.value();
         EXPECT_NEAR(size.x / size.y, PicRatio, 1e-9);
         EXPECT_LT(corner.x + size.x, page.frame->corner.x + page.frame->size.x) << PicRatio;
-        EXPECT_EQ(size.y == compose(1, 1).plot->size.y, PicRatio < 2.9) << PicRatio;
+        EXPECT_EQ(size.y == compose(1, 1).plot.value().size.y, PicRatio < 2.9) << PicRatio;
     }
     EXPECT_FALSE(compose(1, 0).plot) << "a plot that was never laid out";
     caption.assign(200, 'x'); // shrinks into the frame
@@ -161,7 +166,30 @@ TEST_F(Report, PrintsEighteenLinesAndWrapsFrom126CharactersOn) {
     for (int i = 1; i < 30; ++i)
         table += "\n" + std::to_string(i);
     EXPECT_EQ(compose().table().size(), 18U);
-    EXPECT_EQ(compose().table().back(), "17");
+    EXPECT_EQ(compose().table().at(17), "17");
+}
+
+TEST_F(Report, TellsHowManyRowsItLoses) {
+    const auto rows = [](int count, const std::string& row) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += row + "\n";
+        return text;
+    };
+    const std::string wide = std::string(126, 'x'); // two lines and an empty one
+    const std::pair<std::string, int> cases[] = {
+        {"", 0},
+        {rows(18, "row"), 0},
+        {rows(19, "row"), 1},
+        {rows(18, "row") + "\n  \n" + rows(5, "row") + "last", 6},
+        {wide + "\n" + rows(16, "row"), 0},
+        {wide + "\n" + rows(17, "row"), 1},
+        {rows(17, "row") + wide, 0},
+        {rows(6, wide) + rows(3, "row"), 2},
+        {rows(8, wide), 2},
+    };
+    for (const auto& [text, lost] : cases)
+        EXPECT_EQ(rowsLeftOut(text), lost) << text;
 }
 
 TEST(SplitSentence, CutsAtBlanksInTheSecondHalf) {
@@ -177,7 +205,7 @@ TEST(SplitSentence, CutsAtBlanksInTheSecondHalf) {
     };
     for (const auto& [text, length, expected] : table) {
         Texts pieces = SplitSentence(text, length);
-        ASSERT_EQ(pieces.back(), "") << text;
+        ASSERT_TRUE(!pieces.empty() && pieces.back().empty()) << text;
         pieces.pop_back();
         EXPECT_EQ(pieces, expected) << text;
     }

@@ -1,0 +1,54 @@
+#include "exchange/csv_writer.h"
+
+#include <array>
+#include <charconv>
+
+namespace parabolt {
+namespace {
+
+template <class Number>
+void append(std::string& text, Number number) {
+    std::array<char, 64> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    text.append(digits.data(), end);
+}
+
+} // namespace
+
+void CsvWriter::startField() {
+    if (rowStarted_)
+        text_ += ',';
+    rowStarted_ = true;
+}
+
+CsvWriter& CsvWriter::field(std::string_view text) {
+    startField();
+    if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
+        text_ += text;
+        return *this;
+    }
+    text_ += '"';
+    for (const char c : text)
+        text_.append(c == '"' ? 2 : 1, c);
+    text_ += '"';
+    return *this;
+}
+
+CsvWriter& CsvWriter::field(double number) {
+    startField();
+    append(text_, number);
+    return *this;
+}
+
+CsvWriter& CsvWriter::field(float number) {
+    startField();
+    append(text_, number);
+    return *this;
+}
+
+void CsvWriter::endRow() {
+    text_ += "\r\n";
+    rowStarted_ = false;
+}
+
+} // namespace parabolt

@@ -1,0 +1,85 @@
+#include "maps/map_flights.h"
+
+#include "shots/fly.h"
+
+#include <array>
+
+namespace parabolt {
+namespace {
+
+constexpr std::array kOutcomes = {MapOutcome::Carry, MapOutcome::Total, MapOutcome::Height,
+                                  MapOutcome::LandingAngle, MapOutcome::Time};
+
+double overshootOf(const TrajectoryPoint& before, const TrajectoryPoint& landing) {
+    return (double{landing.x} - before.x) * landing.y / (double{landing.y} - before.y);
+}
+
+MapCell cellOf(const FlightOutcome& flight) {
+    if (flight.fault)
+        return because(*flight.fault);
+    return MapFlight{figuresOf(flight), overshootOf(flight.beforeLanding, flight.landing)};
+}
+
+} // namespace
+
+OutcomeText textOf(MapOutcome outcome) {
+    switch (outcome) {
+    case MapOutcome::Carry:
+        return {"Carry", "yd"};
+    case MapOutcome::Total:
+        return {"Total", "yd"};
+    case MapOutcome::Height:
+        return {"Height", "yd"};
+    case MapOutcome::LandingAngle:
+        return {"Landing angle", "\u00b0"};
+    case MapOutcome::Time:
+        return {"Time", "s"};
+    }
+    return {};
+}
+
+std::span<const MapOutcome> mapOutcomes() {
+    return kOutcomes;
+}
+
+double figureOf(const Figures& figures, MapOutcome outcome) {
+    switch (outcome) {
+    case MapOutcome::Carry:
+        return figures.carry;
+    case MapOutcome::Total:
+        return figures.total;
+    case MapOutcome::Height:
+        return figures.height;
+    case MapOutcome::LandingAngle:
+        return figures.landingAngle;
+    case MapOutcome::Time:
+        return figures.time;
+    }
+    return 0;
+}
+
+double smoothFigure(const MapFlight& flight, MapOutcome outcome) {
+    const bool alongTheGround = outcome == MapOutcome::Carry || outcome == MapOutcome::Total;
+    return figureOf(flight.figures, outcome) - (alongTheGround ? flight.overshoot : 0);
+}
+
+std::vector<MapCell> flyAll(std::span<const Shot> shots, const std::stop_token& stop) {
+    std::vector<Outcome<ShotState, Fault>> prepared;
+    std::vector<ShotState> states; // of those that have air and launch
+    prepared.reserve(shots.size());
+    states.reserve(shots.size());
+    for (const Shot& shot : shots)
+        if (const auto& state = prepared.emplace_back(prepare(shot)))
+            states.push_back(*state);
+    const auto flights = SimulateFlights(states, stop);
+    if (flights.size() != states.size())
+        return {};
+    std::vector<MapCell> cells;
+    cells.reserve(shots.size());
+    auto flight = flights.begin();
+    for (const auto& state : prepared)
+        cells.push_back(state ? cellOf(*flight++) : MapCell(because(state.why())));
+    return cells;
+}
+
+} // namespace parabolt
