@@ -6,8 +6,9 @@
 namespace parabolt {
 
 /// Enters values from elsewhere into the fields, as the user would: the mode, then each field whose
-/// value differs, judged by its validator. Nothing happens, and the answer is false, while a study
-/// or batch runs, or where the field being edited is refused.
+/// value differs, judged by its validator. Nothing is entered, and the answer is false, while a
+/// study or batch runs, where the field being edited is refused, or where one of the values would
+/// be: that is told.
 class ShotEntry {
 public:
     /// `rest` is where the focus goes while values are entered.

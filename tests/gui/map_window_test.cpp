@@ -77,6 +77,7 @@ TEST_F(MapWindowTest, FollowsWhatTheFormAccepts) {
 }
 
 TEST_F(MapWindowTest, TakesAPointIntoTheFormAndRunsIt) {
+    ASSERT_TRUE(waitForSummary("yd of carry"));
     press(Qt::Key_Up); // from the present setting
     const QPoint middle = view->rect().center();
     QTest::mouseClick(view, Qt::LeftButton, {}, middle);
