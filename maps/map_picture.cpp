@@ -260,7 +260,8 @@ private:
             degrees.emplace_back(static_cast<int>(node.loft), at);
         }
         const auto every = [closest](double apart) {
-            return static_cast<int>(std::max(roundStep(apart / closest, 1), 1.0));
+            constexpr double kLeast = 1; // lofts that all give one launch stand on one place
+            return static_cast<int>(std::max(roundStep(apart / std::max(closest, kLeast), 1), 1.0));
         };
         for (const auto& [degree, at] : degrees) {
             if (degree % every(kDotsApart) == 0)
