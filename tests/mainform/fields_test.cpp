@@ -162,5 +162,16 @@ TEST_F(Validators, ARefusedValueReachesNothingUntilTheFallbackPasses) {
     EXPECT_FLOAT_EQ(form.sRange, 250);
 }
 
+TEST(ShotEntry, EntersNothingWhereOneValueWouldBeRefused) {
+    ScriptedForm user;
+    ShotInputs shot = user.form.shot;
+    shot.LaunchAngle = 20;
+    shot.LaunchSpeed = 272.5F; // a swing can give it, the field doesn't take it
+    EXPECT_FALSE(user.main.shotEntry.enterLaunch(shot));
+    EXPECT_EQ(user.messages.texts.size(), 1U);
+    EXPECT_TRUE(user.form.optManual.selected());
+    EXPECT_FLOAT_EQ(user.form.shot.LaunchAngle, 9.5F);
+}
+
 } // namespace
 } // namespace parabolt::support
