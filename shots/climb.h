@@ -12,6 +12,10 @@ struct ClimbRange {
     int step;
 };
 
+/// The climbs of the studies: to the best launch angle, and to the best spin.
+inline constexpr ClimbRange kLaunchClimb{&ShotInputs::LaunchAngle, 2, 55, 1};
+inline constexpr ClimbRange kSpinClimb{&ShotInputs::RPM, 0, 22000, 100};
+
 /// Climbs over one input of a shot to the first value that carries less than the one before. Equal
 /// carries don't stop it, and a later, higher peak is never reached. A flight that fails carries 0,
 /// so that after the first value it ends the climb too. Only flies: no path is kept.

@@ -26,7 +26,7 @@ MAY_SEE = {
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
-    "results": GROUND | {"engine", "printing", "files"},
+    "results": GROUND | {"engine", "shots", "printing", "files"},
     "mainform": LOGIC,
     "run": LOGIC | {"mainform"},
     "shell": LOGIC | {"mainform", "run"},
