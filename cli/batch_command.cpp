@@ -1,8 +1,8 @@
 #include "cli/batch_command.h"
 
 #include "cli/ordered_work.h"
-#include "measured/shot_import.h"
 #include "measured/measured_flights.h"
+#include "measured/shot_import.h"
 
 #include <algorithm>
 #include <memory>
@@ -164,11 +164,12 @@ private:
     }
 
     /// The file as a whole; what its preview would leave out is told and left out.
-    ExitStatus flyMonitorFile(std::string text) {
-        const auto rest = input_.readAll(kLongestShotFile - std::min(kLongestShotFile, text.size()));
+    ExitStatus flyMonitorFile(std::string head) {
+        const auto rest =
+            input_.readAll(kLongestShotFile - std::min(kLongestShotFile, head.size()));
         if (!rest)
             return console_.complain(rest.why());
-        const auto preview = importShots(text + *rest);
+        const auto preview = importShots(head + *rest);
         if (!preview)
             return console_.complain(preview.why().message);
         const auto conditions = base_.shot();

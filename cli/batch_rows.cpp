@@ -88,13 +88,13 @@ BatchShot BatchColumns::shotOf(const CsvRow& row, const ShotRequest& base) const
     ShotRequest request = base;
     Outcome<void, std::string> taken;
     const std::size_t count = std::min(row.cells.size(), meanings_.size());
-    for (std::size_t i = 0; taken && i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i) {
         const std::string& cell = row.cells[i];
-        if (cell.empty() || meanings_[i] == Ignored)
-            continue;
         if (meanings_[i] == Club)
             result.club = cell;
-        else if (meanings_[i] == Ball)
+        if (!taken || cell.empty() || meanings_[i] == Club || meanings_[i] == Ignored)
+            continue;
+        if (meanings_[i] == Ball)
             taken = request.setBall(cell);
         else if (taken = request.set(meanings_[i], cell); !taken)
             taken = because(std::string(shotInputs()[meanings_[i]].heading) + ": " + taken.why());
@@ -169,9 +169,9 @@ BatchText flyBatchPaths(std::span<const BatchShot> shots, Format format, const R
             break;
         const auto flown = shot.shot ? fly(*shot.shot) : because(NotFlown());
         const std::string problem =
-            flown ? ""
-                  : (shot.shot ? std::string(faultDescription(flown.why().fault))
-                               : shot.shot.why());
+            flown
+                ? ""
+                : (shot.shot ? std::string(faultDescription(flown.why().fault)) : shot.shot.why());
         if (format == Format::Json) {
             beginCells(cells, shot, flown ? &flown->shot : nullptr);
             if (flown) {

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "cli/row_writer.h"
 #include "cli/shot_options.h"
-
-#include <vector>
 
 namespace parabolt::cli {
 
@@ -17,15 +16,11 @@ enum class ClubsFormat { Program, Csv, Json };
 /// without the texts.
 Outcome<std::string, std::string> clubsContent(const ClubTables& clubs, ClubsFormat format);
 
-/// A club of the set, as the editor has it.
-struct ListedClub {
-    ClubName name;
-    const ClubRecord* record;
-};
-/// All clubs of the editor, woods first.
-std::vector<ListedClub> listedClubs(const ClubTables& clubs);
+/// The columns of a table of clubs, and the cells of a club.
+std::span<const Column> clubColumns();
+std::vector<Cell> clubCells(std::string_view name, const ClubRecord& club);
 
-/// What the editor would refuse of a set, a line each: "W1: Then head weight must ...".
+/// What the editor would refuse of a set, a line each: "Driver: Then head weight must ...".
 std::vector<std::string> checkClubs(const ClubTables& clubs);
 
 } // namespace parabolt::cli

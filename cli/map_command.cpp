@@ -109,7 +109,8 @@ std::string mapJson(const MapResult& map) {
     json["best_carry"] = bestJson(kind, map.bestCarry);
     json["best_total"] = bestJson(kind, map.bestTotal);
     if (map.reach.carry && map.reach.total) {
-        json["best_loft_deg"] = {{"carry", map.reach.carry->loft}, {"total", map.reach.total->loft}};
+        json["best_loft_deg"] = {{"carry", map.reach.carry->loft},
+                                 {"total", map.reach.total->loft}};
         json["good_lofts_deg"] = {map.reach.lowestGood, map.reach.highestGood};
     }
     json["steps"] = stepsJson(map.steps);
@@ -122,8 +123,8 @@ std::string mapWords(const MapResult& map) {
     std::string text = summaryOf(map, MapOutcome::Carry) + "\n\nWhat one step changes, yards:\n";
     const auto line = [&](std::string_view name, std::string_view value, std::string_view step,
                           std::string_view less, std::string_view more) {
-        for (const auto& [cell, width] : {std::pair(name, std::size_t{14}), {value, 12}, {step, 12},
-                                          {less, 8}, {more, 8}}) {
+        for (const auto& [cell, width] :
+             {std::pair(name, std::size_t{14}), {value, 12}, {step, 12}, {less, 8}, {more, 8}}) {
             const std::string blanks(width - std::min(width, characterCount(cell)), ' ');
             const bool first = cell.data() == name.data();
             text.append(first ? cell : blanks).append(first ? blanks : cell);

@@ -13,8 +13,8 @@ struct MapOptions {
     std::optional<std::string> up;
 };
 
-/// Computes a carry map and writes it: in CSV every node, in a table what the map tells in words and
-/// what one step of each input brings, in JSON both.
+/// Computes a carry map and writes it: in CSV every node, in a table what the map tells in words
+/// and what one step of each input brings, in JSON both.
 ExitStatus mapCommand(const MapOptions& options, const Console& console);
 
 } // namespace parabolt::cli

@@ -24,8 +24,7 @@ bool OrderedWork::add(Piece piece) {
     changed_.wait(lock, [this] { return pieces_.size() < most_; });
     if (broken_)
         return false;
-    pieces_.push_back(
-        std::async(std::launch::async, std::move(piece), stop_.get_token()));
+    pieces_.push_back(std::async(std::launch::async, std::move(piece), stop_.get_token()));
     changed_.notify_all();
     return true;
 }

@@ -24,12 +24,12 @@ constexpr std::array<ShotInput, kShotInputs> kInputs = {{
      "Launch angle; beside a swing, as measured: the attack angle follows from it"},
     {limits::kSpin, Of::Launch, "spin_rpm", "Spin [rpm]", shown::kSpin.pattern, &ShotInputs::RPM,
      "Back spin"},
-    {limits::kHeadSpeed, Of::Swing, "head_speed_mph", "Head speed [mph]",
-     shown::kHeadSpeed.pattern, &ShotInputs::HeadSpeed, "Speed of the club head at impact"},
+    {limits::kHeadSpeed, Of::Swing, "head_speed_mph", "Head speed [mph]", shown::kHeadSpeed.pattern,
+     &ShotInputs::HeadSpeed, "Speed of the club head at impact"},
     {limits::kCor, Of::Swing, "cor", "COR", shown::kCor.pattern, &ShotInputs::COR,
      "Coefficient of restitution"},
-    {limits::kHeadWeight, Of::Swing, "head_weight_g", "Head weight [g]",
-     shown::kHeadWeight.pattern, &ShotInputs::HeadWeight, "Mass of the club head"},
+    {limits::kHeadWeight, Of::Swing, "head_weight_g", "Head weight [g]", shown::kHeadWeight.pattern,
+     &ShotInputs::HeadWeight, "Mass of the club head"},
     {limits::kLoftAngle, Of::Swing, "loft_deg", "Loft [deg]", shown::kLoftAngle.pattern,
      &ShotInputs::LoftAngle, "Loft"},
     {limits::kBending, Of::Swing, "bend_deg", "Bend [deg]", shown::kBending.pattern,
@@ -73,23 +73,6 @@ std::optional<std::size_t> shotInputNamed(std::string_view name) {
     return std::nullopt;
 }
 
-Outcome<ClubName, std::string> clubNamed(std::string_view text) {
-    const auto number = parseNumber(text.substr(std::min<std::size_t>(1, text.size())));
-    const std::string kind = lowerCase(text.substr(0, 1));
-    if (number && (kind == "w" || kind == "i")) {
-        const bool iron = kind == "i";
-        for (const std::int16_t club : playableClubs(iron))
-            if (club == *number)
-                return ClubName{iron, club};
-    }
-    return because("There is no club \"" + std::string(text) +
-                   "\". Give W1 to W5, W7 or W9 for a wood, I1 to I12 for an iron.");
-}
-
-std::string nameOf(ClubName club) {
-    return (club.iron ? "I" : "W") + std::to_string(club.number);
-}
-
 Outcome<void, std::string> ShotRequest::set(std::size_t input, std::string_view text) {
     const ShotInput& rule = kInputs.at(input);
     const auto value = parseNumber(text);
@@ -103,10 +86,10 @@ Outcome<void, std::string> ShotRequest::set(std::size_t input, std::string_view 
 }
 
 Outcome<void, std::string> ShotRequest::setClub(std::string_view text) {
-    const auto club = clubNamed(text);
-    if (!club)
-        return because(club.why());
-    club_ = *club;
+    club_ = clubNamed(text, *clubs_);
+    if (!club_)
+        return because("There is no club \"" + std::string(text) +
+                       "\". Give one such as W1 or Driver, I7 or 7i, PW.");
     return {};
 }
 
@@ -155,30 +138,28 @@ Outcome<Shot, std::string> ShotRequest::shot() const {
     return shot;
 }
 
-/// Lays the values of the club into the shot, as choosing it does on the form: by way of the texts of
-/// its fields.
+/// Lays the values of the club into the shot, as choosing it does on the form: by way of the texts
+/// of its fields.
 Outcome<void, std::string> ShotRequest::takeClub(Shot& shot) const {
     shot.Mode = OperatingMode::Manual;
     if (!club_)
         return {};
-    const ClubRecord* club = playableClub(*clubs_, club_->iron, club_->number);
-    if (club == nullptr)
-        return because(nameOf(*club_) + " is not in the set.");
+    const ClubRecord& club = recordOf(*clubs_, *club_);
     shot.IsWood = !club_->iron;
     shot.ClubNo = club_->number;
-    const auto fields = std::to_array<
-        std::tuple<const InputLimits&, float ShotInputs::*, std::string>>({
-        {limits::kHeadSpeed, &ShotInputs::HeadSpeed, shortestText(club->HeadSpeed)},
-        {limits::kCor, &ShotInputs::COR, formatPattern(club->COR, "0.00")},
-        {limits::kHeadWeight, &ShotInputs::HeadWeight, shortestText(club->HeadWeight)},
-        {limits::kLoftAngle, &ShotInputs::LoftAngle, shortestText(club->LoftAngle)},
-        {limits::kBending, &ShotInputs::Bending, shortestText(club->Bending)},
-        {limits::kAttackAngle, &ShotInputs::AttackAngle, shortestText(club->AttackAngle)},
-    });
+    const auto fields =
+        std::to_array<std::tuple<const InputLimits&, float ShotInputs::*, std::string>>({
+            {limits::kHeadSpeed, &ShotInputs::HeadSpeed, shortestText(club.HeadSpeed)},
+            {limits::kCor, &ShotInputs::COR, formatPattern(club.COR, "0.00")},
+            {limits::kHeadWeight, &ShotInputs::HeadWeight, shortestText(club.HeadWeight)},
+            {limits::kLoftAngle, &ShotInputs::LoftAngle, shortestText(club.LoftAngle)},
+            {limits::kBending, &ShotInputs::Bending, shortestText(club.Bending)},
+            {limits::kAttackAngle, &ShotInputs::AttackAngle, shortestText(club.AttackAngle)},
+        });
     for (const auto& [limits, member, text] : fields) {
         const auto value = parseNumber(text);
         if (!value || !limits.hold(*value))
-            return because(nameOf(*club_) + ": " + std::string(limits.rangeMessage));
+            return because(usualName(*club_) + ": " + std::string(limits.rangeMessage));
         shot.*member = store32(*value);
     }
     const auto ofClub = [this](std::size_t i) {
@@ -190,7 +171,7 @@ Outcome<void, std::string> ShotRequest::takeClub(Shot& shot) const {
         changed = changed || ofClub(i);
     if (!changed) {
         shot.Mode = OperatingMode::Default;
-        shot.sources.club = *club;
+        shot.sources.club = club;
     }
     return {};
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "clubs/club_tables.h"
+#include "measured/club_names.h"
 #include "numbers/outcome.h"
 #include "shots/input_limits.h"
 #include "shots/shot.h"
@@ -34,14 +34,6 @@ std::span<const ShotInput, kShotInputs> shotInputs();
 /// The place of the input that a column names by its heading or its key, in any letters.
 std::optional<std::size_t> shotInputNamed(std::string_view name);
 
-/// A club of the set by its name: "W1", "i7". The reason if there is none.
-struct ClubName {
-    bool iron = false;
-    std::int16_t number = 1;
-};
-Outcome<ClubName, std::string> clubNamed(std::string_view text);
-std::string nameOf(ClubName club);
-
 /// What has been said of a shot, on its way to a shot. Values that nobody gives are those with
 /// which the form starts, or those of the club.
 ///
@@ -56,7 +48,7 @@ public:
     /// Takes a value for an input, `shotInputs()[input]`; the reason if it refuses it, in the words
     /// of the form.
     Outcome<void, std::string> set(std::size_t input, std::string_view text);
-    Outcome<void, std::string> setClub(std::string_view text);
+    Outcome<void, std::string> setClub(std::string_view text); ///< "W1", "Driver", "7i"
     Outcome<void, std::string> setBall(std::string_view text);
 
     /// The shot; the reason where what was said doesn't fit together, or the values of the club
@@ -72,7 +64,7 @@ private:
     const ClubTables* clubs_;
     std::array<double, kShotInputs> values_{};
     std::bitset<kShotInputs> given_;
-    std::optional<ClubName> club_;
+    std::optional<ClubId> club_;
     std::size_t ball_ = 3; ///< element of `kBallKinds`
 };
 

@@ -6,6 +6,7 @@
 #include "shots/shown_figures.h"
 
 #include <array>
+#include <map>
 
 namespace parabolt::cli {
 namespace {
@@ -58,19 +59,15 @@ std::vector<Column> composeShotColumns() {
     return columns;
 }
 
-/// The names of all clubs, as cells refer to them.
-std::string_view storedName(ClubName club) {
+/// The name of a club, as a cell can refer to it.
+std::string_view storedName(ClubId club) {
     static const auto kNames = [] {
-        std::array<std::vector<std::string>, 2> names;
-        for (const bool iron : {false, true})
-            for (std::int16_t number = 0; number <= playableClubs(iron).back(); ++number)
-                names.at(iron ? 1 : 0).push_back(nameOf({iron, number}));
+        std::map<ClubId, std::string> names;
+        for (const ClubId each : clubsOfSet())
+            names.emplace(each, usualName(each));
         return names;
     }();
-    const auto& names = kNames.at(club.iron ? 1 : 0);
-    const auto index = static_cast<std::size_t>(club.number);
-    return club.number >= 0 && index < names.size() ? std::string_view(names[index])
-                                                    : std::string_view();
+    return kNames.at(club);
 }
 
 } // namespace

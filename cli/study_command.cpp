@@ -40,10 +40,10 @@ ExitStatus studyCommand(const StudyOptions& options, const Console& console) {
                                 "launch angle or spin, and no swing.");
     if (options.study == Study::Loft && shot->Mode == OperatingMode::Launch)
         shot->Mode = OperatingMode::Manual;
-    const auto found = options.study == Study::Loft
-                           ? lofted(*shot)
-                           : climbed(*shot, options.study == Study::Launch ? kLaunchClimb
-                                                                           : kSpinClimb);
+    const auto found =
+        options.study == Study::Loft
+            ? lofted(*shot)
+            : climbed(*shot, options.study == Study::Launch ? kLaunchClimb : kSpinClimb);
     if (!found)
         return console.complain(faultDescription(found.why()), ExitStatus::SomeFailed);
     return flyAndWrite(*found, options.format.value_or(console.usualFormat()), options.path,

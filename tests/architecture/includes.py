@@ -12,7 +12,7 @@ from pathlib import Path
 
 GROUND = {"numbers", "controls"}
 LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
-                  "maps"}
+                  "measured", "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -23,6 +23,7 @@ MAY_SEE = {
     "shots": {"numbers", "engine"},
     "plots": GROUND | {"engine"},
     "exchange": {"numbers"},
+    "measured": {"numbers", "engine", "shots", "clubs", "files", "exchange"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
@@ -31,7 +32,7 @@ MAY_SEE = {
     "run": LOGIC | {"mainform"},
     "shell": LOGIC | {"mainform", "run"},
     "qt": LOGIC | {"mainform", "run", "shell"},
-    "cli": {"numbers", "engine", "shots", "files", "clubs", "exchange", "maps"},
+    "cli": {"numbers", "engine", "shots", "files", "clubs", "exchange", "measured", "maps"},
     # Around the program.
     "docs": {"engine", "shots"},
     "fuzz": LOGIC | {"mainform", "run", "shell", "qt"},
