@@ -114,6 +114,8 @@ public:
         const auto headings = table.headings(head);
         if (!headings)
             return console_.complain(faultText(headings.why()));
+        if (input_.stream().bad())
+            return unreadable();
         if (!*headings)
             return console_.complain("There is no table: the input is empty.");
         if (const auto columns = BatchColumns::of(**headings))
@@ -123,6 +125,11 @@ public:
 
 private:
     std::span<const Column> columns() const { return paths_ ? batchPathColumns() : batchColumns(); }
+
+    ExitStatus unreadable() const {
+        return console_.complain(options_.file + ": it can't be read to its end.",
+                                 ExitStatus::FileFailed);
+    }
 
     BatchText flyShots(std::span<const BatchShot> shots, const RowWriter& writer,
                        const std::stop_token& stop) const {
@@ -158,8 +165,7 @@ private:
         if (!more)
             return console_.finish(console_.complain(faultText(more.why())));
         if (input_.stream().bad())
-            return console_.complain(options_.file + ": it can't be read to its end.",
-                                     ExitStatus::FileFailed);
+            return unreadable();
         return console_.finish(failed > 0 ? ExitStatus::SomeFailed : ExitStatus::Done);
     }
 
