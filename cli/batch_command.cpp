@@ -138,6 +138,8 @@ private:
     }
 
     ExitStatus flyTable(TableStream& table, const BatchColumns& columns) {
+        for (const std::string& heading : columns.unknown())
+            console_.err << "The column \"" << heading << "\" is not read.\n";
         RowStream out(console_, format_, this->columns());
         OrderedWork work(console_, out);
         std::vector<CsvRow> rows;

@@ -14,6 +14,8 @@ constexpr Column kLine{"line", "Line", "0"};
 constexpr Column kClubColumn{"club", shot_columns::kClub, {}};
 constexpr Column kProblem{"problem", "Problem", {}};
 
+constexpr decltype(ShotInput::member) kBallSpeed = &ShotInputs::LaunchSpeed;
+
 std::vector<Column> composeBatchColumns() {
     std::vector<Column> columns = {kLine, kClubColumn};
     for (const auto part : {launchColumns(), figureColumns()})
@@ -29,9 +31,8 @@ std::vector<Column> composePathColumns() {
 }
 
 bool isResult(std::string_view heading) {
-    const std::string wanted = lowerCase(heading);
     return std::any_of(batchColumns().begin(), batchColumns().end(), [&](const Column& column) {
-        return wanted == column.key || wanted == lowerCase(column.heading);
+        return heading == column.key || heading == column.heading;
     });
 }
 
@@ -67,19 +68,21 @@ void appendFailure(BatchText& text, const RowWriter& writer, std::vector<Cell>& 
 std::optional<BatchColumns> BatchColumns::of(const CsvRow& headings) {
     BatchColumns columns;
     bool any = false;
+    bool ours = false;
     for (const std::string& heading : headings.cells) {
-        const std::string name = lowerCase(heading);
         std::size_t meaning = Ignored;
-        if (const auto input = shotInputNamed(name))
+        if (const auto input = shotInputNamed(heading)) {
             meaning = *input;
-        else if (name == "club" || name == "ball")
-            meaning = name == "club" ? Club : Ball;
-        else if (!isResult(name))
-            return std::nullopt;
+            ours = ours || shotInputs()[*input].member == kBallSpeed;
+        } else if (lowerCase(heading) == "club" || lowerCase(heading) == "ball") {
+            meaning = lowerCase(heading) == "club" ? Club : Ball;
+        } else if (!isResult(heading)) {
+            columns.unknown_.push_back(heading);
+        }
         any = any || meaning != Ignored;
         columns.meanings_.push_back(meaning);
     }
-    return any ? std::optional(columns) : std::nullopt;
+    return ours || (any && columns.unknown_.empty()) ? std::optional(columns) : std::nullopt;
 }
 
 BatchShot BatchColumns::shotOf(const CsvRow& row, const ShotRequest& base) const {

@@ -18,8 +18,11 @@ struct BatchShot {
 /// What the columns of a table of shots mean, by its headings.
 class BatchColumns {
 public:
-    /// Nothing if a heading is unknown, or none is of a shot: the table is not one of ours.
+    /// Nothing if the table is not one of ours: those have our ball speed among their headings, or
+    /// only headings of ours.
     static std::optional<BatchColumns> of(const CsvRow& headings);
+    /// Headings that mean nothing here.
+    const std::vector<std::string>& unknown() const { return unknown_; }
 
     /// The shot of a row: `base` with what its cells say. Empty cells say nothing. Beside a ball
     /// speed or a spin, the club is only a name.
@@ -28,6 +31,7 @@ public:
 private:
     enum Meaning : std::size_t { Club = kShotInputs, Ball, Ignored };
     std::vector<std::size_t> meanings_; ///< of each column: an input's place, or a `Meaning`
+    std::vector<std::string> unknown_;
 };
 
 /// The columns of the results of a batch, or of its paths.

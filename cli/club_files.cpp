@@ -199,9 +199,10 @@ Outcome<ClubTables, Refusal> readClubs(const std::string& name, const Console& c
     // The program's own begins with the length of a text: its second byte is rarely a letter, and
     // never is it together with the heading of a table.
     const std::string_view firstLine = text.substr(0, text.find_first_of("\r\n"));
-    const bool isCsv = lowerCase(firstLine).find("club") != std::string::npos &&
+    const bool isJson = text.starts_with('{');
+    const bool isCsv = !isJson && lowerCase(firstLine).find("club") != std::string::npos &&
                        firstLine.find('\0') == std::string_view::npos;
-    if (isCsv || text.starts_with('{')) {
+    if (isCsv || isJson) {
         auto clubs = isCsv ? clubsOfCsv(text) : clubsOfJson(text);
         return clubs ? Outcome<ClubTables, Refusal>(*clubs) : refuse(clubs.why());
     }

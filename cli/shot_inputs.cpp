@@ -1,6 +1,5 @@
 #include "cli/shot_inputs.h"
 
-#include "numbers/characters.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 #include "shots/ball_kinds.h"
@@ -66,9 +65,8 @@ std::span<const ShotInput, kShotInputs> shotInputs() {
 }
 
 std::optional<std::size_t> shotInputNamed(std::string_view name) {
-    const std::string wanted = lowerCase(name);
     for (std::size_t i = 0; i < kInputs.size(); ++i)
-        if (wanted == kInputs[i].key || wanted == lowerCase(kInputs[i].heading))
+        if (name == kInputs[i].key || name == kInputs[i].heading)
             return i;
     return std::nullopt;
 }
