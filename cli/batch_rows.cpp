@@ -14,7 +14,7 @@ constexpr Column kLine{"line", "Line", "0"};
 constexpr Column kClubColumn{"club", shot_columns::kClub, {}};
 constexpr Column kProblem{"problem", "Problem", {}};
 
-constexpr decltype(ShotInput::member) kBallSpeed = &ShotInputs::LaunchSpeed;
+constexpr decltype(ShotInput::member) kBallSpeedMember = &ShotInputs::LaunchSpeed;
 
 std::vector<Column> composeBatchColumns() {
     std::vector<Column> columns = {kLine, kClubColumn};
@@ -73,7 +73,7 @@ std::optional<BatchColumns> BatchColumns::of(const CsvRow& headings) {
         std::size_t meaning = Ignored;
         if (const auto input = shotInputNamed(heading)) {
             meaning = *input;
-            ours = ours || shotInputs()[*input].member == kBallSpeed;
+            ours = ours || shotInputs()[*input].member == kBallSpeedMember;
         } else if (lowerCase(heading) == "club" || lowerCase(heading) == "ball") {
             meaning = lowerCase(heading) == "club" ? Club : Ball;
         } else if (!isResult(heading)) {

@@ -8,10 +8,11 @@ namespace parabolt {
 
 /// A kind of ball: what it writes into a shot.
 struct BallKind {
-    float Slope1;
-    float CD1;
+    float Slope1;          ///< rpm per degree and mph, added to the spin factor of the impact
+    float CD1;             ///< added to the exponent of the lift law
     std::int16_t BallType; ///< its number
 
+    /// Gives a shot this ball.
     constexpr void applyTo(ShotInputs& shot) const {
         shot.BallType = BallType;
         shot.Slope1 = Slope1;

@@ -18,7 +18,7 @@ struct FlownShot {
 
 /// Why a shot has not come down.
 struct NotFlown {
-    Fault fault{};
+    Fault fault{}; ///< what has no value
     /// The flight as far as it came, the record's outcome at zero; nothing if the shot has no air
     /// or no launch.
     std::optional<FlownShot> flight;

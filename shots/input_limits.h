@@ -11,6 +11,7 @@ struct InputLimits {
     std::string_view rangeMessage;  ///< for a value out of range
     std::string_view numberMessage; ///< for a text that is no number; empty for the same message
 
+    /// Whether a value is accepted.
     constexpr bool hold(double value) const { return value >= lowest && value <= highest; }
     /// What is told of a text that is no number.
     constexpr std::string_view noNumber() const {
@@ -22,6 +23,8 @@ struct InputLimits {
 /// where one disagrees with its limits, the limits hold.
 namespace limits {
 
+/// The limits of one input.
+/// @{
 inline constexpr InputLimits kLaunchAngle{
     0,
     55,
@@ -82,6 +85,7 @@ inline constexpr InputLimits kTemperature{
 inline constexpr InputLimits kWind{
     -35, 35, "Enter a value between -35 and 35 mph for wind speed. Defaults to 0 MPH or try again.",
     "Enter a value between 0 and 35 mph for wind speed. Defaults to 0 MPH or try again."};
+/// @}
 
 } // namespace limits
 

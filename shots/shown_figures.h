@@ -8,13 +8,15 @@ namespace parabolt {
 
 /// A quantity of a recorded shot, as the program shows it to people.
 struct ShownFigure {
-    float RunRecord::*field;
+    float RunRecord::*field;  ///< the quantity
     std::string_view pattern; ///< of `formatPattern`
 };
 
 /// The quantities of a record and the digits in which all tables of results show them.
 namespace shown {
 
+/// A quantity with its digits.
+/// @{
 inline constexpr ShownFigure kCarryTime{&RunRecord::CarryTime, ".00"};
 inline constexpr ShownFigure kCarryDist{&RunRecord::CarryDist, "0"};
 inline constexpr ShownFigure kLaunchSpeed{&RunRecord::LaunchSpeed, ".0"};
@@ -33,6 +35,7 @@ inline constexpr ShownFigure kWindSpeed{&RunRecord::WindSpeed, "0"};
 inline constexpr ShownFigure kPressure{&RunRecord::BaroPressure, ".0"};
 inline constexpr ShownFigure kTemperature{&RunRecord::Temperature, "0"};
 inline constexpr ShownFigure kHumidity{&RunRecord::RH, "0"};
+/// @}
 
 } // namespace shown
 
