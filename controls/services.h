@@ -27,7 +27,8 @@ public:
 
     std::string initialFolder; ///< where to start
     std::string title;
-    std::string filter; ///< description and pattern in turn, separated by bars
+    std::string filter;        ///< description and pattern in turn, separated by bars
+    std::string suggestedName; ///< of the file to save; empty for none
 
     virtual void showOpen() = 0;
     virtual void showSave() = 0;

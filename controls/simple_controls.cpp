@@ -7,6 +7,13 @@ void Frame::setWidth(double twips) {
     viewChanged();
 }
 
+void MenuItem::setCaption(std::string_view caption) {
+    if (caption_ == caption)
+        return;
+    caption_ = caption;
+    viewChanged();
+}
+
 Timer::Timer(ControlSet& form, std::string_view name, int intervalMs)
     : Control(form, name),
       intervalMs_(intervalMs) {

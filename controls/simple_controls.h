@@ -4,7 +4,7 @@
 
 namespace parabolt {
 
-/// A control that shows one unchanging line of text; base of those that differ by what they do.
+/// A control that shows one line of text; base of those that differ by what they do.
 class CaptionedControl : public Control {
 public:
     CaptionedControl(ControlSet& form, std::string_view name, std::string_view caption,
@@ -13,7 +13,7 @@ public:
           caption_(caption) {}
     const std::string& caption() const { return caption_; }
 
-private:
+protected:
     std::string caption_;
 };
 
@@ -54,6 +54,7 @@ public:
         : CaptionedControl(form, name, caption, whileBusy),
           first_(first) {}
     First first() const { return first_; }
+    void setCaption(std::string_view caption);
     Event<> Click;
 
 private:

@@ -10,6 +10,7 @@ struct ClubRecord {
     float COR = 0;         ///< coefficient of restitution between head and ball
     float AttackAngle = 0; ///< degrees, positive upward
     float Bending = 0;     ///< shaft bend at impact, degrees; adds to the loft
+    friend bool operator==(const ClubRecord&, const ClubRecord&) = default;
 };
 
 } // namespace parabolt

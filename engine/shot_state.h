@@ -37,6 +37,8 @@ struct ShotInputs {
     float Slope1 = 0;          ///< rpm per degree and mph, added to the impact model's spin factor
     float CD1 = 0;             ///< added to the exponent of the lift law
     std::int16_t BallType = 4; ///< selected option, 1 to 4
+
+    friend bool operator==(const ShotInputs&, const ShotInputs&) = default;
 };
 
 /// The one set of numbers from which the engine computes a shot: its inputs, and what is derived
@@ -88,6 +90,8 @@ struct RunRecord {
     float Bending = 0;
     std::int16_t Mode = 0; ///< operating mode at the run, 0 to 4
     bool IsWood = false;
+
+    friend bool operator==(const RunRecord&, const RunRecord&) = default;
 };
 
 } // namespace parabolt

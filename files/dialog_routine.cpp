@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <utility>
 
 namespace parabolt {
@@ -17,12 +18,14 @@ struct DialogRule {
     std::string_view filter;
     std::array<std::string_view, 2> endings; ///< in lower case, without a dot; the second may lack
     std::string_view refusal;
+    bool addsEnding = false; ///< the first ending, to names that have none of them
 };
 
+constexpr std::string_view kSessionEnding = "pbs";
 constexpr std::string_view kCannotOpen = "The file type is not correct!";
 constexpr std::string_view kCannotSave = "The file type is not support!";
 
-constexpr std::array<DialogRule, 5> kRules{{
+constexpr std::array<DialogRule, 7> kRules{{
     {DialogPurpose::OpenParameters,
      &FileDialog::showOpen,
      "Open Parameters File",
@@ -53,6 +56,19 @@ constexpr std::array<DialogRule, 5> kRules{{
      "Clubs Parameter File(*.clb)|*.clb|Save As Text File(*.txt)|*.txt",
      {"clb", "txt"},
      kCannotSave},
+    {DialogPurpose::OpenSession,
+     &FileDialog::showOpen,
+     "Open Session",
+     "Session(*.pbs)|*.pbs",
+     {kSessionEnding},
+     kCannotOpen},
+    {DialogPurpose::SaveSession,
+     &FileDialog::showSave,
+     "Save Session",
+     "Session(*.pbs)|*.pbs",
+     {kSessionEnding},
+     kCannotSave,
+     true},
 }};
 
 constexpr std::string_view kAppName = "Parabolt";
@@ -77,7 +93,8 @@ DialogRoutine::DialogRoutine(FileDialog& dialog, PreferencesStore& preferences,
       messages_(messages),
       applicationFolder_(std::move(applicationFolder)) {}
 
-Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work) {
+Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work,
+                                          std::string_view suggestedName) {
     const DialogRule& rule = ruleOf(purpose);
     const auto lastPath = GetRegString(preferences_, kAppName, "startup", kLastPath, "");
     if (!lastPath)
@@ -85,9 +102,13 @@ Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& wor
     dialog_.initialFolder = lastPath->empty() ? applicationFolder_ : *lastPath;
     dialog_.title = rule.title;
     dialog_.filter = rule.filter;
+    dialog_.suggestedName = suggestedName;
     (dialog_.*rule.show)();
 
-    if (const std::string fileName = dialog_.fileName; !fileName.empty()) {
+    std::string fileName = dialog_.fileName;
+    if (rule.addsEnding && !fileName.empty() && ending(fileName) != rule.endings.front())
+        fileName = withEnding(fileName, rule.endings.front());
+    if (!fileName.empty()) {
         const auto* const match =
             std::find(rule.endings.begin(), rule.endings.end(), ending(fileName));
         if (match == rule.endings.end())
@@ -99,6 +120,17 @@ Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& wor
     if (saved)
         dialog_.initialFolder.clear();
     return saved;
+}
+
+/// The name with its ending. The dialog has not asked about a file of that name: empty if it is to
+/// stay.
+std::string DialogRoutine::withEnding(const std::string& fileName, std::string_view ending) const {
+    std::string whole = fileName + "." + std::string(ending);
+    std::error_code unknown;
+    const bool replaces = std::filesystem::exists(whole, unknown);
+    return !replaces || messages_.ask(whole + " already exists. Do you want to replace it?")
+               ? whole
+               : std::string();
 }
 
 std::string_view readFailureMessage(const Failure& failure) {

@@ -9,14 +9,22 @@
 namespace parabolt {
 
 /// What a file dialog is shown for.
-enum class DialogPurpose { OpenParameters, SaveParameters, SaveResult, OpenClubs, SaveClubs };
+enum class DialogPurpose {
+    OpenParameters,
+    SaveParameters,
+    SaveResult,
+    OpenClubs,
+    SaveClubs,
+    OpenSession,
+    SaveSession,
+};
 
 /// What all file dialogs of the program have in common: they start in the folder where the last one
 /// ended, and refuse names by their ending.
 class DialogRoutine {
 public:
     /// Does what the dialog was shown for. Gets the file's name and the ending that it matched, one
-    /// of "opt", "clb" and "txt".
+    /// of "opt", "clb", "txt" and "pbs".
     using Work =
         std::function<Outcome<void, Failure>(const std::string& fileName, std::string_view ending)>;
 
@@ -25,12 +33,16 @@ public:
                   std::string applicationFolder);
 
     /// Shows the dialog. A name with a right ending goes to `work`, any other is refused with a
-    /// message; a cancel does neither. In the end the dialog's folder is remembered. A failure, of
-    /// the work or of the preferences, ends the routine where it happens: what follows isn't done,
-    /// and what has been done stays done.
-    Outcome<void, Failure> run(DialogPurpose purpose, const Work& work);
+    /// message; a cancel does neither. A session's name gets its ending where it lacks. In the end
+    /// the dialog's folder is remembered. A failure, of the work or of the preferences, ends the
+    /// routine where it happens: what follows isn't done, and what has been done stays done.
+    /// `suggestedName` is what a dialog for saving offers.
+    Outcome<void, Failure> run(DialogPurpose purpose, const Work& work,
+                               std::string_view suggestedName = {});
 
 private:
+    std::string withEnding(const std::string& fileName, std::string_view ending) const;
+
     FileDialog& dialog_;
     PreferencesStore& preferences_;
     MessageBoxes& messages_;

@@ -1,5 +1,6 @@
 #include "files/file_access.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -131,6 +132,23 @@ Outcome<Bytes, Failure> readFileStart(const std::string& fileName, std::size_t m
         return failure(lastError());
     Bytes data(most);
     data.resize(std::fread(data.data(), 1, most, file.get()));
+    if (std::ferror(file.get()) != 0)
+        return failure(lastError());
+    return data;
+}
+
+Outcome<std::string, Failure> readFile(const std::string& fileName, std::size_t most) {
+    if (holdsZero(fileName))
+        return failure(std::make_error_code(std::errc::invalid_argument));
+    std::error_code error;
+    const std::uintmax_t size = fs::file_size(fileName, error); // what is no file has none
+    if (error)
+        return failure(error);
+    const File file(std::fopen(fileName.c_str(), "rb"));
+    if (file == nullptr)
+        return failure(lastError());
+    std::string data(std::min<std::uintmax_t>(size, most), '\0');
+    data.resize(std::fread(data.data(), 1, data.size(), file.get()));
     if (std::ferror(file.get()) != 0)
         return failure(lastError());
     return data;

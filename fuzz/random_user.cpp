@@ -151,7 +151,8 @@ void putFile(const QString& name, const QByteArray& content) {
 int main(int argc, char** argv) {
     using namespace parabolt;
     const QTemporaryDir folder;
-    for (const char* home : {"HOME", "XDG_CONFIG_HOME"}) // a home and preferences of its own
+    for (const char* home :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"}) // a home and preferences of its own
         qputenv(home, folder.path().toUtf8());
     qputenv("CUPS_SERVER", "/nonexistent"); // it must not reach a printer
     QApplication application(argc, argv);

@@ -35,6 +35,9 @@ void QtFileDialog::show(bool save) {
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
 
+    if (save && !suggestedName.empty())
+        dialog.selectFile(toQt(suggestedName));
+
     const QStringList files =
         dialog.exec() == QDialog::Accepted ? dialog.selectedFiles() : QStringList();
     const QFileInfo file(files.value(0));

@@ -198,6 +198,7 @@ void FormBinding::bindMenuItem(MenuItem& item) {
     if (action == nullptr)
         return;
     item.onViewChange = [&item, action] {
+        action->setText(toQt(item.caption()));
         action->setEnabled(item.enabled());
         action->setVisible(item.visible());
     };

@@ -8,8 +8,11 @@
 #include "shell/build_values.h"
 
 #include <QApplication>
+#include <QDateTime>
+#include <QDir>
 #include <QIcon>
 #include <QShortcut>
+#include <QTimer>
 
 namespace parabolt {
 namespace {
@@ -18,10 +21,30 @@ std::string applicationFolder() {
     return fromQt(QApplication::applicationDirPath());
 }
 
+/// Where programs keep what is to outlive them, by the XDG rules.
+std::string stateFolder() {
+    const QString set = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString home = QDir::isAbsolutePath(set) ? set : QDir::homePath() + "/.local/state";
+    return fromQt(home + "/parabolt");
+}
+
+std::string localTime() {
+    return fromQt(QDateTime::currentDateTime().toString("yyyy-MM-dd HH:mm"));
+}
+
 } // namespace
 
 Program::Program()
-    : logic_({messages_, fileDialog_, preferences_, desktop_, events_, applicationFolder()}) {
+    : logic_({messages_,
+              fileDialog_,
+              preferences_,
+              desktop_,
+              events_,
+              applicationFolder(),
+              {stateFolder(), localTime, [this](const std::string& trouble) {
+                   QMetaObject::invokeMethod(
+                       &post_, [this, trouble] { showKeeping(trouble); }, Qt::QueuedConnection);
+               }}}) {
     QApplication::setApplicationName(toQt(kApplicationTitle));
     QApplication::setApplicationVersion(toQt(kVersion));
     QApplication::setDesktopFileName("parabolt");
@@ -38,22 +61,42 @@ Program::Program()
     };
 }
 
-Program::~Program() = default;
+Program::~Program() {
+    if (logic_.form.blFormLoaded)
+        logic_.sessions.finish();
+}
 
-void Program::start() {
+void Program::start(const std::string& sessionFile) {
     splash_ = std::make_unique<frmSplash>(desktop_);
-    splash_->form.Unload.connect([this] {
+    splash_->form.Unload.connect([this, sessionFile] {
         if (!logic_.form.blFormLoaded)
-            showMainForm();
+            showMainForm(sessionFile);
     });
     splashWindow_ = std::make_unique<SplashWindow>(*splash_);
     splashWindow_->show();
 }
 
-void Program::showMainForm() {
+void Program::showMainForm(const std::string& sessionFile) {
     logic_.Form_Load();
     window_ = std::make_unique<MainWindow>(logic_);
     window_->showMaximized();
+    // When the window is there, so that a question stands over it.
+    QTimer::singleShot(0, &post_, [this, sessionFile] {
+        logic_.sessions.recover();
+        if (!sessionFile.empty())
+            logic_.sessions.open(sessionFile);
+        logic_.sessions.actionEnded();
+    });
+}
+
+void Program::keepNow() {
+    logic_.sessions.actionEnded();
+    logic_.sessions.flush();
+}
+
+void Program::showKeeping(const std::string& trouble) {
+    if (window_ != nullptr)
+        window_->showKeeping(toQt(trouble));
 }
 
 void Program::showClubEditor() {
@@ -65,9 +108,11 @@ void Program::showClubEditor() {
 
 void Program::showPrintView() {
     frmPrintView printView(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
+    printView.form.txtCaption.setText(logic_.form.reportCaption);
     PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
     window.exec();
+    logic_.form.reportCaption = printView.form.txtCaption.text();
 }
 
 void Program::showAbout() {

@@ -22,14 +22,19 @@ public:
     Program();
     ~Program();
 
-    /// Shows the splash; when it goes, the main form comes.
-    void start();
-    /// Loads and shows the main form.
-    void showMainForm();
+    /// Shows the splash; when it goes, the main form comes, with the session of a file if one is
+    /// named.
+    void start(const std::string& sessionFile = {});
+    /// Loads and shows the main form. Asks then about the desk of a program that did not end
+    /// properly, and opens the session file if one is named.
+    void showMainForm(const std::string& sessionFile = {});
     /// The state behind the main form, for whoever watches the program at work.
     const MainForm& mainForm() const { return logic_.form; }
+    /// Ends the action in hand for such a watcher, and waits until its desk is safe.
+    void keepNow();
 
 private:
+    void showKeeping(const std::string& trouble);
     void showClubEditor();
     void showPrintView();
     void showAbout();
@@ -40,6 +45,7 @@ private:
     QtDesktop desktop_;
     QtEventLoop events_;
     QtPrinter printer_;
+    QObject post_; ///< takes what other threads report
     frmMain logic_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<frmSplash> splash_;

@@ -6,6 +6,7 @@
 #include "mainform/parameter_handlers.h"
 #include "results/result_export.h"
 #include "run/studies.h"
+#include "sessions/session_handlers.h"
 
 #include <functional>
 
@@ -19,6 +20,7 @@ struct FormServices {
     Desktop& desktop;
     EventLoop& events;
     std::string applicationFolder; ///< where dialogs start before they have been used
+    SessionSurroundings sessions{};
 };
 
 /// The main form `frmMain`: owns its controls and state and the handlers that work on them, and
@@ -34,6 +36,7 @@ public:
     ProgressForm frmProgress;
     PlotPanel plot; ///< lays out and draws the plot when the view says what size the form has
     Pause pause;    ///< of a study or batch; the view can stop it
+    SessionHandlers sessions;
 
     // The forms and the end of the program, which the view brings about.
     std::function<void()> showClubEditor; ///< `frmClubParams`, modal
