@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Kills random users in the middle of their work, and checks that the next start has their desk again: as the
-last action that had ended left it, or the one whose desk was on its way to the disk.
+last action whose desk was told to be safe left it, or an action since, whose desk was on its way to the disk.
 
 Call: kill_users.py PROGRAM ROUNDS [SEED]     needs a display, such as xvfb-run gives
 """

@@ -2,7 +2,7 @@
 // with a message at the first inconsistency; the sanitizers, where they are built in, see the rest.
 // Call: parabolt_random_user [SEED [EVENTS [FOLDER]]]     the same seed makes the same user
 //       parabolt_random_user --reopen FOLDER
-// With a FOLDER the user lives there, and leaves in FOLDER/desks what each action made of the desk:
+// With a FOLDER the user lives there, and tells in FOLDER/desks what each action made of the desk:
 // a line when it has ended, and one when the desk is safe. The second call opens what a user who
 // was killed left, and prints it the same way; fuzz/kill_users.py compares.
 #include "qt/program.h"
@@ -79,6 +79,11 @@ private:
         if (--left_ <= 0)
             return QApplication::exit();
         QTimer::singleShot(0, this, [this] { act(); });
+        actInFront();
+        tellDesk("ended");
+    }
+
+    void actInFront() {
         QWidget* window = front();
         if (window == nullptr)
             return;
@@ -86,8 +91,11 @@ private:
             window->activateWindow();
         check();
         if (desks_ != nullptr && QApplication::activeModalWidget() == nullptr &&
-            !form_.Timer1.enabled())
-            keepDesk();
+            !form_.Timer1.enabled()) {
+            tellDesk("ended");
+            program_.keepNow();
+            tellDesk("safe");
+        }
         if (form_.Timer1.enabled() && roll(20) == 0) // or most would happen in studies and batches
             return QTest::keyClick(window, Qt::Key_Escape);
         if (auto* dialog = qobject_cast<QFileDialog*>(window)) {
@@ -149,15 +157,11 @@ private:
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
     }
-    /// The action before this one has ended.
-    void keepDesk() {
-        const auto tell = [this, desk = fingerprint(form_)](const char* what) {
-            std::fprintf(desks_, "%s %016llx\n", what, desk);
-            std::fflush(desks_);
-        };
-        tell("ended");
-        program_.keepNow();
-        tell("safe");
+    void tellDesk(const char* what) const {
+        if (desks_ == nullptr)
+            return;
+        std::fprintf(desks_, "%s %016llx\n", what, fingerprint(form_));
+        std::fflush(desks_);
     }
     void require(bool holds, const char* fault) const {
         if (holds)
