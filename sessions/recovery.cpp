@@ -3,6 +3,7 @@
 #include "files/file_access.h"
 
 #include <algorithm>
+#include <chrono>
 #include <fcntl.h>
 #include <filesystem>
 #include <random>
@@ -28,6 +29,16 @@ std::optional<Session> readSession(const std::string& fileName) {
         return std::nullopt;
     auto session = decodeSession(*text);
     return session ? std::optional(std::move(*session)) : std::nullopt;
+}
+
+/// A program that died in the middle of a write has left the beginning of a file.
+void removeUnfinished(const std::string& folder) {
+    std::error_code error;
+    const auto now = fs::file_time_type::clock::now();
+    for (const auto& entry : fs::directory_iterator(folder, error))
+        if (entry.path().extension() == ".tmp" &&
+            now - entry.last_write_time(error) > std::chrono::hours(1)) // none writes that long
+            fs::remove(entry.path(), error);
 }
 
 /// Names of the desks of running programs and abandoned ones, without ending, the newest first.
@@ -96,6 +107,7 @@ void Recovery::enterFolder() {
     fs::create_directories(folder_, error);
     if (!error)
         fs::permissions(folder_, fs::perms::owner_all, error);
+    removeUnfinished(folder_);
     ownLock_ = FileLock(file(own_, kLockEnding));
 }
 

@@ -33,7 +33,7 @@ private:
 /// own there, beside a lock that ends with its process: a desk whose lock nobody holds is that of a
 /// program that did not end properly. An orderly end leaves the desk as `last.pbs`.
 ///
-/// A thread of its own writes the files; only `finish` waits for it.
+/// A thread of its own writes the files; only `flush` and `finish` wait for it.
 class Recovery {
 public:
     /// An empty folder name keeps nothing. `told` learns after each write, on the thread that

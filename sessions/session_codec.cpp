@@ -21,8 +21,6 @@ using Json = nlohmann::json;
 
 constexpr std::string_view kFormat = "Parabolt session";
 constexpr int kVersion = 1;
-constexpr std::size_t kIronList = 12; ///< entries of the list of clubs
-constexpr std::size_t kWoodList = 7;
 
 /// What the reader throws at a member that it can't take; it never leaves this file.
 struct Broken {};
@@ -145,7 +143,7 @@ Number readNumber(const Json& json) {
     }
 }
 
-/// A whole number between two bounds.
+/// A whole number from one bound to the other.
 int readChoice(const Json& json, int least, int greatest) {
     const int choice = readNumber<int>(json);
     require(choice >= least && choice <= greatest);
@@ -269,7 +267,9 @@ Desk readDesk(const Json& json) {
     readMembers(json.at("shot"), kInputs, desk.shot);
     desk.mode = readChoice(json.at("mode"), 0, 4);
     desk.iron = json.at("iron").get<bool>();
-    desk.club = readChoice(json.at("club"), 0, (desk.iron ? kIronList : kWoodList) - 1);
+    desk.club = readNumber<int>(json.at("club"));
+    require(desk.club >= 0 &&
+            static_cast<std::size_t>(desk.club) < playableClubs(desk.iron).size());
     desk.ball = readChoice(json.at("ball"), 1, 4);
     desk.fillIn = json.at("fillIn").get<bool>();
     desk.fields = json.at("fields").get<std::map<std::string, std::string>>();

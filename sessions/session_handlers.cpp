@@ -65,8 +65,9 @@ void SessionHandlers::recover() {
     const auto session = recovery_.abandoned();
     if (!session)
         return;
-    const bool reopens = messages_.ask("Parabolt did not end properly. Reopen " +
-                                       contentOf(session->desk) + " of " + timeOf(*session) + "?");
+    const std::string what = session->desk.runs.empty() ? "the fields" : contentOf(session->desk);
+    const bool reopens = messages_.ask("Parabolt did not end properly. Reopen " + what + " of " +
+                                       timeOf(*session) + "?");
     if (!reopens)
         return recovery_.settle(false);
     lay(session->desk);
