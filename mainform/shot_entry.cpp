@@ -38,6 +38,7 @@ bool ShotEntry::enter(OptionButton& option, OperatingMode::Number mode,
     // What waits is held back as the Run button is; what is being edited is judged first.
     if (!form_.Command1.enabled() || !form_.focus.give(form_.Picture1))
         return false;
+    form_.Wiping();
     option.select();
     form_.txtMode.setText(std::to_string(mode));
     for (const auto& [field, member, pattern] : fields) {

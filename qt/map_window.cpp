@@ -319,7 +319,7 @@ void MapWindow::runShot() {
 }
 
 void MapWindow::savePicture() {
-    save(DialogPurpose::SaveMapPicture, [this](std::string_view ending) {
+    save(DialogPurpose::SaveMapPicture, "carry map.png", [this](std::string_view ending) {
         return mapFile(view_->pictureOnPaper(), ending).toStdString();
     });
 }
@@ -329,17 +329,19 @@ void MapWindow::copyPicture() {
 }
 
 void MapWindow::exportTable() {
-    save(DialogPurpose::SaveMapTable, [this](std::string_view) {
+    save(DialogPurpose::SaveMapTable, "carry map.csv", [this](std::string_view) {
         return map_.result() != nullptr ? composeMapTable(*map_.result()) : std::string();
     });
 }
 
-void MapWindow::save(DialogPurpose purpose,
+void MapWindow::save(DialogPurpose purpose, std::string_view suggestedName,
                      const std::function<std::string(std::string_view)>& compose) {
-    const auto saved =
-        dialogs_.run(purpose, [&](const std::string& fileName, std::string_view ending) {
+    const auto saved = dialogs_.run(
+        purpose,
+        [&](const std::string& fileName, std::string_view ending) {
             return replaceFile(fileName, compose(ending));
-        });
+        },
+        suggestedName);
     if (!saved)
         messages_.show(saved.why().description);
 }

@@ -9,9 +9,12 @@
 #include "shell/build_values.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDialog>
+#include <QDir>
 #include <QIcon>
 #include <QShortcut>
+#include <QTimer>
 
 namespace parabolt {
 namespace {
@@ -27,10 +30,31 @@ void execute(QDialog& dialog) {
     dialog.parentWidget()->activateWindow();
 }
 
+/// Where programs keep what is to outlive them, by the XDG rules.
+std::string stateFolder() {
+    const QString set = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString home = QDir::isAbsolutePath(set) ? set : QDir::homePath() + "/.local/state";
+    return fromQt(home + "/parabolt");
+}
+
+std::string localTime() {
+    return fromQt(QDateTime::currentDateTime().toString("yyyy-MM-dd HH:mm"));
+}
+
 } // namespace
 
 Program::Program()
-    : services_{messages_, fileDialog_, preferences_, desktop_, events_, applicationFolder()},
+    : services_{messages_,
+                fileDialog_,
+                preferences_,
+                desktop_,
+                events_,
+                applicationFolder(),
+                {stateFolder(), localTime,
+                 [this](const std::string& trouble) {
+                     QMetaObject::invokeMethod(
+                         &post_, [this, trouble] { showKeeping(trouble); }, Qt::QueuedConnection);
+                 }}},
       logic_(services_) {
     QApplication::setApplicationName(toQt(kApplicationTitle));
     QApplication::setApplicationVersion(toQt(kVersion));
@@ -49,23 +73,43 @@ Program::Program()
     };
 }
 
-Program::~Program() = default;
+Program::~Program() {
+    if (logic_.form.blFormLoaded)
+        logic_.sessions.finish();
+}
 
-int Program::run() {
+int Program::run(const std::string& sessionFile) {
     splash_ = std::make_unique<frmSplash>(desktop_);
-    splash_->form.Unload.connect([this] {
+    splash_->form.Unload.connect([this, sessionFile] {
         if (!logic_.form.blFormLoaded)
-            showMainForm();
+            showMainForm(sessionFile);
     });
     splashWindow_ = std::make_unique<SplashWindow>(*splash_);
     splashWindow_->show();
     return QApplication::exec();
 }
 
-void Program::showMainForm() {
+void Program::showMainForm(const std::string& sessionFile) {
     logic_.Form_Load();
     window_ = std::make_unique<MainWindow>(logic_);
     window_->showMaximized();
+    // When the window is there, so that a question stands over it.
+    QTimer::singleShot(0, &post_, [this, sessionFile] {
+        logic_.sessions.recover();
+        if (!sessionFile.empty())
+            logic_.sessions.open(sessionFile);
+        logic_.sessions.actionEnded();
+    });
+}
+
+void Program::keepNow() {
+    logic_.sessions.actionEnded();
+    logic_.sessions.flush();
+}
+
+void Program::showKeeping(const std::string& trouble) {
+    if (window_ != nullptr)
+        window_->showKeeping(toQt(trouble));
 }
 
 void Program::showClubEditor() {
@@ -78,9 +122,11 @@ void Program::showClubEditor() {
 
 void Program::showPrintView() {
     frmPrintView printView(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
+    printView.form.txtCaption.setText(logic_.form.reportCaption);
     PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
     execute(window);
+    logic_.form.reportCaption = printView.form.txtCaption.text();
 }
 
 void Program::showCarryMap() {

@@ -24,14 +24,18 @@ public:
     ~Program();
 
     /// Runs the program from its splash to its end, and returns its exit code. When the splash
-    /// goes, the main form comes.
-    int run();
-    /// Loads and shows the main form.
-    void showMainForm();
+    /// goes, the main form comes, with the session of a file if one is named.
+    int run(const std::string& sessionFile = {});
+    /// Loads and shows the main form. Asks then about the desk of a program that did not end
+    /// properly, and opens the session file if one is named.
+    void showMainForm(const std::string& sessionFile = {});
     /// The state behind the main form, for whoever watches the program at work.
     const MainForm& mainForm() const { return logic_.form; }
+    /// Ends the action in hand for such a watcher, and waits until its desk is safe.
+    void keepNow();
 
 private:
+    void showKeeping(const std::string& trouble);
     void showClubEditor();
     void showPrintView();
     void showCarryMap();
@@ -43,6 +47,7 @@ private:
     QtDesktop desktop_;
     QtEventLoop events_;
     QtPrinter printer_;
+    QObject post_; ///< takes what other threads report
     FormServices services_;
     frmMain logic_;
     std::unique_ptr<MainWindow> window_;

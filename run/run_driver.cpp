@@ -41,6 +41,8 @@ void RunDriver::Command1_Click() {
 /// starts afresh.
 bool RunDriver::makeRoom() {
     if (!form_.Runs.full()) {
+        if (operatingMode(form_) == OperatingMode::Auto) // the batch begins with an empty book
+            form_.Wiping();
         run_.countRun();
         return true;
     }
@@ -49,6 +51,7 @@ bool RunDriver::makeRoom() {
         saveResult_();
         return false;
     }
+    form_.Wiping();
     form_.Runs.clear();
     run_.countRun();
     WriteResultHeader(txtResult_);
@@ -57,8 +60,10 @@ bool RunDriver::makeRoom() {
 }
 
 void RunDriver::Command2_Click() {
-    if (messages_.ask("This will erase all the data now, are you sure?"))
-        run_.ClearRuns();
+    if (!messages_.ask("This will erase all the data now, are you sure?"))
+        return;
+    form_.Wiping();
+    run_.ClearRuns();
 }
 
 } // namespace parabolt

@@ -9,6 +9,8 @@ frmMain::frmMain(const FormServices& services)
     : plot(form, form, form.Frame7, services.messages),
       pause(form, form.Timer1, form.Picture1, services.events),
       shotEntry(form, validators_),
+      sessions(form, plot, services.ccrpFileDialogs1, services.preferences, services.messages,
+               services.applicationFolder, services.sessions),
       validators_(form, plot, services.messages),
       clubChoice_(form, form.clubs, validators_),
       modes_(form, clubChoice_),
@@ -66,6 +68,7 @@ void frmMain::Form_Load() {
     WriteResultHeader(form.txtResult);
     form.cmbClubNo.select(0);
     takeClubNumber(form);
+    sessions.begin();
 }
 
 void frmMain::ResetAll() {

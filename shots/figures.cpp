@@ -8,10 +8,10 @@ namespace parabolt {
 Figures figuresOf(const FlightOutcome& flight) {
     if (flight.fault)
         return {};
-    constexpr double kFeetPerYard = 3;
+    constexpr double kFeetInYard = 3;
     Figures figures;
     figures.carry = flight.carry;
-    figures.roll = flight.roll / kFeetPerYard;
+    figures.roll = flight.roll / kFeetInYard;
     figures.total = figures.carry + figures.roll;
     figures.height = flight.top.y;
     figures.heightAt = flight.top.x;
