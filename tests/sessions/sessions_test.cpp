@@ -223,7 +223,7 @@ TEST_F(WayBackTest, LeadsBackFromEachWipeAndForthAgain) {
         user.main.sessions.begin();
         const Desk before = user.desk();
         const auto curves = user.curves();
-        user.act([&] { wipe(user); });
+        user.act([&, &act = wipe] { act(user); });
         const Desk after = user.desk();
         EXPECT_NE(after, before) << about;
         user.goBack();
