@@ -21,8 +21,11 @@ RunDriver::RunDriver(InputControls& form, RichTextBox& txtResult, PlotPanel& plo
 }
 
 void RunDriver::Command1_Click() {
-    if (runNumber(form_) == 0)
+    if (runNumber(form_) == 0) {
+        if (!holdsOnlyHeadings(txtResult_)) // but notes of the user
+            form_.Wiping();
         WriteResultHeader(txtResult_);
+    }
     if (!makeRoom())
         return;
     const Shot shot = run_.take();

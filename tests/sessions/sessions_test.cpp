@@ -213,6 +213,13 @@ TEST_F(WayBackTest, LeadsBackFromEachWipeAndForthAgain) {
              [](User& user) {
                  user.form.txtResult.edited({{"x", kBlack}}, 1);
              }},
+            {"the first run over a note",
+             [](User& user) {
+                 user.press(user.form.Command2);
+                 user.form.txtResult.edited({{"a note", kBlack}}, 6);
+                 user.main.plot.DrawPlotFrame();
+             },
+             [](User& user) { user.run(); }},
             {"Rewrite Table", {}, [](User& user) { user.form.mnuRewriteTable.Click(); }},
         };
     for (const auto& [about, prepare, wipe] : wipes) {
