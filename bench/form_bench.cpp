@@ -5,6 +5,7 @@
 #include "clubs/frm_club_params.h"
 #include "qt/club_editor_window.h"
 #include "qt/main_window.h"
+#include "qt/map_view.h"
 #include "qt/picture_painter.h"
 #include "qt/print_view_window.h"
 #include "shots/fly.h"
@@ -210,6 +211,29 @@ void keepDesk(benchmark::State& state) {
     std::filesystem::remove_all(folder);
 }
 
+/// From a change of the shot to the painted coarse map, at a density of the screen.
+void mapFirstPicture(benchmark::State& state) {
+    constexpr QSize kSize(700, 560);
+    const auto density = static_cast<double>(state.range(0));
+    QImage image(kSize * density, QImage::Format_RGB32);
+    image.setDevicePixelRatio(density);
+    CarryMap map;
+    Shot shot;
+    for (auto _ : state) {
+        shot.WindSpeed += 0.001;
+        map.follow(shot, {});
+        std::stop_source first;
+        computeMap(map.request(), map.generation(), first.get_token(), [&](auto result) {
+            map.accept(std::move(result));
+            first.request_stop();
+        });
+        QPainter painter(&image);
+        constexpr double kTextPixels = 13;
+        MapPicture(map, kSize, kTextPixels, kWhite, kBlack)
+            .paint(painter, QRectF(QPointF(), kSize));
+    }
+}
+
 void openMainForm(benchmark::State& state) {
     for (auto _ : state) {
         LoadedForm loaded(0);
@@ -255,6 +279,7 @@ BENCHMARK(keepDesk)
     ->Arg(1)
     ->Unit(benchmark::kMicrosecond)
     ->UseRealTime();
+BENCHMARK(mapFirstPicture)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(openMainForm)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(openClubEditor)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(openPrintView)->Unit(benchmark::kMillisecond)->Iterations(10);

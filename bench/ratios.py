@@ -39,6 +39,8 @@ FORM = [
     ("pressRun/iterations:20", "Run with 24 data sets, click to pixels", "below 16.7 ms"),
     ("keepDesk/synced:0/real_time", "keeping the desk safe, 24 data sets, the form's time", "below 5 ms"),
     ("keepDesk/synced:1/real_time", "the same up to the synced file, off the form's way", ""),
+    ("mapFirstPicture/1/real_time", "first picture of the carry map after a change", "below 16.7 ms"),
+    ("mapFirstPicture/2/real_time", "the same at twice the density", "below 16.7 ms"),
     ("openMainForm/iterations:10", "opening the main form", ""),
     ("openClubEditor/iterations:10", "opening the club editor", ""),
     ("openPrintView/iterations:10", "opening the print view", ""),

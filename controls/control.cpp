@@ -1,15 +1,6 @@
 #include "controls/control.h"
 
-#include <algorithm>
-
 namespace parabolt {
-
-Control* ControlSet::find(std::string_view name) const {
-    const auto found =
-        std::find_if(controls_.begin(), controls_.end(),
-                     [name](const Control* control) { return control->name() == name; });
-    return found == controls_.end() ? nullptr : *found;
-}
 
 Control::Control(ControlSet& form, std::string_view name, WhileBusy whileBusy)
     : name_(name),

@@ -16,8 +16,6 @@ class Control;
 class ControlSet {
 public:
     const std::vector<Control*>& all() const { return controls_; }
-    /// The control of that name; null if the form has none.
-    Control* find(std::string_view name) const;
 
 private:
     friend class Control;

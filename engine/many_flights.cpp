@@ -227,11 +227,14 @@ FlightMeans bestFlightMeans() {
 
 std::vector<FlightOutcome> SimulateFlights(std::span<const ShotState> shots, std::stop_token stop,
                                            const FlightMeans& means) {
+    constexpr std::size_t kShotsOfThread = 64; // fewer don't pay for the start of a thread
+    const std::size_t threads =
+        std::min<std::size_t>(means.threads, shots.size() / kShotsOfThread + 1);
     std::vector<FlightOutcome> outcomes(shots.size());
     Queue queue(shots, outcomes, std::move(stop));
     {
         std::vector<std::jthread> others;
-        while (others.size() + 1 < means.threads)
+        while (others.size() + 1 < threads)
             others.emplace_back(flyShare, std::ref(queue), means.lanes);
         flyShare(queue, means.lanes);
     }

@@ -6,12 +6,16 @@
 namespace parabolt {
 
 /// Enters values from elsewhere into the fields, as the user would: the mode, then each field whose
-/// value differs, judged by its validator. Nothing happens, and the answer is false, while a study
-/// or batch runs, or where the field being edited is refused.
+/// value differs, judged by its validator. Nothing is entered, and the answer is false, while a
+/// study or batch runs, where the field being edited is refused, or where one of the values would
+/// be: that is told.
 class ShotEntry {
 public:
-    /// The validators may come into being later, but before the first entry.
-    ShotEntry(MainForm& form, Validators& validators) : form_(form), validators_(validators) {}
+    /// `rest` is where the focus goes while values are entered.
+    ShotEntry(InputControls& form, Control& rest, Validators& validators)
+        : form_(form),
+          rest_(rest),
+          validators_(validators) {}
 
     /// The launch of a shot, in the mode Launch.
     bool enterLaunch(const ShotInputs& shot);
@@ -23,7 +27,8 @@ private:
     bool enter(OptionButton& option, OperatingMode::Number mode, std::span<const Field> fields,
                const ShotInputs& shot);
 
-    MainForm& form_;
+    InputControls& form_;
+    Control& rest_;
     Validators& validators_;
 };
 

@@ -92,6 +92,15 @@ void Validators::validate(const TextBox& field) {
             judge(rule);
 }
 
+bool Validators::accepts(const TextBox& field, double value) {
+    for (const FieldRule& rule : kFieldRules)
+        if (&(form_.*rule.field) == &field && !(value >= rule.lowest && value <= rule.highest)) {
+            messages_.show(rule.rangeMessage);
+            return false;
+        }
+    return true;
+}
+
 void Validators::judge(const FieldRule& rule) {
     TextBox& field = form_.*rule.field;
     const auto value = parseNumber(field.text());

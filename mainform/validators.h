@@ -31,6 +31,8 @@ public:
 
     /// Judges a field now. A disabled field can't keep the focus; all else holds for it too.
     void validate(const TextBox& field);
+    /// True if a field would accept a value; tells the user otherwise, and nothing else happens.
+    bool accepts(const TextBox& field, double value);
 
 private:
     void judge(const FieldRule& rule);

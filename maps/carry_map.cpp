@@ -1,6 +1,7 @@
 #include "maps/carry_map.h"
 
 #include "maps/map_words.h"
+#include "shots/fault_words.h"
 
 #include <algorithm>
 #include <utility>
@@ -101,6 +102,8 @@ std::optional<Shot> CarryMap::shotAtCross() const {
 }
 
 std::string CarryMap::readout() const {
+    if (const auto base = baseOf(request_.shot, kind()); !base)
+        return "There is nothing to map. " + std::string(faultDescription(base.why()));
     const auto shot = shotAtCross();
     if (!shot)
         return "Move the pointer or the arrow keys over the map to read it. "

@@ -34,6 +34,8 @@ public:
     bool accept(std::shared_ptr<const MapResult> result);
     /// The newest that was accepted, perhaps of an earlier request; null before the first.
     const MapResult* result() const { return result_.get(); }
+    /// True if the newest result is of the present request.
+    bool isCurrent() const { return result_ && result_->generation == generation_; }
     const std::vector<DataMark>& marks() const { return marks_; }
 
     /// The cross hair, in whole grains of the inputs; nothing before it was first placed.

@@ -260,7 +260,8 @@ private:
             degrees.emplace_back(static_cast<int>(node.loft), at);
         }
         const auto every = [closest](double apart) {
-            return static_cast<int>(std::max(roundStep(apart / closest, 1), 1.0));
+            constexpr double kLeast = 1; // lofts that all give one launch stand on one place
+            return static_cast<int>(std::max(roundStep(apart / std::max(closest, kLeast), 1), 1.0));
         };
         for (const auto& [degree, at] : degrees) {
             if (degree % every(kDotsApart) == 0)
@@ -313,7 +314,9 @@ private:
     }
 
     void present() {
-        if (!result_.base)
+        // A launch that was typed in has no place on the map of swings.
+        if (!result_.base || (result_.request.kind == MapKind::Swing &&
+                              result_.request.shot.Mode == OperatingMode::Launch))
             return;
         const MapPoint point = pointOf(result_.request.kind, *result_.base);
         if (!frame_.holds(point))
@@ -336,7 +339,8 @@ private:
             canvas_.line({at.x - kMarkRadius, at.y}, {at.x + kMarkRadius, at.y});
             canvas_.line({at.x, at.y - kMarkRadius}, {at.x, at.y + kMarkRadius});
         }
-        name({at.x, at.y - kMarkRadius - kTextGap}, "best", kBottomMiddle);
+        const bool ofShown = shown_ == MapOutcome::Carry || shown_ == MapOutcome::Total;
+        name({at.x, at.y - kMarkRadius - kTextGap}, ofShown ? "best" : "best carry", kBottomMiddle);
     }
 
     PictureBox& canvas_;

@@ -59,6 +59,12 @@ Outcome<Shot, Fault> baseOf(const Shot& shot, MapKind kind) {
     return base;
 }
 
+MapResult completeMap(const MapRequest& request) {
+    MapResult complete;
+    computeMap(request, 0, {}, [&](const auto& result) { complete = *result; });
+    return complete;
+}
+
 void computeMap(const MapRequest& request, std::uint64_t generation, const std::stop_token& stop,
                 const DeliverMap& deliver) {
     MapResult result;

@@ -45,6 +45,9 @@ Outcome<Shot, Fault> baseOf(const Shot& shot, MapKind kind);
 
 using DeliverMap = std::function<void(std::shared_ptr<const MapResult>)>;
 
+/// Computes a whole map, on the caller's thread.
+MapResult completeMap(const MapRequest& request);
+
 /// Computes a map in passes, from coarse to fine, and delivers after each what there is by then.
 /// Returns early once a stop is requested.
 void computeMap(const MapRequest& request, std::uint64_t generation, const std::stop_token& stop,

@@ -111,7 +111,7 @@ std::optional<LoftBest> bestLoft(const Shot& swing, const std::vector<ReachNode>
     const ReachNode* best = bestNode(fine, outcome);
     if (best == nullptr)
         return std::nullopt;
-    return LoftBest{best->loft, *best->cell};
+    return LoftBest{best->loft, best->shot.LaunchSpeed, *best->cell};
 }
 
 } // namespace
@@ -176,7 +176,8 @@ std::vector<StepEffect> stepEffects(MapKind kind, const Shot& base, const std::s
     const auto gain = [&](const StepEffect& effect, double step,
                           const MapCell& cell) -> std::optional<double> {
         const double value = effect.value + step;
-        if (!cell || value < effect.input->lowest || value > effect.input->highest)
+        const double slack = effect.input->grain / 2; // 0.71 - 0.01 in 32 bits is just below 0.7
+        if (!cell || value < effect.input->lowest - slack || value > effect.input->highest + slack)
             return std::nullopt;
         return smoothFigure(*cell, MapOutcome::Carry) - now;
     };

@@ -31,6 +31,7 @@ struct ReachNode {
 /// A loft, and what it brings.
 struct LoftBest {
     double loft;
+    double ballSpeed; ///< mph
     MapFlight flight;
 };
 

@@ -70,9 +70,10 @@ std::string reachWords(const MapResult& result) {
     const auto figure = [](const LoftBest& best, MapOutcome outcome) {
         return words(outcome, figureOf(best.flight.figures, outcome));
     };
-    std::string text = " The swing of " + grouped(result.base->HeadSpeed, 1) +
-                       " mph carries at most " + figure(*reach.carry, MapOutcome::Carry) +
-                       ", with " + loftWords(reach.carry->loft) + " degrees of loft";
+    std::string text =
+        " The swing of " + grouped(result.base->HeadSpeed, 1) + " mph carries at most " +
+        figure(*reach.carry, MapOutcome::Carry) + ", with " + loftWords(reach.carry->loft) +
+        " degrees of loft and a ball of " + grouped(reach.carry->ballSpeed, 1) + " mph";
     if (reach.lowestGood < reach.highestGood)
         text += "; " + loftWords(reach.lowestGood) + " to " + loftWords(reach.highestGood) +
                 " degrees lose less than 1 yard";
@@ -81,25 +82,30 @@ std::string reachWords(const MapResult& result) {
 }
 
 std::string presentWords(const MapResult& result, MapOutcome shown) {
-    if (!result.present || !*result.present)
+    // A launch that was typed in is none of the map of swings.
+    const bool typed = result.request.shot.Mode == OperatingMode::Launch;
+    if (typed && result.request.kind == MapKind::Swing)
         return {};
+    if (!*result.present)
+        return " The present setting has no value. " +
+               std::string(faultDescription(result.present->why()));
     const MapFlight& present = **result.present;
     const MapOutcome by = shown == MapOutcome::Total ? MapOutcome::Total : MapOutcome::Carry;
-    const auto loss = [&](const MapFlight& best) {
+    const auto behind = [&](const MapFlight& best) {
         const double yards = smoothFigure(best, by) - smoothFigure(present, by);
-        return words(by, std::max(yards, 0.0));
+        return words(by, std::abs(yards)) + (yards < 0 ? " more than" : " less than");
     };
+    const MapPoint point = pointOf(result.request.kind, *result.base);
+    const MapRanges& ranges = result.grid.ranges();
+    const bool onMap = ranges.across.holds(point.across) && ranges.up.holds(point.up);
     std::string text = by == MapOutcome::Total ? " The present setting comes to "
                                                : " The present setting carries ";
     text += words(by, figureOf(present.figures, by));
     if (const auto& best = result.best(shown))
-        text += ": " + loss(best->flight) + " less than the best";
+        text += ": " + behind(best->flight) + (onMap ? " the best" : " the best on this map");
     const auto& reached = by == MapOutcome::Total ? result.reach.total : result.reach.carry;
-    // A launch that was typed in needs not be one of this swing.
-    const bool ofSwing = result.base->Mode != OperatingMode::Launch ||
-                         result.request.shot.Mode != OperatingMode::Launch;
-    if (reached && ofSwing)
-        text += ", " + loss(reached->flight) + " less than with the best loft";
+    if (reached && !typed) // which needs not be one of this swing
+        text += ", " + behind(reached->flight) + " with the best loft";
     return text + ".";
 }
 

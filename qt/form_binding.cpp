@@ -284,7 +284,7 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Drop:
         return refusedFocus(watched);
     case QEvent::Wheel: // over a list that only happens to lie under the pointer
-        if (!refusedFocus(watched))
+        if (qobject_cast<QComboBox*>(watched) == nullptr || !refusedFocus(watched))
             return false;
         event->ignore(); // what lies around it may scroll
         return true;

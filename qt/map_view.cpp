@@ -2,7 +2,6 @@
 
 #include "qt/picture_painter.h"
 
-#include <QAccessible>
 #include <QFontInfo>
 #include <QKeyEvent>
 #include <QPainter>
@@ -70,7 +69,9 @@ MapPicture MapView::pictureOnPaper() const {
 }
 
 MapFrame MapView::frame() const {
-    return {width() * twipsPerPixel(), height() * twipsPerPixel(), map_.ranges()};
+    const MapResult* shown = map_.result();
+    return {width() * twipsPerPixel(), height() * twipsPerPixel(),
+            shown != nullptr ? shown->request.ranges : map_.ranges()};
 }
 
 void MapView::paintEvent(QPaintEvent*) {
@@ -109,6 +110,8 @@ void MapView::paintCross(QPainter& painter) const {
 }
 
 bool MapView::placeCross(QPointF at) {
+    if (!map_.isCurrent()) // what is seen is about to go
+        return false;
     const double twips = twipsPerPixel();
     const auto point = frame().point({at.x() * twips, at.y() * twips});
     if (!point)

@@ -227,7 +227,8 @@ void MapWindow::showEvent(QShowEvent* event) {
 void MapWindow::hideEvent(QHideEvent* event) {
     QMainWindow::hideEvent(event);
     worker_.cancel();
-    started_ = 0;
+    if (!map_.isCurrent() || !map_.result()->complete)
+        started_ = 0;
 }
 
 /// Looks at what the form stands for now.
@@ -330,7 +331,10 @@ void MapWindow::copyPicture() {
 
 void MapWindow::exportTable() {
     save(DialogPurpose::SaveMapTable, "carry map.csv", [this](std::string_view) {
-        return map_.result() != nullptr ? composeMapTable(*map_.result()) : std::string();
+        // What is being computed still is computed on the spot: no table lacks cells.
+        return map_.isCurrent() && map_.result()->complete
+                   ? composeMapTable(*map_.result())
+                   : composeMapTable(completeMap(map_.request()));
     });
 }
 

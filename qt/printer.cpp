@@ -208,7 +208,7 @@ Outcome<std::string, std::string> QtPrinter::print(std::string_view title,
         return std::string();
     if (const auto written = writePdf(fileName, usualPaper(), title, compose); !written)
         return because(written.why());
-    return "The report is in the file " + fromQt(QDir::toNativeSeparators(fileName));
+    return "The report is in the file " + fromQt(QDir::toNativeSeparators(fileName)) + ".";
 }
 
 /// No printer where there is none, and where the print server doesn't answer.

@@ -94,6 +94,7 @@ Outcome<void, PreferencesStore::Refusal> SettingsStore::write(const std::string&
     settings.sync();
     if (settings.refused())
         return because(Refusal{Refusal::Of::Value, settings.code()});
+    kept_.erase({application, section, key}); // the file has the word again
     return {};
 }
 

@@ -52,7 +52,7 @@ private:
 /// behind that window.
 class SecondPress : public QObject {
 public:
-    explicit SecondPress(const QMouseEvent& first) : place_(first.globalPosition()) {
+    explicit SecondPress(const QMouseEvent& first) : QObject(qApp), place_(first.globalPosition()) {
         qApp->installEventFilter(this);
         QTimer::singleShot(QApplication::doubleClickInterval(), this, &QObject::deleteLater);
     }

@@ -37,7 +37,7 @@ bool FillInBatch::shoot(const Shot& shot) {
     }
     const bool goOn = pause_.wait();
     if (flown) {
-        if (!form_.chkBatch.checked())
+        if (!shot.sources.wholeRecord)
             form_.shot.HeadSpeed =
                 store32(form_.shot.HeadSpeed - leadingNumber(form_.txtSpeedIncrement.text()));
         form_.txtHeadSpeed.setText(shortestText(form_.shot.HeadSpeed));

@@ -43,7 +43,7 @@ void RunDriver::Command1_Click() {
 /// Counts the data set of this press. A full buffer is saved, and the press ends (false), or it
 /// starts afresh.
 bool RunDriver::makeRoom() {
-    if (!form_.Runs.full()) {
+    if (runNumber(form_) < RunBook::kMost) {
         if (operatingMode(form_) == OperatingMode::Auto) // the batch begins with an empty book
             form_.Wiping();
         run_.countRun();
@@ -55,7 +55,7 @@ bool RunDriver::makeRoom() {
         return false;
     }
     form_.Wiping();
-    form_.Runs.clear();
+    run_.dropRuns();
     run_.countRun();
     WriteResultHeader(txtResult_);
     plot_.DrawPlotFrame();

@@ -17,12 +17,12 @@ ShotRun::ShotRun(InputControls& form, const ClubTables& clubs, RichTextBox& txtR
 
 void ShotRun::countRun() {
     form_.Runs.add();
-    form_.txtRun.setText(std::to_string(form_.Runs.count()));
+    form_.txtRun.setText(std::to_string(runNumber(form_) + 1));
 }
 
 void ShotRun::takeBackRun() {
     form_.Runs.takeBack();
-    form_.txtRun.setText(std::to_string(form_.Runs.count()));
+    form_.txtRun.setText(std::to_string(runNumber(form_) - 1));
 }
 
 Outcome<void, Fault> ShotRun::flyAndDraw(const Shot& shot) {

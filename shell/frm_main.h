@@ -37,6 +37,7 @@ public:
     ProgressForm frmProgress;
     PlotPanel plot; ///< lays out and draws the plot when the view says what size the form has
     Pause pause;    ///< of a study or batch; the view can stop it
+    Validators validators; ///< the way from the fields into the shot
     /// Enters a shot from elsewhere, such as a map, into the fields.
     ShotEntry shotEntry;
     SessionHandlers sessions;
@@ -52,7 +53,6 @@ private:
     void wireMenus(Desktop& desktop);
     void ResetAll();
 
-    Validators validators_;
     ClubChoice clubChoice_;
     Modes modes_;
     Defaults defaults_;

@@ -8,10 +8,10 @@ namespace parabolt {
 Figures figuresOf(const FlightOutcome& flight) {
     if (flight.fault)
         return {};
-    constexpr double kFeetInYard = 3;
+    constexpr double kFeet = 3; // of a yard
     Figures figures;
     figures.carry = flight.carry;
-    figures.roll = flight.roll / kFeetInYard;
+    figures.roll = flight.roll / kFeet;
     figures.total = figures.carry + figures.roll;
     figures.height = flight.top.y;
     figures.heightAt = flight.top.x;

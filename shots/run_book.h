@@ -15,7 +15,6 @@ public:
     static constexpr int kMost = 24; ///< data sets that a book should hold; whoever adds, asks
 
     int count() const { return static_cast<int>(runs_.size()) - 1; }
-    bool full() const { return count() >= kMost; }
 
     /// The data set of a number from 1 to `count()`.
     const RunRecord& operator[](int number) const {

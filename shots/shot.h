@@ -19,15 +19,15 @@ struct OperatingMode {
 /// A shot as a value: all that decides its flight. A new one is a driver's launch in mild weather
 /// at sea level, in the mode Launch.
 ///
-///     type           member                      unit   meaning
-///     ShotInputs     (its members)                      launch, swing, club, weather, ball
-///     std::int16_t   Mode                        0..4   an `OperatingMode`; above Launch the
-///     impact
-///                                                       model turns the swing into the launch
-///     bool           IsWood                             a wood, not an iron
-///     optional       sources.club                       club of the set: loft and head mass
-///     bool           sources.wholeRecord                ... and all its other values
-///     optional       sources.measuredLaunchAngle deg    the attack angle then follows from it
+///     type         member                       unit     range  meaning
+///     ShotInputs   (its members)                         (its)  launch, swing, club, air, ball
+///     int16_t      Mode                                  0..4   an `OperatingMode`
+///     bool         IsWood                                       a wood, not an iron
+///     optional     sources.club                                 club of the set: loft and mass
+///     bool         sources.wholeRecord                          ... and all its other values
+///     optional     sources.measuredLaunchAngle  degrees  0..55  the attack angle follows from it
+///
+/// In the modes above Launch the impact model turns the swing into the launch.
 struct Shot : ShotInputs, RunTags {
     ImpactSources sources;
     friend bool operator==(const Shot&, const Shot&) = default;

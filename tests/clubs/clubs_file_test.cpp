@@ -67,6 +67,15 @@ TEST(ClubsText, ShowsTextsAndGridsLineByLine) {
 
 struct ClubEditing : testing::Test, support::ScriptedEditor {};
 
+TEST_F(ClubEditing, LimitsItsTexts) {
+    for (const auto& [box, most] : {std::pair{&form.txtDescription, 40U},
+                                    {&form.txtIronsDes, 120U},
+                                    {&form.txtWoodsDes, 120U}}) {
+        box->setText(std::string(200, 'x'));
+        EXPECT_EQ(box->text().size(), most);
+    }
+}
+
 TEST_F(ClubEditing, AppliesWhatIsWithinItsBounds) {
     for (const auto& row : support::goldenRows("club_bounds.txt")) {
         Grid& grid = row.at(0) == "0" ? form.GridIrons : form.GridWoods;

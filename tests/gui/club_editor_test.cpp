@@ -152,6 +152,11 @@ TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     EXPECT_EQ(form.txtWoodEdit.text(), "1978");
     woods.setText(1, 1, "198");
     form.txtWoodEdit.setText("");
+    QLineEdit& description = part<QLineEdit>("txtDescription");
+    description.setText(QString(40, 'd'));
+    description.home(false);
+    QTest::keyClicks(&description, "x"); // there is no room, and nothing gives way to it
+    EXPECT_EQ(description.text(), QString(40, 'd'));
     part<QPlainTextEdit>("txtComment").setFocus();
     type("dryEfastT");
     QTest::mouseClick(&part<QPushButton>("Command3"), Qt::LeftButton);
@@ -159,6 +164,7 @@ TEST_F(ClubEditorTest, ASessionWithMouseAndKeys) {
     EXPECT_EQ(clubs.Irons[5].LoftAngle, 28);
     EXPECT_EQ(clubs.Irons[6].LoftAngle, 32);
     EXPECT_EQ(clubs.Comment, "dry\r\nfast");
+    EXPECT_EQ(mainCaption, std::string(40, 'd'));
     QTest::keyClick(&window, Qt::Key_F1);
     EXPECT_EQ(desktop.opened, Texts{"help"});
     window.close(); // nothing to ask
@@ -211,11 +217,18 @@ TEST_F(ClubEditorTest, ASavedSetComesBackIntoTheGridsOnly) {
     woods.setText(2, 8, "25");
     woods.setText(4, 7, "-1.5");
     form.txtDescription.setText("Käthe €5");
+    mainCaption.clear();
     EXPECT_EQ(use(form.mnuSave, "my.CLB"), Texts());
+    EXPECT_EQ(mainCaption, "Käthe €5");
     EXPECT_EQ(clubs.Woods[10].LoftAngle, 25); // each cell has its own field
     EXPECT_EQ(clubs.Woods[9].AttackAngle, -1.5F);
     EXPECT_EQ(clubs.Irons[13].LoftAngle, 61.5F);
     EXPECT_EQ(form.caption, "Clubs Parameter - my.CLB");
+    EXPECT_EQ(use(form.mnuSave, "my.TXT"), Texts());
+    EXPECT_TRUE(contentOf(dialog.fileName)
+                    .starts_with("Clubs Description: K\xE4the \x80"
+                                 "5\r\n"));
+    EXPECT_EQ(use(form.mnuSave, "my.CLB"), Texts());
     const std::string content = contentOf(dialog.fileName);
     EXPECT_EQ(content.substr(701 - 15), std::string(114, 'x'));
     EXPECT_EQ(content.substr(654, 4), std::string("\0\0\xC0\xBF", 4)); // the attack of wood 9

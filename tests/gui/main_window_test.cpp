@@ -13,8 +13,11 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QStatusBar>
 #include <QTest>
 #include <QTextBlock>
 #include <QWheelEvent>
@@ -132,7 +135,8 @@ TEST_F(MainWindowTest, ThePlotShowsAxesGridCurvesAndLegend) {
                 const auto& [x, y] = path.at(part * path.size() / 6);
                 EXPECT_TRUE(painted(x, y, colour)) << number << " at " << x << "," << y;
             }
-            EXPECT_TRUE(painted(path.back().x, path.back().y + 1, colour)) << number << " lands";
+            EXPECT_TRUE(painted(path.back().x + 1.5, path.back().y + 1, colour))
+                << number << " lands";
             EXPECT_GT(inLegend(colour), 20);
         }
         EXPECT_EQ(curves.size() > 0, inLegend(Qt::white) > 20);
@@ -159,6 +163,32 @@ TEST_F(MainWindowTest, ThePlotShowsAxesGridCurvesAndLegend) {
     click("Command2");
     expectPlot({});
     EXPECT_FALSE(table->toPlainText().contains("W-1/1"));
+}
+
+TEST_F(MainWindowTest, AStudyIsShownAtWork) {
+    const auto* progress = find("frmProgress");
+    const auto* table = find<QPlainTextEdit>("txtResult");
+    EXPECT_EQ(find("Label1")->pos() - find("Label5")->pos(), QPoint(1, 2)) << "the title's shadow";
+    for (const int steps : {3, 1000}) { // until Esc comes, and to the end
+        user.events.yields = 0;
+        user.events.meanwhile = [&] {
+            if (user.events.yields % 10 != 0)
+                return;
+            const int step = user.events.yields / 10;
+            EXPECT_TRUE(progress->isVisible());
+            EXPECT_EQ(progress->findChild<QProgressBar*>()->value(), step % 11);
+            EXPECT_EQ(window.statusBar()->currentMessage(), "Press Esc to stop.");
+            EXPECT_EQ(table->textInteractionFlags(), Qt::NoTextInteraction);
+            if (step == steps)
+                QTest::keyClick(&window, Qt::Key_Escape);
+        };
+        user.form.mnuStyLaunch.Click();
+        EXPECT_FALSE(progress->isVisible());
+        EXPECT_EQ(window.statusBar()->currentMessage(), "");
+        EXPECT_EQ(table->textInteractionFlags(), Qt::TextEditorInteraction);
+        EXPECT_EQ(field("txtLaunchAngle")->text(), steps == 3 ? "4" : "14");
+        EXPECT_EQ(runs(), steps == 3 ? 0 : 1);
+    }
 }
 
 TEST_F(MainWindowTest, APickInTheListOfClubsIsTaken) {
@@ -400,6 +430,10 @@ TEST_F(MainWindowTest, TypingIntoTheTableMovesTheNextRow) {
     EXPECT_TRUE(held.contains(typed));
     EXPECT_EQ(table->toPlainText(), held.replace(QChar::Nbsp, ' '));
     EXPECT_TRUE(table->document()->findBlockByNumber(4).text().startsWith("  W-1/4"));
+    user.run(12); // each above the last rows, which come into view
+    const QScrollBar* bar = table->verticalScrollBar();
+    EXPECT_GT(bar->maximum(), 3);
+    EXPECT_EQ(bar->value(), bar->maximum());
 }
 
 TEST_F(MainWindowTest, WorkComesBackWithColoursCaretAndKeys) {

@@ -84,6 +84,7 @@ TEST_F(PrintedReport, IsTextAndLinesInsideItsFrameOnEachPaper) {
         const QString info = output("pdfinfo", {file});
         EXPECT_TRUE(info.contains("The title") && info.contains(size)) << info.toStdString();
         EXPECT_EQ(output("pdfimages", {"-list", file}).count('\n'), 2) << "the head, and no image";
+        EXPECT_TRUE(output("pdffonts", {file}).contains("Bold"));
         const std::string picture = folder.path("page");
         output("pdftoppm", {"-r", "72", "-aaVector", "no", "-singlefile", file, toQt(picture)});
         const QImage page(toQt(picture + ".ppm"));
@@ -162,6 +163,7 @@ TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
     PrintViewWindow window(frm);
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_EQ(window.focusWidget()->objectName(), "txtCaption");
     const auto press = [&](const char* name) {
         QTest::mouseClick(part<QPushButton>(window, name), Qt::LeftButton);
     };
@@ -202,7 +204,13 @@ TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
     EXPECT_GT(red, before.width() / 4);
     form.txtCaption.setText("After"); // shows at the next preview
     EXPECT_EQ(sheet->grab().toImage(), before);
+    int updates = 0;
+    form.Picture0.onViewChange = [&, show = form.Picture0.onViewChange] {
+        ++updates;
+        show();
+    };
     press("cmdPrintPreview");
+    EXPECT_GT(updates, 0) << "the old page would stay";
     EXPECT_NE(sheet->grab().toImage(), before);
     std::filesystem::create_directory(folder.path("taken.pdf"));
     print("taken.pdf/x/y");
@@ -211,6 +219,12 @@ TEST_F(PrintedReport, IsPreviewedInThePagesShapeAndPrintedToANamedFile) {
     txtResult.insert(0, QString("further\n").repeated(12).toStdString(), kBlack);
     const frmPrintView longer({outer, inner}, txtResult, printer, messages);
     EXPECT_EQ(longer.form.lblRows.caption().substr(0, 2), "6 ") << "twelve and twelve, of eighteen";
+    form.txtCaption.setText("");
+    print("untitled");
+    EXPECT_TRUE(
+        output("pdfinfo", {toQt(folder.path("untitled.pdf"))}).contains(" Parabolt - Report\n"));
+    press("cmdClose");
+    EXPECT_FALSE(window.isVisible());
 }
 
 } // namespace

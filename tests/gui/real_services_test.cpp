@@ -81,6 +81,16 @@ TEST_F(RealServicesTest, EscAnswersNoQuestion) {
             box()->button(QMessageBox::Yes)->click();
         });
     EXPECT_TRUE(messages.ask("All the data?"));
+    const std::pair<QMessageBox::StandardButton, Answer> answers[] = {
+        {QMessageBox::Yes, Answer::Yes},
+        {QMessageBox::No, Answer::No},
+        {QMessageBox::Cancel, Answer::Cancel}};
+    for (const auto& [button, answer] : answers) {
+        asSoonAs(
+            *window, [=] { return box() != nullptr; },
+            [=, button = button] { box()->button(button)->click(); });
+        EXPECT_EQ(messages.askOrCancel("All the data?"), answer);
+    }
 }
 
 TEST_F(RealServicesTest, EscStopsAStudyAndTheFormIsUsableAgain) {

@@ -106,6 +106,7 @@ TEST_F(ProgramTest, TheSplashGivesWayToTheMainFormWhichEndsTheProgram) {
         ASSERT_TRUE(window("frmMain"));
         EXPECT_FALSE(window("frmSplash"));
         EXPECT_TRUE(window("frmMain")->isMaximized());
+        EXPECT_EQ(window("frmMain")->windowTitle(), "Parabolt - Default Clubs Parameter");
         const QWidget* first = window("frmMain");
         int dialogs = 0;
         for (const auto& [action, dialog] : {std::pair{"mnuAbout", "frmSplash"},
@@ -123,6 +124,8 @@ TEST_F(ProgramTest, TheSplashGivesWayToTheMainFormWhichEndsTheProgram) {
         EXPECT_EQ(dialogs, 3);
         EXPECT_EQ(window("frmMain"), first);
         trigger("mnuSkype");
+        trigger("mnuHelp");
+        EXPECT_TRUE(window("helpWindow"));
         trigger("mnuExit");
     }));
     EXPECT_EQ(opened, (Texts{std::string(kWebAddress), "callto:" + std::string(kCallContact)}));
@@ -130,12 +133,14 @@ TEST_F(ProgramTest, TheSplashGivesWayToTheMainFormWhichEndsTheProgram) {
         QDesktopServices::unsetUrlHandler(scheme);
     for (const char* part : {"Picture1", "Frame1"})
         EXPECT_TRUE(ends([part] {
+            ASSERT_TRUE(window("frmSplash"));
             QTest::mouseClick(window("frmSplash")->findChild<QWidget*>(part), Qt::LeftButton, {},
                               {3, 3});
             ASSERT_TRUE(window("frmMain"));
             window("frmMain")->close();
         }));
     EXPECT_TRUE(ends([] { // the splash's own clock
+        ASSERT_TRUE(window("frmSplash"));
         auto* clock = window("frmSplash")->findChild<QTimer*>("Timer1");
         ASSERT_TRUE(clock->isActive());
         for (int i = 0; i < 51; ++i) {

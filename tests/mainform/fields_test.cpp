@@ -23,7 +23,7 @@ TEST_F(Modes, EnableWhatTheUserGives) {
             for (std::size_t column = 0; column <= mode; ++column)
                 states >> state;
             for (std::string name; names >> name;)
-                EXPECT_EQ(form.controls.find(name)->enabled(), state == "on") << name << mode;
+                EXPECT_EQ(controlOf(form, name).enabled(), state == "on") << name << mode;
         }
     }
 }
@@ -110,7 +110,7 @@ TEST_F(Validators, JudgeEachFieldByItsLimits) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.at(0));
         ScriptedForm user;
-        auto& field = dynamic_cast<TextBox&>(*user.form.controls.find(row.at(0)));
+        auto& field = dynamic_cast<TextBox&>(controlOf(user.form, row.at(0)));
         field.setEnabled(true);
         const auto variable = [&] {
             float value = user.form.sRange;
@@ -160,6 +160,17 @@ TEST_F(Validators, ARefusedValueReachesNothingUntilTheFallbackPasses) {
         EXPECT_EQ(curves().size(), 1U);
     }
     EXPECT_FLOAT_EQ(form.sRange, 250);
+}
+
+TEST(ShotEntry, EntersNothingWhereOneValueWouldBeRefused) {
+    ScriptedForm user;
+    ShotInputs shot = user.form.shot;
+    shot.LaunchAngle = 20;
+    shot.LaunchSpeed = 272.5F; // a swing can give it, the field doesn't take it
+    EXPECT_FALSE(user.main.shotEntry.enterLaunch(shot));
+    EXPECT_EQ(user.messages.texts.size(), 1U);
+    EXPECT_TRUE(user.form.optManual.selected());
+    EXPECT_FLOAT_EQ(user.form.shot.LaunchAngle, 9.5F);
 }
 
 } // namespace

@@ -50,6 +50,7 @@ struct RecordedPage : Page {
     struct Line {
         std::string text;
         double x, y, size;
+        bool bold;
         friend bool operator==(const Line&, const Line&) = default;
     };
     struct Rectangle {
@@ -67,7 +68,7 @@ struct RecordedPage : Page {
     }
     double TextHeight(std::string_view) const override { return FontSize / 40; }
     void Print(std::string_view text) override {
-        lines.push_back({std::string(text), CurrentX, CurrentY, FontSize});
+        lines.push_back({std::string(text), CurrentX, CurrentY, FontSize, FontBold});
         CurrentX = 0;
         CurrentY += TextHeight(text);
     }
@@ -126,6 +127,14 @@ struct Report : testing::Test {
 
 TEST_F(Report, FillsThePageInProportion) {
     const RecordedPage page = compose(1);
+    using Line = RecordedPage::Line;
+    EXPECT_EQ(page.lines, (std::vector<Line>{{"A caption", 0.3, 0.35, 16, true},
+                                             {"Parameters:", 0.4, 4.4, 14, true},
+                                             {"one", 0.4, 4.7, 9, false},
+                                             {"two", 0.4, 4.7 + 9.0 / 40, 9, false}}));
+    EXPECT_EQ(page.frame, (RecordedPage::Rectangle{{0.2, 0.2}, {11 - 0.2, 7.5 - 0.2}, 5}));
+    EXPECT_EQ(page.plot, (RecordedPage::Rectangle{{0.3, 0.6}, {7.4, 3.7}, 1}));
+    EXPECT_EQ(page.FontName, "Courier New");
     const PreviewScale half{0.5, 5.5, 4.25, -0.25, -0.25};
     EXPECT_EQ(ScalePreviewToPage({11, 8.5, 10.5, 8}, 5.5, 9), half);
     const RecordedPage preview = compose(0.5); // the page with smaller letters

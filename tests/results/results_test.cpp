@@ -10,24 +10,14 @@ struct ResultTable : testing::Test, ScriptedForm {};
 
 TEST_F(ResultTable, ShowsEachValueInItsColumn) {
     RunRecord run;
-    run.CarryTime = 6.91F;
-    run.CarryDist = 228;
-    run.LaunchSpeed = 144.1F;
-    run.ImpactSpeed = 47.2F;
-    run.LaunchAngle = 9.5F;
-    run.RPM = 3200;
-    run.ImpactSpin = 2304;
-    run.GreenRoll = -23.1F;
-    run.HeadSpeed = 100.3F;
-    run.HeadWeight = 198.4F;
-    run.LoftAngle = 10.6F;
-    run.AttackAngle = -0.5F;
-    run.Bending = 1.7F;
-    run.COR = 0.8F;
-    run.WindSpeed = -12;
-    run.BaroPressure = 29.92F;
-    run.Temperature = 71;
-    run.RH = 55;
+    float value = -10.74F;
+    for (float RunRecord::*const field :
+         {&RunRecord::CarryTime, &RunRecord::CarryDist, &RunRecord::LaunchSpeed,
+          &RunRecord::ImpactSpeed, &RunRecord::LaunchAngle, &RunRecord::RPM, &RunRecord::ImpactSpin,
+          &RunRecord::GreenRoll, &RunRecord::HeadSpeed, &RunRecord::HeadWeight,
+          &RunRecord::LoftAngle, &RunRecord::AttackAngle, &RunRecord::Bending, &RunRecord::COR,
+          &RunRecord::WindSpeed, &RunRecord::BaroPressure, &RunRecord::Temperature, &RunRecord::RH})
+        run.*field = value++;
     std::string table = composeResultHeader();
     for (run.Mode = 0; run.Mode <= 5; ++run.Mode) {
         run.IsWood = run.Mode % 2 == 1;
@@ -38,6 +28,7 @@ TEST_F(ResultTable, ShowsEachValueInItsColumn) {
     EXPECT_EQ(table, goldenText("result_table.txt"));
     run.CarryTime = 0.5F;
     run.CarryDist = 0.4F;
+    run.COR = 0.8F;
     run.WindSpeed = 3.4F;
     const std::string row = composeResultRow(run, 123, "24"); // cut to its column
     EXPECT_EQ(row.substr(0, 24), "W-123/2        .50     0");

@@ -179,13 +179,13 @@ TEST_F(Studies, HoldBackWhatWouldDisturbThemAndLetGo) {
 }
 
 TEST(FillInBatch, ShootsAWholeSet) {
-    // The step, club and head speed of each shot, and what the speed's field shows afterwards.
+    // The step, club and head speed of each shot; what speed, loft and weight show afterwards.
     const std::tuple<bool, bool, const char*, const char*, const char*> table[] = {
         {true, false, "1", "1:100 2:99 3:98 4:97 5:96 6:95 7:94 8:93 9:92 10:91 11:90 12:89 ",
-         "88"},
-        {false, false, "3", "1:100 2:97 3:94 4:91 5:88 7:85 9:82 ", "79"},
-        {false, true, "1", "1:100 2:99 3:98 4:97 5:96 7:94 9:92 ", "92"}};
-    for (const auto& [iron, fillIn, increment, expected, speedField] : table) {
+         "88 56 298"},
+        {false, false, "3", "1:100 2:97 3:94 4:91 5:88 7:85 9:82 ", "79 24 233"},
+        {false, true, "1", "1:100 2:99 3:98 4:97 5:96 7:94 9:92 ", "92 24 233"}};
+    for (const auto& [iron, fillIn, increment, expected, fields] : table) {
         ScriptedForm user;
         user.run();
         user.form.optAuto.select();
@@ -203,7 +203,9 @@ TEST(FillInBatch, ShootsAWholeSet) {
             EXPECT_TRUE(fillIn || run.COR == 0.83F) << "the field's, and not the club's";
         }
         EXPECT_EQ(shots, expected);
-        EXPECT_EQ(user.form.txtHeadSpeed.text(), speedField);
+        EXPECT_EQ(user.form.txtHeadSpeed.text() + " " + user.form.txtLoftAngle.text() + " " +
+                      user.form.txtHeadWeight.text(),
+                  fields);
         EXPECT_EQ(user.form.focus.active(), &user.form.Command1);
     }
 }
@@ -212,6 +214,7 @@ TEST(FillInBatch, FliesWhatTheClubsFlySingly) {
     ScriptedForm batch;
     batch.form.clubs.Woods[3].AttackAngle = -2;
     batch.form.clubs.Woods[4].Bending = 1;
+    batch.form.clubs.Woods[9] = {25, 234, 93, 0.81F, -1.5F, 0.5F};
     batch.form.optAuto.select();
     batch.form.chkBatch.setChecked(true);
     batch.run();
@@ -223,10 +226,16 @@ TEST(FillInBatch, FliesWhatTheClubsFlySingly) {
         single.run();
         EXPECT_EQ(single.form.Runs[club + 1].Path, batch.form.Runs[club + 1].Path);
     }
+    for (Control* control : single.form.controls.all()) // and leave the same in the fields
+        if (const auto* field = dynamic_cast<TextBox*>(control); field && field->visible()) {
+            const auto& same = dynamic_cast<TextBox&>(controlOf(batch.form, field->name()));
+            EXPECT_EQ(same.text(), field->text()) << field->name();
+        }
 }
 
 TEST(FillInBatch, WritesARowBehindItsPauseAndStopsAfterTheShotInHand) {
     ScriptedForm user;
+    user.form.Timer1.setInterval(20); // as a study leaves it
     user.form.optAuto.select();
     std::vector<std::size_t> rows;
     user.events.meanwhile = [&] {
@@ -238,6 +247,7 @@ TEST(FillInBatch, WritesARowBehindItsPauseAndStopsAfterTheShotInHand) {
     };
     user.run();
     EXPECT_EQ(rows, (std::vector<std::size_t>{0, 1, 2}));
+    EXPECT_EQ(user.form.Timer1.interval(), 10);
     EXPECT_EQ(user.rows().size(), 3U);
     EXPECT_TRUE(user.form.Command1.enabled());
     EXPECT_EQ(user.form.focus.active(), &user.form.txtResult) << "where the user has gone";

@@ -1,4 +1,3 @@
-#include "shots/climb.h"
 #include "shots/figures.h"
 #include "tests/support/shots.h"
 
@@ -47,27 +46,6 @@ TEST(Fly, SaysWhyNotAndHowFarItCame) {
     shot.Mode = OperatingMode::Launch;
     shot.RPM = -100;
     EXPECT_EQ(fly(shot).why().flight->record.Path.size(), 1U);
-}
-
-TEST(Climb, EndsAtTheDropOrAtTheLastValue) {
-    const struct {
-        ClimbRange range;
-        float launchSpeed;
-        int found, flights;
-    } table[] = {
-        {{&ShotInputs::LaunchAngle, 2, 55, 1}, 144, 14, 14},
-        {{&ShotInputs::LaunchAngle, 13, 15, 1}, 144, 14, 3},
-        {{&ShotInputs::LaunchAngle, 2, 12, 5}, 144, 7, 3}, // up to its last value, and a step back
-        {{&ShotInputs::LaunchAngle, 2, 55, 1}, 0, 54, 54}, // equal carries don't stop it
-    };
-    for (const auto& row : table) {
-        Climb climb(mildShot(row.launchSpeed, 9, 3200), row.range);
-        int flights = 0;
-        for (; climb.goesOn(); ++flights)
-            ASSERT_TRUE(climb.advance());
-        EXPECT_EQ(climb.found(), row.found);
-        EXPECT_EQ(flights, row.flights);
-    }
 }
 
 } // namespace

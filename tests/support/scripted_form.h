@@ -3,7 +3,9 @@
 #include "shell/frm_main.h"
 #include "tests/support/scripted_services.h"
 
+#include <algorithm>
 #include <sstream>
+#include <stdexcept>
 
 namespace parabolt::support {
 
@@ -29,6 +31,16 @@ struct ScriptedEventLoop : EventLoop {
             timer->Tick();
     }
 };
+
+/// The control of that name.
+inline Control& controlOf(const FormCore& form, std::string_view name) {
+    const auto& all = form.controls.all();
+    const auto found = std::find_if(
+        all.begin(), all.end(), [&](const Control* control) { return control->name() == name; });
+    if (found == all.end())
+        throw std::out_of_range("there is no control " + std::string(name));
+    return **found;
+}
 
 /// The main form with all its handlers, loaded as at start-up, on scripted services and without
 /// widgets.
