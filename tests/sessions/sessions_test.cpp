@@ -113,7 +113,7 @@ TEST(Session, GoesOnAsIfItHadNeverBeenClosed) {
         EXPECT_EQ(comesBack.form.Picture2.drawings(), stays.form.Picture2.drawings()) << mode;
         EXPECT_EQ(comesBack.form.caption, stays.form.caption);
         for (const Control* control : stays.form.controls.all())
-            EXPECT_EQ(control->enabled(), comesBack.form.controls.find(control->name())->enabled())
+            EXPECT_EQ(control->enabled(), controlOf(comesBack.form, control->name()).enabled())
                 << control->name() << mode;
     }
 }
@@ -188,7 +188,7 @@ TEST_F(WayBackTest, LeadsBackFromEachWipeAndForthAgain) {
     putContent(folder.path("other.pbs"), encodeSession({WorkingUser(4).desk(), ""}));
     using User = WayBackUser;
     const auto fill = [](User& user, Answer answer) {
-        while (!user.form.Runs.full())
+        while (user.form.Runs.count() < RunBook::kMost)
             user.act([&] { user.run(); });
         user.messages.answers = {answer};
     };
