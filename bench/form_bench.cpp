@@ -42,6 +42,7 @@ struct Silent : MessageBoxes, FileDialog, PreferencesStore, Desktop, EventLoop, 
         return {};
     }
     void openHelp() override {}
+    void openHelpPage(std::string_view) override {}
     void openAddress(std::string_view) override {}
     void yield() override { timer->Tick(); }
     PageSize paper() override { return {}; }

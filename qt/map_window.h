@@ -45,6 +45,8 @@ private:
     void buildMenu();
 
     void follow();
+    void followChoices();
+    void keepChoices();
     void compute();
     void accept(const std::shared_ptr<const MapResult>& result);
     void showRanges();
@@ -64,6 +66,7 @@ private:
     Desktop& desktop_;
     DialogRoutine dialogs_;
     CarryMap map_;
+    std::string keptChoices_;   ///< what the desk last held of ours
     std::uint64_t started_ = 0; ///< generation at which the worker is, or was
 
     QComboBox* kind_;
