@@ -206,7 +206,7 @@ void keepDesk(benchmark::State& state) {
             loaded.main.form.shot.WindSpeed += 1;
             loaded.main.sessions.actionEnded();
             if (synced)
-                loaded.main.sessions.flush();
+                loaded.main.sessions.isSafe();
         }
     }
     std::filesystem::remove_all(folder);

@@ -91,7 +91,7 @@ void RichTextBox::edited(ColouredTexts content, std::size_t caret) {
         text += piece.text;
     const bool differs = text_ != text;
     if (differs)
-        Editing();
+        Editing(text);
     text_ = std::move(text);
     content_ = std::move(content);
     setCaret(caret);

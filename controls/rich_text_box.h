@@ -46,8 +46,9 @@ public:
 
     bool takesFocus() const override { return true; }
 
-    Event<> Change;  ///< the text has changed
-    Event<> Editing; ///< the user is about to change the text: it is still as it was
+    Event<> Change; ///< the text has changed
+    /// The user is about to change the text to this: it is still as it was.
+    Event<const std::string&> Editing;
     /// Set by the view: position, text and colour of what came in.
     std::function<void(std::size_t, const std::string&, Rgb)> onInsert;
     std::function<void()> onClear;            ///< set by the view

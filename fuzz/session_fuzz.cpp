@@ -34,6 +34,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!again)
         std::abort();
     layDesk(form, again->desk);
+    rewriteTable(form);
+    layDesk(form, again->desk);
     if (encodeSession({takeDesk(form), again->time}) != once)
         std::abort();
     return 0;

@@ -164,7 +164,8 @@ struct InputControls : RunControls, ShotControls {};
 /// The whole form.
 struct MainForm : InputControls, ResultControls, MenuControls {
     ClubTables clubs;
-    std::string reportCaption; ///< what stood last in `txtCaption` of the print view
+    std::string reportCaption;      ///< what was typed last into `txtCaption` of the print view
+    bool reportCaptionLaid = false; ///< it came with a desk: the next print view begins with it
     /// State of windows that are no forms, by the names of the windows; each knows its own.
     std::map<std::string, std::string> windows;
     bool blFormLoaded = false; ///< read by the splash: is there a main form already?

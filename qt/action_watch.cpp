@@ -21,6 +21,15 @@ void ActionWatch::setBusy(bool busy) {
 }
 
 bool ActionWatch::eventFilter(QObject* watched, QEvent* event) {
+    // What a slow window takes in at a stroke are several actions all the same. Keys and clicks
+    // come to the system's window first.
+    const bool begins = event->type() == QEvent::Shortcut ||
+                        (watched->isWindowType() && (event->type() == QEvent::KeyPress ||
+                                                     event->type() == QEvent::MouseButtonPress));
+    if (begins && round_.isActive()) {
+        round_.stop();
+        comeRound();
+    }
     switch (event->type()) {
     case QEvent::KeyPress:
     case QEvent::KeyRelease:

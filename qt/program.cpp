@@ -15,6 +15,7 @@
 #include <QIcon>
 #include <QShortcut>
 #include <QTimer>
+#include <utility>
 
 namespace parabolt {
 namespace {
@@ -102,9 +103,8 @@ void Program::showMainForm(const std::string& sessionFile) {
     });
 }
 
-void Program::keepNow() {
-    logic_.sessions.actionEnded();
-    logic_.sessions.flush();
+bool Program::isSafe() {
+    return logic_.sessions.isSafe();
 }
 
 void Program::showKeeping(const std::string& trouble) {
@@ -116,17 +116,21 @@ void Program::showClubEditor() {
     frmClubParams editor(logic_.form.clubs,
                          {messages_, fileDialog_, preferences_, desktop_, applicationFolder(),
                           [this] { showClubsInCaption(logic_.form); }});
+    editor.editor.Applying.connect([this] { logic_.form.Wiping(); });
     ClubEditorWindow window(editor, window_.get());
     execute(window);
 }
 
 void Program::showPrintView() {
     frmPrintView printView(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
-    printView.form.txtCaption.setText(logic_.form.reportCaption);
+    if (std::exchange(logic_.form.reportCaptionLaid, false))
+        printView.form.txtCaption.setText(logic_.form.reportCaption);
+    printView.form.txtCaption.Change.connect([this, &caption = printView.form.txtCaption] {
+        logic_.form.reportCaption = caption.text();
+    });
     PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
     execute(window);
-    logic_.form.reportCaption = printView.form.txtCaption.text();
 }
 
 void Program::showCarryMap() {

@@ -31,8 +31,9 @@ public:
     void showMainForm(const std::string& sessionFile = {});
     /// The state behind the main form, for whoever watches the program at work.
     const MainForm& mainForm() const { return logic_.form; }
-    /// Ends the action in hand for such a watcher, and waits until its desk is safe.
-    void keepNow();
+    /// For such a watcher too: waits for a desk that is on its way to the disk. True if the present
+    /// one stands there.
+    bool isSafe();
 
 private:
     void showKeeping(const std::string& trouble);

@@ -2,6 +2,7 @@
 
 #include "mainform/defaults.h"
 #include "mainform/modes.h"
+#include "results/result_table.h"
 #include "shots/shot.h"
 
 #include <algorithm>
@@ -77,8 +78,16 @@ void layDesk(MainForm& form, const Desk& desk) {
     if (desk.typingColour)
         form.txtResult.setSelColor(*desk.typingColour);
     form.reportCaption = desk.reportCaption;
+    form.reportCaptionLaid = true;
     form.windows = desk.windows;
     showClubsInCaption(form);
+}
+
+void rewriteTable(MainForm& form) {
+    WriteResultHeader(form.txtResult);
+    for (int number = 1; number <= form.Runs.count(); ++number)
+        WriteResultRow(form.txtResult, form.Runs[number], form.Runs[number].ClubNo,
+                       std::to_string(number));
 }
 
 } // namespace parabolt

@@ -12,4 +12,7 @@ Desk takeDesk(const MainForm& form);
 /// is on the desk. The plot is left to the caller.
 void layDesk(MainForm& form, const Desk& desk);
 
+/// Writes the table anew: the headings, and the rows of all data sets in order.
+void rewriteTable(MainForm& form);
+
 } // namespace parabolt

@@ -3,6 +3,7 @@
 #include "files/file_access.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <random>
 #include <unistd.h>
@@ -16,9 +17,11 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kLast = "last";
+constexpr const char* kPrevious = "previous";
 constexpr std::string_view kDeskEnding = ".pbs";
 constexpr std::string_view kLockEnding = ".lock";
 constexpr std::string_view kOwnStart = "running-";
+constexpr std::chrono::minutes kPause{1}; // before what failed is tried again
 
 std::optional<Session> readSession(const std::string& fileName) {
     const auto text = readFile(fileName, kLongestSessionFile);
@@ -28,13 +31,18 @@ std::optional<Session> readSession(const std::string& fileName) {
     return session ? std::optional(std::move(*session)) : std::nullopt;
 }
 
-/// Names of the desks of running programs and abandoned ones, without ending, the newest first.
-std::vector<std::string> desksIn(const std::string& folder) {
+bool hasRuns(const std::optional<Session>& session) {
+    return session && !session->desk.runs.empty();
+}
+
+/// Names of the locks, or of the desks, of running programs and abandoned ones, without ending, the
+/// newest first.
+std::vector<std::string> filesIn(const std::string& folder, std::string_view ending) {
     std::vector<std::pair<fs::file_time_type, std::string>> found;
     std::error_code error;
     for (const auto& entry : fs::directory_iterator(folder, error)) {
         const fs::path& path = entry.path();
-        if (path.extension() == kDeskEnding && path.stem().string().starts_with(kOwnStart))
+        if (path.extension() == ending && path.stem().string().starts_with(kOwnStart))
             found.emplace_back(entry.last_write_time(error), path.stem().string());
     }
     std::sort(found.rbegin(), found.rend());
@@ -77,9 +85,9 @@ Recovery::~Recovery() {
 /// Makes the folder, and in it the lock that says that this program lives. A folder that can't be
 /// written is tried again at the next write.
 void Recovery::enterFolder() {
-    if (ownLock_)
-        return;
     std::error_code error;
+    if (ownLock_ && fs::exists(file(own_, kLockEnding), error))
+        return;
     fs::create_directories(folder_, error);
     if (!error)
         fs::permissions(folder_, fs::perms::owner_all, error);
@@ -89,7 +97,11 @@ void Recovery::enterFolder() {
 std::optional<Session> Recovery::abandoned() {
     if (folder_.empty())
         return std::nullopt;
-    for (const std::string& name : desksIn(folder_)) {
+    // Locks alone, of programs that ended before they had kept a desk.
+    for (const std::string& name : filesIn(folder_, kLockEnding))
+        if (!fs::exists(file(name, kDeskEnding)) && lockFile(file(name, kLockEnding)))
+            remove(name, kLockEnding);
+    for (const std::string& name : filesIn(folder_, kDeskEnding)) {
         FileLock lock = lockFile(file(name, kLockEnding));
         if (!lock)
             continue;
@@ -105,10 +117,11 @@ std::optional<Session> Recovery::abandoned() {
 void Recovery::settle(bool reopened) {
     if (!abandoned_)
         return;
-    if (reopened || leaveAsLast(abandoned_->session)) {
+    if (reopened)
         remove(abandoned_->name, kDeskEnding);
-        remove(abandoned_->name, kLockEnding);
-    }
+    else
+        leaveAsLast(abandoned_->name);
+    remove(abandoned_->name, kLockEnding);
     abandoned_.reset();
 }
 
@@ -117,34 +130,35 @@ void Recovery::keep(Session session) {
         return;
     {
         const std::lock_guard guard(mutex_);
-        waiting_ = std::move(session);
+        const bool empties =
+            !waiting_.empty() && !waiting_.back().desk.runs.empty() && session.desk.runs.empty();
+        if (!empties && !waiting_.empty())
+            waiting_.pop_back();
+        waiting_.push_back(std::move(session));
     }
     changed_.notify_all();
 }
 
 bool Recovery::flush() {
     std::unique_lock guard(mutex_);
-    changed_.wait(guard, [this] { return !waiting_ && !writing_; });
+    changed_.wait(guard, [this] { return waiting_.empty() && !writing_; });
     return written_;
 }
 
 void Recovery::finish(const Session& session) {
     if (folder_.empty())
         return;
+    keep(session);
     flush();
-    enterFolder();
-    if (leaveAsLast(session))
-        removeOwn();
+    leaveAsLast(own_);
+    remove(own_, kLockEnding);
+    ownLock_.reset();
 }
 
 void Recovery::finish() {
     if (folder_.empty())
         return;
     flush();
-    removeOwn();
-}
-
-void Recovery::removeOwn() {
     remove(own_, kDeskEnding);
     remove(own_, kLockEnding);
     ownLock_.reset();
@@ -163,35 +177,64 @@ Outcome<std::string, Failure> Recovery::last() const {
     return readFile(file(kLast, kDeskEnding), kLongestSessionFile);
 }
 
-/// True if the desk is safe there, or need not be.
-bool Recovery::leaveAsLast(const Session& session) {
-    const std::string fileName = file(kLast, kDeskEnding);
-    if (session.desk.runs.empty())
-        if (const auto old = readSession(fileName); old && !old->desk.runs.empty())
-            return true;
-    return write(fileName, session);
+/// Makes a kept desk the last session, unless it would take the place of a fuller one. That needs
+/// no room on the disk.
+void Recovery::leaveAsLast(const std::string& name) {
+    const std::string kept = file(name, kDeskEnding);
+    const std::string last = file(kLast, kDeskEnding);
+    if (hasRuns(readSession(last)) && !hasRuns(readSession(kept)))
+        return remove(name, kDeskEnding);
+    makeRoomForLast();
+    std::error_code ignored;
+    fs::rename(kept, last, ignored);
 }
 
-bool Recovery::write(const std::string& fileName, const Session& session) {
-    const auto written = replaceFile(fileName, encodeSession(session));
+/// The last session becomes the previous one, if it is worth it.
+void Recovery::makeRoomForLast() {
+    std::error_code ignored;
+    if (hasRuns(readSession(file(kLast, kDeskEnding))))
+        fs::rename(file(kLast, kDeskEnding), file(kPrevious, kDeskEnding), ignored);
+}
+
+bool Recovery::write(const Session& session) {
+    enterFolder();
+    const std::string own = file(own_, kDeskEnding);
+    const bool empties = ownHasRuns_ && session.desk.runs.empty();
+    if (empties)
+        if (const auto full = readFile(own, kLongestSessionFile)) {
+            makeRoomForLast();
+            static_cast<void>(replaceFile(file(kLast, kDeskEnding), *full));
+        }
+    const auto written = replaceFile(own, encodeSession(session));
+    if (written)
+        ownHasRuns_ = !session.desk.runs.empty();
     told_(written ? std::string() : written.why().description);
     return bool{written};
 }
 
 void Recovery::work() {
     std::unique_lock guard(mutex_);
+    const auto called = [this] { return !waiting_.empty() || ends_; };
+    std::optional<Session> unsaved;
     while (true) {
-        changed_.wait(guard, [this] { return waiting_ || ends_; });
-        if (!waiting_)
+        if (unsaved)
+            changed_.wait_for(guard, kPause, called);
+        else
+            changed_.wait(guard, called);
+        if (!waiting_.empty()) {
+            unsaved = std::move(waiting_.front());
+            waiting_.pop_front();
+        } else if (ends_) {
             return;
-        const Session session = *std::exchange(waiting_, std::nullopt);
+        }
         writing_ = true;
         guard.unlock();
-        enterFolder();
-        const bool written = write(file(own_, kDeskEnding), session);
+        const bool written = write(*unsaved);
         guard.lock();
         writing_ = false;
         written_ = written;
+        if (written)
+            unsaved.reset();
         changed_.notify_all();
     }
 }

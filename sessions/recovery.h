@@ -6,6 +6,7 @@
 #include "sessions/session_codec.h"
 
 #include <condition_variable>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -17,7 +18,8 @@ namespace parabolt {
 
 /// Keeps the desk safe in the program's own state folder. Each running program has a file of its
 /// own there, beside a lock that ends with its process: a desk whose lock nobody holds is that of a
-/// program that did not end properly. An orderly end leaves the desk as `last.pbs`.
+/// program that did not end properly. An orderly end leaves the desk as `last.pbs`, and so does
+/// what empties a desk of its data sets; the last one before stays as `previous.pbs`.
 ///
 /// A thread of its own writes the files; only `flush` and `finish` wait for it.
 class Recovery {
@@ -36,7 +38,9 @@ public:
     /// last session, so that nobody asks again.
     void settle(bool reopened);
 
-    /// Writes a desk, soon: of several that come while one is being written, the last.
+    /// Writes a desk, soon: of several that come while one is being written, the last, and
+    /// the last with data sets before it was emptied. One that could not be written is tried again
+    /// every minute.
     void keep(Session session);
     /// Waits until all has been written, and says whether the last of it could be.
     bool flush();
@@ -56,16 +60,17 @@ private:
 
     void enterFolder();
     void work();
-    bool write(const std::string& fileName, const Session& session);
-    bool leaveAsLast(const Session& session);
+    bool write(const Session& session);
+    void leaveAsLast(const std::string& name);
+    void makeRoomForLast();
     std::string file(const std::string& name, std::string_view ending) const;
     void remove(const std::string& name, std::string_view ending);
-    void removeOwn();
 
     std::string folder_;
     std::function<void(const std::string&)> told_;
     std::string own_; ///< name of our files, without ending
     FileLock ownLock_;
+    bool ownHasRuns_ = false; ///< has the desk in our file data sets?
 
     struct Abandoned {
         std::string name;
@@ -76,7 +81,7 @@ private:
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::optional<Session> waiting_;
+    std::deque<Session> waiting_;
     bool writing_ = false;
     bool written_ = true; ///< did the last write end well?
     bool ends_ = false;

@@ -1,8 +1,9 @@
 #include "sessions/session_handlers.h"
 
 #include "files/file_access.h"
-#include "results/result_table.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace parabolt {
@@ -22,6 +23,22 @@ std::string contentOf(const Desk& desk) {
                         : std::to_string(count) + " data sets";
 }
 
+/// What a user does to a text by hand: letter by letter, or at a stroke that takes several away.
+WayBack::Change changeOf(std::string_view before, std::string_view after) {
+    const auto shorter = std::min(before.size(), after.size());
+    const auto alike = [&](auto one, auto other) {
+        return static_cast<std::size_t>(
+            std::mismatch(one, one + static_cast<std::ptrdiff_t>(shorter), other).first - one);
+    };
+    const std::size_t start = alike(before.begin(), after.begin());
+    const std::size_t end = std::min(alike(before.rbegin(), after.rbegin()), shorter - start);
+    const std::string_view gone = before.substr(start, before.size() - start - end);
+    const auto letters = std::count_if(gone.begin(), gone.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; // no later byte of a letter
+    });
+    return letters > 1 ? WayBack::Change::Wipe : WayBack::Change::Edit;
+}
+
 } // namespace
 
 SessionHandlers::SessionHandlers(MainForm& form, PlotPanel& plot, FileDialog& dialog,
@@ -34,19 +51,21 @@ SessionHandlers::SessionHandlers(MainForm& form, PlotPanel& plot, FileDialog& di
       dialogs_(dialog, preferences, messages, applicationFolder),
       surroundings_(std::move(surroundings)),
       recovery_(surroundings_.stateFolder, surroundings_.keepingEnded) {
-    const auto keeps = [this](WayBack::Change change) {
-        return [this, change] {
-            wayBack_.keep(present(), change);
-            showWayBack();
-        };
+    using Change = WayBack::Change;
+    const auto keep = [this](Change change) {
+        wayBack_.keep(present(), change);
+        showWayBack();
     };
-    form_.Wiping.connect(keeps(WayBack::Change::Wipe));
+    const auto keepForChoice = [keep] { keep(Change::Choice); };
+    form_.Wiping.connect([keep] { keep(Change::Wipe); });
     for (OptionButton* button :
          {&form_.optActual, &form_.optManual, &form_.optLaunch, &form_.optStandard, &form_.optAuto,
           &form_.optWood, &form_.optIron})
-        button->Choosing.connect(keeps(WayBack::Change::Small));
-    form_.cmbClubNo.Choosing.connect(keeps(WayBack::Change::Small));
-    form_.txtResult.Editing.connect(keeps(WayBack::Change::Small));
+        button->Choosing.connect(keepForChoice);
+    form_.cmbClubNo.Choosing.connect(keepForChoice);
+    form_.txtResult.Editing.connect(
+        [this, keep](const std::string& after) { keep(changeOf(form_.txtResult.text(), after)); });
+    form_.mnuFile.Click.connect([this] { showWayBack(); }); // "10:32" may be of yesterday by now
     form_.mnuOpenSession.Click.connect([this] { mnuOpenSession_Click(); });
     form_.mnuSaveSession.Click.connect([this] { mnuSaveSession_Click(); });
     form_.mnuReopenSession.Click.connect([this] { mnuReopenSession_Click(); });
@@ -118,10 +137,10 @@ void SessionHandlers::mnuSaveSession_Click() {
 
 void SessionHandlers::mnuReopenSession_Click() {
     const auto text = recovery_.last();
-    if (text)
-        openText(text);
-    else
+    if (!text && text.why().number == kBadFileName)
         messages_.show(kNoLastSession);
+    else
+        openText(text);
 }
 
 void SessionHandlers::mnuGoBack_Click() {
@@ -133,10 +152,7 @@ void SessionHandlers::mnuGoBack_Click() {
 
 void SessionHandlers::mnuRewriteTable_Click() {
     form_.Wiping();
-    WriteResultHeader(form_.txtResult);
-    for (int number = 1; number <= form_.Runs.count(); ++number)
-        WriteResultRow(form_.txtResult, form_.Runs[number], form_.Runs[number].ClubNo,
-                       std::to_string(number));
+    rewriteTable(form_);
 }
 
 /// The time alone where it is of today.

@@ -35,8 +35,8 @@ public:
     void actionEnded();
     /// The program ends: leaves the desk for the next one.
     void finish();
-    /// Waits until the last desk has been kept.
-    void flush() { static_cast<void>(recovery_.flush()); }
+    /// Waits until the last desk has been kept. True if that is the present one.
+    bool isSafe() { return recovery_.flush() && takeDesk(form_) == kept_; }
 
     void mnuOpenSession_Click();
     void mnuSaveSession_Click();

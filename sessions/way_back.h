@@ -12,11 +12,11 @@ namespace parabolt {
 /// back leads round to it again.
 class WayBack {
 public:
-    static constexpr std::size_t kMost = 10; ///< desks
+    static constexpr std::size_t kMost = 10; ///< desks from before wipes; as many of small changes
 
-    /// What is about to happen to a desk. Small changes that follow each other, with nothing else
-    /// between them, count as one.
-    enum class Change { Wipe, Small };
+    /// What is about to happen to a desk: something wipes or overwrites it, or a small change.
+    /// Small changes of one kind that follow each other, with nothing else between, count as one.
+    enum class Change { Wipe, Choice, Edit };
 
     /// Keeps the desk from before a change. What one action of the user changes counts once.
     void keep(Session before, Change change);
@@ -31,14 +31,21 @@ public:
 private:
     struct Kept {
         Session session;
+        bool beforeWipe;
         unsigned long number; ///< rises with the time of keeping
     };
+    struct Small {
+        Change change;
+        Desk after;
+    };
+
+    /// Drops the oldest of what there is too much of.
+    void thinOut(bool beforeWipe);
 
     std::deque<Kept> desks_; ///< the next one is the last
     unsigned long number_ = 0;
-    std::optional<Change> inAction_; ///< what the action in hand has changed first
-    std::optional<Desk> afterSmall_; ///< the desk behind the last small change, if nothing else
-                                     ///< was kept since
+    std::optional<Change> inAction_; ///< what the action in hand has changed
+    std::optional<Small> lastSmall_; ///< if nothing else was kept since
 };
 
 } // namespace parabolt

@@ -31,7 +31,7 @@ struct WorkingUser : ScriptedForm {
         enter(form.txtRange, "250");
         run(2);
         form.reportCaption = "Tuesday";
-        form.windows["map"] = "{}";
+        form.windows["carryMap"] = "{}";
         auto content = form.txtResult.content();
         content.back().text.insert(4, "note ");
         content.push_back({"\nred", {255, 0, 0}});
@@ -241,17 +241,38 @@ TEST_F(WayBackTest, LeadsBackFromEachWipeAndForthAgain) {
     }
 }
 
+TEST_F(WayBackTest, LosesNoNoteThatWasJustTyped) {
+    const auto type = [this](const std::string& text) {
+        act([&] { form.txtResult.edited({{text, kBlack}}, text.size()); });
+    };
+    const std::string note = "n\u00f6te";
+    for (const std::string& text : {note.substr(0, 1), note.substr(0, 3), note.substr(0, 4), note})
+        type(text);
+    type("x"); // over all that was selected
+    goBack();
+    EXPECT_EQ(form.txtResult.text(), note);
+    goBack();
+    EXPECT_EQ(form.txtResult.text(), "n") << "the letters behind it count as one";
+    type(note + "s");
+    act([this] { form.optStandard.select(); });
+    goBack();
+    EXPECT_EQ(form.txtResult.text(), note + "s");
+    EXPECT_TRUE(form.optLaunch.selected());
+}
+
 TEST_F(WayBackTest, KeepsTenWipesWhateverSmallChangesLieBetween) {
     EXPECT_FALSE(form.mnuGoBack.enabled());
     for (int i = 0; i < 10; ++i) {
         enter(form.txtWind, std::to_string(i));
+        act([this] { form.cmbClubNo.select(form.cmbClubNo.listIndex() == 2 ? 3 : 2); });
         messages.answers = {Answer::Yes};
         act([this] { form.mnuReset.Click(); });
     }
-    for (int i = 9; i >= 0; --i) {
-        goBack();
-        EXPECT_EQ(form.txtWind.text(), std::to_string(i));
-    }
+    for (int i = 9; i >= 0; --i)
+        for (int both = 0; both < 2; ++both) {
+            goBack();
+            EXPECT_EQ(form.txtWind.text(), std::to_string(i));
+        }
     enter(form.txtWind, "33");
     act([this] { form.cmbClubNo.select(3); });
     const std::string lead = form.mnuGoBack.caption();
@@ -335,11 +356,24 @@ TEST(Recovery, AnOrderlyEndLeavesTheDeskAndNoEmptyOneReplacesIt) {
     });
     visit([](ScriptedForm&) {});
     visit([](ScriptedForm& user) { user.enter(user.form.txtWind, "6"); });
+    const auto reopens = [&](int runs) {
+        visit([runs](ScriptedForm& user) {
+            user.form.mnuReopenSession.Click();
+            EXPECT_EQ(user.form.Runs.count(), runs);
+        });
+    };
+    reopens(3);
     visit([](ScriptedForm& user) {
-        user.form.mnuReopenSession.Click();
-        EXPECT_EQ(user.form.Runs.count(), 3);
+        user.run(4);
+        user.main.sessions.actionEnded();
+        user.messages.answers = {Answer::Yes};
+        user.press(user.form.Command2);
+        user.messages.texts.clear();
     });
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path("state")), {}), 1);
+    reopens(4);
+    EXPECT_EQ(decodeSession(contentOf(folder.path("state/previous.pbs")))->desk.runs.size(), 4U)
+        << "each visit leaves its desk, and the one before stays";
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path("state")), {}), 2);
 }
 
 TEST(Recovery, TellsAFullDiskAndAFolderThatCannotBeWritten) {
@@ -364,9 +398,13 @@ TEST(Recovery, TellsAFullDiskAndAFolderThatCannotBeWritten) {
         EXPECT_FALSE(recovery.flush());
         EXPECT_FALSE(trouble.empty());
     }
-    recovery.finish(work);
-    EXPECT_TRUE(trouble.empty());
-    EXPECT_EQ(decodeSession(*recovery.last())->desk, work.desk);
+    std::filesystem::remove_all(folder.path("state"));
+    recovery.keep(work);
+    EXPECT_TRUE(recovery.flush()) << "the folder is made anew";
+    const FailingDisk full(1000);
+    recovery.finish({WorkingUser(1).desk(), ""});
+    EXPECT_EQ(decodeSession(*recovery.last())->desk, work.desk) << "the last that could be kept";
+    EXPECT_FALSE(Recovery(folder.path("state"), told).abandoned()) << "it was an orderly end";
 }
 
 } // namespace
