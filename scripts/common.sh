@@ -1,6 +1,6 @@
 # What the scripts share. First what each needs of the system, as Debian 12 packages.
 
-packages_build="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libhwy-dev"
+packages_build="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libhwy-dev nlohmann-json3-dev"
 # Metric twins of the fonts that the forms ask for.
 packages_program="fonts-liberation fonts-dejavu-core"
 packages_test="libgtest-dev python3 locales xvfb xauth poppler-utils"

@@ -28,12 +28,13 @@ MAY_SEE = {
     "results": GROUND | {"engine", "printing", "files"},
     "mainform": LOGIC,
     "run": LOGIC | {"mainform"},
-    "shell": LOGIC | {"mainform", "run"},
-    "qt": LOGIC | {"mainform", "run", "shell"},
+    "sessions": LOGIC | {"mainform"},
+    "shell": LOGIC | {"mainform", "run", "sessions"},
+    "qt": LOGIC | {"mainform", "run", "sessions", "shell"},
     # Around the program.
     "docs": {"engine", "shots"},
-    "fuzz": LOGIC | {"mainform", "run", "shell", "qt"},
-    "bench": LOGIC | {"mainform", "run", "shell", "qt"},
+    "fuzz": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
+    "bench": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
 }
 SEES_QT = {"qt", "fuzz", "bench"}
 # Files outside the folders above that may do what their folder may not.
