@@ -16,6 +16,7 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <vector>
 
@@ -41,6 +42,7 @@ struct Silent : MessageBoxes, FileDialog, PreferencesStore, Desktop, EventLoop, 
         return {};
     }
     void openHelp() override {}
+    void openHelpPage(std::string_view) override {}
     void openAddress(std::string_view) override {}
     void yield() override { timer->Tick(); }
     PageSize paper() override { return {}; }
@@ -52,7 +54,8 @@ struct Silent : MessageBoxes, FileDialog, PreferencesStore, Desktop, EventLoop, 
 
 /// The main form with a number of data sets, each another wind so that no curve hides another.
 struct LoadedForm {
-    explicit LoadedForm(int dataSets) {
+    explicit LoadedForm(int dataSets, const std::string& stateFolder = {})
+        : main{{services, services, services, services, services, "/", {stateFolder}}} {
         services.timer = &main.form.Timer1;
         main.Form_Load();
         main.plot.Form_Resize({20000, 12000, 300}, false);
@@ -63,7 +66,7 @@ struct LoadedForm {
         }
     }
     Silent services;
-    frmMain main{{services, services, services, services, services, "/"}};
+    frmMain main;
 };
 
 /// The yardstick of a benchmark: its flights by the bare loop.
@@ -191,6 +194,24 @@ void pressRun(benchmark::State& state) {
     }
 }
 
+/// What an action costs the form when it has ended and changed something: the desk with 24 data
+/// sets is taken, compared and handed to the thread that writes it. With `synced` up to the file on
+/// the disk, which the form doesn't wait for.
+void keepDesk(benchmark::State& state) {
+    const bool synced = state.range(0) != 0;
+    const auto folder = std::filesystem::temp_directory_path() / "parabolt-bench-state";
+    {
+        LoadedForm loaded(24, folder.string());
+        for (auto _ : state) {
+            loaded.main.form.shot.WindSpeed += 1;
+            loaded.main.sessions.actionEnded();
+            if (synced)
+                loaded.main.sessions.isSafe();
+        }
+    }
+    std::filesystem::remove_all(folder);
+}
+
 /// From a change of the shot to the painted coarse map, at a density of the screen.
 void mapFirstPicture(benchmark::State& state) {
     constexpr QSize kSize(700, 560);
@@ -253,6 +274,12 @@ BENCHMARK(bareBatch)->Unit(benchmark::kMicrosecond);
 BENCHMARK(batch)->Unit(benchmark::kMicrosecond);
 BENCHMARK(draw)->ArgsProduct({{1, 12, 24}, {1, 2}})->Unit(benchmark::kMicrosecond);
 BENCHMARK(pressRun)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(keepDesk)
+    ->ArgName("synced")
+    ->Arg(0)
+    ->Arg(1)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseRealTime();
 BENCHMARK(mapFirstPicture)->Arg(1)->Arg(2)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(openMainForm)->Unit(benchmark::kMillisecond)->Iterations(10);
 BENCHMARK(openClubEditor)->Unit(benchmark::kMillisecond)->Iterations(10);

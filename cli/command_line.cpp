@@ -5,6 +5,7 @@
 #include "cli/fly_command.h"
 #include "cli/map_command.h"
 #include "cli/normalise_command.h"
+#include "cli/session_command.h"
 #include "cli/study_command.h"
 #include "numbers/text_number.h"
 
@@ -115,6 +116,7 @@ public:
         addStudy();
         addClubs();
         addNormalise();
+        addSession();
     }
 
     int run(std::vector<std::string> arguments) {
@@ -244,6 +246,14 @@ private:
         addFormat(app, normalise_.format);
     }
 
+    void addSession() {
+        CLI::App& app = add(app_, "session", "Write the data sets that a session file holds",
+                            session_, sessionCommand);
+        app.add_option("FILE", session_.file, "The file; - or nothing for the standard input");
+        addFormat(app, session_.format);
+        addPath(app, session_.path);
+    }
+
     const Console& console_;
     CLI::App app_{"Flies golf shots without a window, for scripts and spreadsheets.",
                   "parabolt-cli"};
@@ -253,6 +263,7 @@ private:
     StudyOptions study_;
     ClubsOptions clubs_;
     NormaliseOptions normalise_;
+    SessionOptions session_;
     std::function<ExitStatus()> run_;
 };
 

@@ -67,7 +67,8 @@ std::string_view storedName(ClubId club) {
             names.emplace(each, usualName(each));
         return names;
     }();
-    return kNames.at(club);
+    const auto found = kNames.find(club);
+    return found != kNames.end() ? std::string_view(found->second) : std::string_view();
 }
 
 } // namespace
@@ -107,9 +108,14 @@ std::vector<Cell> shotCells(const FlownShot& flown) {
     cells.emplace_back(ofSet ? storedName({!shot.IsWood, shot.ClubNo}) : std::string_view());
     cells.emplace_back(modeCode(shot.Mode));
     appendLaunch(cells, shot);
-    appendFigures(cells, outcomeOf(flown.record));
-    cells.emplace_back(flown.record.ImpactSpeed);
-    cells.emplace_back(flown.record.ImpactSpin);
+    if (flown.record.CarryTime > 0) {
+        appendFigures(cells, outcomeOf(flown.record));
+        cells.emplace_back(flown.record.ImpactSpeed);
+        cells.emplace_back(flown.record.ImpactSpin);
+    } else {
+        appendNoFigures(cells);
+        cells.resize(cells.size() + kImpact.size());
+    }
     for (const ShotInput& input : shotInputs())
         if (input.of != ShotInput::Of::Launch)
             std::visit([&](auto member) { cells.emplace_back(shot.*member); }, input.member);

@@ -21,7 +21,7 @@ void appendLaunch(std::vector<Cell>& cells, const ShotInputs& shot);
 
 /// A flown shot with all that the form's table of results has of it, and more.
 std::span<const Column> shotColumns();
-/// The cells of a flown shot; its texts live as long as the shot, or for ever.
+/// The cells of a flown shot; without figures if the flight failed. Its texts live for ever.
 std::vector<Cell> shotCells(const FlownShot& flown);
 
 /// The points of a path.

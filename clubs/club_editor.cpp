@@ -57,6 +57,7 @@ bool ClubEditor::ValidateClubGrids() {
 }
 
 void ClubEditor::ApplyClubGrids() {
+    Applying();
     everyCell(form_, [this](ClubKind kind, int row, int col, double value) {
         clubField(clubs_, kind, row, col) = store32(value);
         return true;

@@ -35,6 +35,8 @@ public:
     /// Closes open edit boxes and puts what they hold into their cells.
     void settle();
 
+    Event<> Applying; ///< the club set is about to change
+
     /// Asks about edits that aren't applied, and applies them if the user wants. False if the form
     /// must stay open. The view asks before it closes, however it is being closed.
     [[nodiscard]] bool queryUnload();

@@ -18,6 +18,7 @@ struct ClubTables {
     std::string Comment;
     std::array<ClubRecord, 15> Irons{};
     std::array<ClubRecord, 11> Woods{};
+    friend bool operator==(const ClubTables&, const ClubTables&) = default;
 };
 
 /// The default set.

@@ -17,11 +17,16 @@ OptionButton::OptionButton(ControlSet& form, OptionGroup& group, std::string_vie
 void OptionButton::select() {
     if (selected_)
         return;
+    Choosing();
+    lay();
+    Click();
+}
+
+void OptionButton::lay() {
     for (OptionButton* other : group_.buttons_)
         other->deselect();
     selected_ = true;
     viewChanged();
-    Click();
 }
 
 void OptionButton::deselect() {
@@ -54,9 +59,14 @@ void DropDownList::setItems(std::vector<std::string> items) {
 void DropDownList::select(int index) {
     if (listIndex_ == index)
         return;
+    Choosing();
+    lay(index);
+    Click();
+}
+
+void DropDownList::lay(int index) {
     listIndex_ = index;
     viewChanged();
-    Click();
 }
 
 std::string DropDownList::text() const {

@@ -26,9 +26,12 @@ public:
     /// Selects the button and takes the selection from the others of its group. Raises `Click`,
     /// from code as from the user, if the button wasn't selected before.
     void select();
+    /// The same without an event, where its consequences are laid beside it.
+    void lay();
 
     bool takesFocus() const override { return true; }
 
+    Event<> Choosing; ///< another button is about to be selected: all is still as it was
     Event<> Click;
 
 private:
@@ -67,6 +70,8 @@ public:
     int listIndex() const { return listIndex_; }
     /// Selects an entry that the list has. Raises `Click` if another or none was selected before.
     void select(int index);
+    /// The same without an event, where its consequences are laid beside it.
+    void lay(int index);
     /// The selected entry; empty if none is.
     std::string text() const;
     /// Index of an entry; -1 if the list doesn't have it.
@@ -74,6 +79,7 @@ public:
 
     bool takesFocus() const override { return true; }
 
+    Event<> Choosing; ///< another entry is about to be selected: all is still as it was
     Event<> Click;
 
 private:

@@ -1,16 +1,27 @@
 #include "controls/rich_text_box.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace parabolt {
 
 RichTextBox::RichTextBox(ControlSet& form, std::string_view name) : Control(form, name) {}
+
+void RichTextBox::replace(const ColouredTexts& content, std::size_t caret) {
+    clear();
+    for (const ColouredText& piece : content)
+        insert(text_.size(), piece.text, piece.colour);
+    setCaret(caret);
+    if (onCaret)
+        onCaret(caret_);
+}
 
 void RichTextBox::clear() {
     caret_ = 0;
     if (text_.empty())
         return;
     text_.clear();
+    content_.clear();
     if (onClear)
         onClear();
     Change();
@@ -19,13 +30,27 @@ void RichTextBox::clear() {
 void RichTextBox::insert(std::size_t position, std::string_view text, Rgb colour) {
     position = std::min(position, text_.size());
     text_.insert(position, text);
+    insertContent(position, {std::string(text), colour});
     caret_ = position + text.size();
     if (onInsert)
         onInsert(position, std::string(text), colour);
     Change();
 }
 
+void RichTextBox::insertContent(std::size_t position, const ColouredText& piece) {
+    auto at = content_.begin();
+    for (; at != content_.end() && position >= at->text.size(); ++at)
+        position -= at->text.size();
+    if (position > 0) {
+        ColouredText rest{at->text.substr(position), at->colour};
+        at->text.resize(position);
+        at = content_.insert(std::next(at), std::move(rest));
+    }
+    content_.insert(at, piece);
+}
+
 void RichTextBox::setSelColor(Rgb colour) {
+    selColor_ = colour;
     if (onSelColor)
         onSelColor(colour);
 }
@@ -57,11 +82,18 @@ void RichTextBox::scroll(int lines) {
 
 void RichTextBox::setCaret(std::size_t position) {
     caret_ = std::min(position, text_.size());
+    selColor_.reset();
 }
 
-void RichTextBox::edited(std::string_view text, std::size_t caret) {
+void RichTextBox::edited(ColouredTexts content, std::size_t caret) {
+    std::string text;
+    for (const ColouredText& piece : content)
+        text += piece.text;
     const bool differs = text_ != text;
-    text_ = text;
+    if (differs)
+        Editing(text);
+    text_ = std::move(text);
+    content_ = std::move(content);
     setCaret(caret);
     if (differs)
         Change();

@@ -47,6 +47,8 @@ public:
     virtual ~Desktop() = default;
     /// Shows the manual at its first page.
     virtual void openHelp() = 0;
+    /// Shows the manual at the page of a file, such as "map.html".
+    virtual void openHelpPage(std::string_view file) = 0;
     /// Hands an address to what serves its scheme: a web page to the user's browser, "callto:name"
     /// to the program that calls.
     virtual void openAddress(std::string_view address) = 0;

@@ -3,6 +3,8 @@
 namespace parabolt {
 
 void CaptionedControl::changeCaption(std::string caption) {
+    if (caption_ == caption)
+        return;
     caption_ = std::move(caption);
     viewChanged();
 }

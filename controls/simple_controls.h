@@ -60,6 +60,7 @@ public:
         : CaptionedControl(form, name, caption, whileBusy),
           first_(first) {}
     First first() const { return first_; }
+    void setCaption(std::string caption) { changeCaption(std::move(caption)); }
     Event<> Click;
 
 private:

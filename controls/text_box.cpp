@@ -15,11 +15,15 @@ void TextBox::setText(std::string_view text) {
         text = text.substr(0, characterStart(text, maxLength_));
     if (text_ == text)
         return;
+    layText(text);
+    Change();
+}
+
+void TextBox::layText(std::string_view text) {
     text_ = text;
     selStart_ = 0;
     selLength_ = 0;
     viewChanged();
-    Change();
 }
 
 void TextBox::setMaxLength(std::size_t characters) {

@@ -35,6 +35,8 @@ public:
     /// Puts a text into the box, the caret at its start. Raises `Change` if it differs from the
     /// present one, and nothing if it is equal. The view calls it too, for what the user types.
     void setText(std::string_view text);
+    /// The same without a `Change`, where its consequences are laid beside it.
+    void layText(std::string_view text);
 
     /// Cuts the present text and each later one to that many characters; 0 lifts the limit.
     void setMaxLength(std::size_t characters);

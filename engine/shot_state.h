@@ -90,6 +90,8 @@ struct RunRecord {
     float Bending = 0;
     std::int16_t Mode = 0; ///< operating mode at the run, 0 to 4
     bool IsWood = false;
+
+    friend bool operator==(const RunRecord&, const RunRecord&) = default;
 };
 
 } // namespace parabolt

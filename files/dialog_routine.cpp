@@ -17,13 +17,12 @@ struct DialogRule {
     std::string_view filter;
     std::array<std::string_view, 3> endings; ///< in lower case, without a dot; all but one may lack
     std::string_view refusal;
-    std::string_view suggestion = {}; ///< a name to start with
 };
 
 constexpr std::string_view kCannotOpen = "The file type is not correct!";
 constexpr std::string_view kCannotSave = "The file type is not support!";
 
-constexpr std::array<DialogRule, 7> kRules{{
+constexpr std::array<DialogRule, 9> kRules{{
     {DialogPurpose::OpenParameters,
      &FileDialog::showOpen,
      "Open Parameters File",
@@ -59,15 +58,25 @@ constexpr std::array<DialogRule, 7> kRules{{
      "Save Carry Map As Picture",
      "PNG Picture(*.png)|*.png|SVG Drawing(*.svg)|*.svg|PDF Document(*.pdf)|*.pdf",
      {"png", "svg", "pdf"},
-     kCannotSave,
-     "carry map.png"},
+     kCannotSave},
     {DialogPurpose::SaveMapTable,
      &FileDialog::showSave,
      "Export Carry Map As Table",
      "Comma-Separated Values(*.csv)|*.csv",
      {"csv"},
-     kCannotSave,
-     "carry map.csv"},
+     kCannotSave},
+    {DialogPurpose::OpenSession,
+     &FileDialog::showOpen,
+     "Open Session",
+     "Session(*.pbs)|*.pbs",
+     {"pbs"},
+     kCannotOpen},
+    {DialogPurpose::SaveSession,
+     &FileDialog::showSave,
+     "Save Session",
+     "Session(*.pbs)|*.pbs",
+     {"pbs"},
+     kCannotSave},
 }};
 
 constexpr std::string_view kAppName = "Parabolt";
@@ -92,7 +101,8 @@ DialogRoutine::DialogRoutine(FileDialog& dialog, PreferencesStore& preferences,
       messages_(messages),
       applicationFolder_(std::move(applicationFolder)) {}
 
-Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work) {
+Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& work,
+                                          std::string_view suggestedName) {
     const DialogRule& rule = ruleOf(purpose);
     const auto lastPath = GetRegString(preferences_, kAppName, "startup", kLastPath, "");
     if (!lastPath)
@@ -100,7 +110,7 @@ Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& wor
     dialog_.initialFolder = lastPath->empty() ? applicationFolder_ : *lastPath;
     dialog_.title = rule.title;
     dialog_.filter = rule.filter;
-    dialog_.suggestedName = rule.suggestion;
+    dialog_.suggestedName = suggestedName;
     (dialog_.*rule.show)();
 
     if (const std::string fileName = dialog_.fileName; !fileName.empty()) {

@@ -16,7 +16,9 @@ enum class DialogPurpose {
     OpenClubs,
     SaveClubs,
     SaveMapPicture,
-    SaveMapTable
+    SaveMapTable,
+    OpenSession,
+    SaveSession,
 };
 
 /// What all file dialogs of the program have in common: they start in the folder where the last one
@@ -35,8 +37,10 @@ public:
     /// Shows the dialog. A name with a right ending goes to `work`, any other is refused with a
     /// message; a cancel does neither. In the end the dialog's folder is remembered. A failure, of
     /// the work or of the preferences, ends the routine where it happens: what follows isn't done,
-    /// and what has been done stays done.
-    Outcome<void, Failure> run(DialogPurpose purpose, const Work& work);
+    /// and what has been done stays done. `suggestedName` is what a dialog for saving offers; the
+    /// names that it gives have endings then.
+    Outcome<void, Failure> run(DialogPurpose purpose, const Work& work,
+                               std::string_view suggestedName = {});
 
 private:
     FileDialog& dialog_;

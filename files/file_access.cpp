@@ -158,6 +158,18 @@ Outcome<Bytes, Failure> readFileStart(const std::string& fileName, std::size_t m
     return Bytes(data.begin(), data.end());
 }
 
+Outcome<std::string, Failure> readFile(const std::string& fileName, std::size_t most) {
+    if (holdsZero(fileName))
+        return failure(std::make_error_code(std::errc::invalid_argument));
+    SystemFile file(fileName, Open::ForReading);
+    const std::optional<struct ::stat> status = file.status();
+    std::string data =
+        file.read(status ? std::min(static_cast<std::size_t>(status->st_size), most) : 0);
+    if (file.error)
+        return failure(file.error);
+    return data;
+}
+
 Outcome<void, Failure> writeFileStart(const std::string& fileName, const Bytes& data) {
     return write(fileName, std::string(data.begin(), data.end()), Tail::Kept);
 }

@@ -22,6 +22,9 @@ namespace parabolt {
 /// file that doesn't exist comes into being, empty.
 Outcome<Bytes, Failure> readFileStart(const std::string& fileName, std::size_t most);
 
+/// The whole of a regular file, at most that many bytes. It is opened for reading only.
+Outcome<std::string, Failure> readFile(const std::string& fileName, std::size_t most);
+
 /// Writes over the beginning of a file and leaves what stands behind; creates the file if needed.
 Outcome<void, Failure> writeFileStart(const std::string& fileName, const Bytes& data);
 

@@ -21,13 +21,14 @@ SystemFile::SystemFile(const fs::path& name, Open how, ::mode_t permissions) {
                                                              : std::errc::not_supported);
         return;
     }
-    constexpr int kFlags = O_RDWR | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    const int access = how == Open::ForReading ? O_RDONLY : O_RDWR;
+    const int flags = access | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const int exclusive = how == Open::New ? O_EXCL : 0;
     if (how != Open::New)
-        descriptor_ = ::open(name.c_str(), kFlags);
+        descriptor_ = ::open(name.c_str(), flags);
     // Only now: in a folder of many users the system refuses to create what another one owns.
     if (how == Open::New || (how == Open::OrNew && descriptor_ < 0 && errno == ENOENT))
-        descriptor_ = ::open(name.c_str(), kFlags | O_CREAT | exclusive, permissions);
+        descriptor_ = ::open(name.c_str(), flags | O_CREAT | exclusive, permissions);
     note(descriptor_ >= 0);
     if (const auto opened = status(); opened && !S_ISREG(opened->st_mode))
         error = std::make_error_code(std::errc::not_supported);

@@ -14,12 +14,13 @@ namespace parabolt {
 /// tells why, and stays so.
 class SystemFile {
 public:
-    enum class Open { Existing, OrNew, New }; ///< `New` fails where there is a file
-    enum class Mark { Ours, Others, None };   ///< `None` where files can't be marked
+    /// `New` fails where there is a file. A file opened `ForReading` is there, and stays as it is.
+    enum class Open { ForReading, Existing, OrNew, New };
+    enum class Mark { Ours, Others, None }; ///< `None` where files can't be marked
 
-    /// Opens a file for reading and writing. One that comes into being gets those permissions, less
-    /// what the user's mask takes away. Whatever is no ordinary file fails with `not_supported` or,
-    /// if it is a folder, with `is_a_directory`.
+    /// Opens a file, for reading and writing unless told otherwise. One that comes into being gets
+    /// those permissions, less what the user's mask takes away. Whatever is no ordinary file fails
+    /// with `not_supported` or, if it is a folder, with `is_a_directory`.
     SystemFile(const std::filesystem::path& name, Open how, ::mode_t permissions = 0666);
     ~SystemFile();
     SystemFile(const SystemFile&) = delete;

@@ -1,13 +1,21 @@
 // A random user of the whole program: keys, clicks, texts, dialogs, files good and broken. Ends
 // with a message at the first inconsistency; the sanitizers, where they are built in, see the rest.
-// Call: parabolt_random_user [SEED [EVENTS]]     the same seed makes the same user
+// Call: parabolt_random_user [SEED [EVENTS [FOLDER]]]     the same seed makes the same user
+//       parabolt_random_user --reopen FOLDER
+// With a FOLDER the user lives there, and tells in FOLDER/desks what each action made of the desk:
+// a line when it has ended, and one when the desk is safe. The second call opens what a user who
+// was killed left, and prints it the same way; fuzz/kill_users.py compares.
 #include "qt/program.h"
+#include "sessions/form_desk.h"
+#include "sessions/session_codec.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
@@ -19,15 +27,26 @@
 namespace parabolt {
 namespace {
 
+/// Tells desks apart, whatever the time.
+unsigned long long fingerprint(const MainForm& form) {
+    return std::hash<std::string>()(encodeSession({takeDesk(form), {}}));
+}
+
 /// A user without sense but with a seed: keys, clicks, texts and files, in whatever window is in
 /// front. Acts once each time that the event loop comes round, dialogs' own loops included.
 class RandomUser : public QObject {
 public:
-    RandomUser(const MainForm& form, std::uint32_t seed, long events, QString folder)
-        : form_(form),
+    RandomUser(Program& program, std::uint32_t seed, long events, QString folder, bool keepsDesks)
+        : program_(program),
+          form_(program.mainForm()),
           dice_(seed),
           left_(events),
-          folder_(std::move(folder)) {}
+          folder_(std::move(folder)),
+          desks_(keepsDesks ? std::fopen(qPrintable(folder_ + "/desks"), "w") : nullptr) {}
+    ~RandomUser() override {
+        if (desks_ != nullptr)
+            std::fclose(desks_);
+    }
 
     void run() {
         QTimer::singleShot(0, this, [this] { act(); });
@@ -60,12 +79,26 @@ private:
         if (--left_ <= 0)
             return QApplication::exit();
         QTimer::singleShot(0, this, [this] { act(); });
+        actInFront();
+        tellDesk("ended");
+    }
+
+    void actInFront() {
         QWidget* window = front();
         if (window == nullptr)
             return;
         if (!window->isActiveWindow()) // no window manager does it
             window->activateWindow();
         check();
+        if (desks_ != nullptr && QApplication::activeModalWidget() == nullptr &&
+            !form_.Timer1.enabled()) {
+            tellDesk("ended");
+            const bool safe = program_.isSafe();
+            if (safe)
+                tellDesk("safe");
+            unsafe_ = safe ? 0 : unsafe_ + 1;
+            require(unsafe_ < 50, "the desk isn't kept");
+        }
         if (form_.Timer1.enabled() && roll(20) == 0) // or most would happen in studies and batches
             return QTest::keyClick(window, Qt::Key_Escape);
         if (auto* dialog = qobject_cast<QFileDialog*>(window)) {
@@ -79,10 +112,7 @@ private:
         const QList<QWidget*> all = window->findChildren<QWidget*>();
         QWidget* widget =
             all.isEmpty() || roll(6) == 0 ? window : all[roll(static_cast<int>(all.size()))];
-        // The check counts the rows of the table: nobody types there.
-        const auto* table = window->findChild<QWidget*>("txtResult");
-        if (!widget->isVisible() || widget == table ||
-            (table != nullptr && table->isAncestorOf(widget)))
+        if (!widget->isVisible() || (desks_ == nullptr && isInTable(*window, *widget)))
             return;
         if (auto* edit = qobject_cast<QLineEdit*>(widget); edit != nullptr && roll(2) == 0)
             QTest::keyClicks(edit,
@@ -96,13 +126,19 @@ private:
             pressKey(*widget);
     }
 
+    /// The check counts the rows of the table: nobody types there while it does.
+    static bool isInTable(const QWidget& window, const QWidget& widget) {
+        const auto* table = window.findChild<QWidget*>("txtResult");
+        return &widget == table || (table != nullptr && table->isAncestorOf(&widget));
+    }
+
     void pressKey(QWidget& widget) {
         const auto key = pick<int>(
             {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Return,    Qt::Key_Escape, Qt::Key_Space,
              Qt::Key_Up,  Qt::Key_Down,    Qt::Key_Left,      Qt::Key_Right,  Qt::Key_F2,
              Qt::Key_F5,  Qt::Key_F10,     Qt::Key_Backspace, Qt::Key_R,      Qt::Key_D,
              Qt::Key_P,   Qt::Key_S,       Qt::Key_O,         Qt::Key_E,      Qt::Key_Y,
-             Qt::Key_N,   Qt::Key_7});
+             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T});
         const auto modifier = pick<Qt::KeyboardModifiers>(
             {Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier});
         QTest::keyClick(&widget, static_cast<Qt::Key>(key), modifier);
@@ -110,9 +146,10 @@ private:
 
     void nameFile(QWidget& dialog) {
         if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit"))
-            name->setText(folder_ + pick<const char*>({"/good.opt", "/short.opt", "/noise.clb",
-                                                       "/new.clb", "/table.txt", "/report.pdf",
-                                                       "/nowhere/x.opt", "/plain"}));
+            name->setText(folder_ +
+                          pick<const char*>({"/good.opt", "/short.opt", "/noise.clb", "/new.clb",
+                                             "/table.txt", "/report.pdf", "/nowhere/x.opt",
+                                             "/plain", "/a.pbs", "/b"}));
         QTest::keyClick(&dialog, Qt::Key_Return);
     }
 
@@ -122,9 +159,16 @@ private:
         const int sets = form_.Runs.count();
         require(sets == runNumber(form_), "the counter shows another number of data sets");
         require(sets <= 24, "there are more than 24 data sets");
-        if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr)
+        if (desks_ == nullptr && !form_.Timer1.enabled() &&
+            QApplication::activeModalWidget() == nullptr)
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
+    }
+    void tellDesk(const char* what) const {
+        if (desks_ == nullptr)
+            return;
+        std::fprintf(desks_, "%s %016llx\n", what, fingerprint(form_));
+        std::fflush(desks_);
     }
     void require(bool holds, const char* fault) const {
         if (holds)
@@ -133,10 +177,13 @@ private:
         std::exit(EXIT_FAILURE);
     }
 
+    Program& program_;
     const MainForm& form_;
     std::mt19937 dice_;
     long left_;
     QString folder_;
+    std::FILE* desks_;
+    int unsafe_ = 0; ///< looks in a row that found the desk unsafe
 };
 
 void putFile(const QString& name, const QByteArray& content) {
@@ -145,29 +192,53 @@ void putFile(const QString& name, const QByteArray& content) {
         qFatal("Cannot write %s.", qPrintable(name));
 }
 
+/// Answers Yes to the question of the next start, and prints the desk.
+int reopen() {
+    Program program;
+    program.showMainForm();
+    QTimer yes;
+    QObject::connect(&yes, &QTimer::timeout, [] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
+            box->button(QMessageBox::Yes)->click();
+    });
+    yes.start(5);
+    // Behind the timer that asks.
+    QTimer::singleShot(0, [] { QTimer::singleShot(0, [] { QApplication::exit(); }); });
+    QApplication::exec();
+    std::printf("%016llx\n", fingerprint(program.mainForm()));
+    return EXIT_SUCCESS;
+}
+
 } // namespace
 } // namespace parabolt
 
 int main(int argc, char** argv) {
     using namespace parabolt;
-    const QTemporaryDir folder;
-    for (const char* home : {"HOME", "XDG_CONFIG_HOME"}) // a home and preferences of its own
-        qputenv(home, folder.path().toUtf8());
+    const bool reopens = argc == 3 && std::string_view(argv[1]) == "--reopen";
+    const QTemporaryDir temporary;
+    const QString folder = reopens    ? QString(argv[2])
+                           : argc > 3 ? QString(argv[3])
+                                      : temporary.path();
+    // a home, preferences and a state of its own
+    for (const char* home : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+        qputenv(home, folder.toUtf8());
     qputenv("CUPS_SERVER", "/nonexistent"); // it must not reach a printer
     QApplication application(argc, argv);
+    if (reopens)
+        return reopen();
     const auto seed = static_cast<std::uint32_t>(argc > 1 ? std::atol(argv[1]) : 1);
     const long events = argc > 2 ? std::atol(argv[2]) : 1500;
     std::printf("parabolt_random_user %u %ld\n", seed, events);
     std::fflush(stdout);
-    putFile(folder.filePath("good.opt"), QByteArray(66, '\0'));
-    putFile(folder.filePath("short.opt"), "short");
-    putFile(folder.filePath("noise.clb"), QByteArray(900, '\x7F'));
+    putFile(folder + "/good.opt", QByteArray(66, '\0'));
+    putFile(folder + "/short.opt", "short");
+    putFile(folder + "/noise.clb", QByteArray(900, '\x7F'));
     QTextBrowser nowhere; // takes the addresses that would leave the program
     for (const char* scheme : {"http", "https", "callto"})
         QDesktopServices::setUrlHandler(scheme, &nowhere, "setSource");
     Program program;
     program.showMainForm();
-    RandomUser(program.mainForm(), seed, events, folder.path()).run();
+    RandomUser(program, seed, events, folder, argc > 3).run();
     for (const char* scheme : {"http", "https", "callto"})
         QDesktopServices::unsetUrlHandler(scheme);
     return EXIT_SUCCESS;

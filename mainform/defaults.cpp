@@ -68,6 +68,7 @@ void Defaults::mnuReset_Click() {
     if (!messages_.ask(
             "Do you want to replace the current Swing, Club, and Environment parameters?"))
         return;
+    form_.Wiping();
     SetSwingDefaults();
     SetClubDefaults();
     SetEnvironmentDefaults();

@@ -9,6 +9,7 @@
 #include "plots/curves.h"
 #include "shots/run_book.h"
 
+#include <map>
 #include <string>
 
 namespace parabolt {
@@ -23,6 +24,8 @@ inline constexpr std::string_view kApplicationTitle = "Parabolt";
 struct FormCore {
     ControlSet controls;
     Focus focus;
+    /// Something is about to wipe or overwrite what stands on the form: all is still as it was.
+    Event<> Wiping;
 };
 
 /// The title, and what counts, scales, starts and clears the data sets.
@@ -138,6 +141,11 @@ struct MenuControls : virtual FormCore {
     MenuItem mnuPrint{controls, "mnuPrint", "&Print"};
     MenuItem mnuExit{controls, "mnuExit", "E&xit", WhileBusy::Free,
                      MenuItem::First::WaitsForNothing};
+    MenuItem mnuOpenSession{controls, "mnuOpenSession", "Op&en Session..."};
+    MenuItem mnuSaveSession{controls, "mnuSaveSession", "Sa&ve Session..."};
+    MenuItem mnuReopenSession{controls, "mnuReopenSession", "Reopen &Last Session"};
+    MenuItem mnuGoBack{controls, "mnuGoBack", "Go &Back"};
+    MenuItem mnuRewriteTable{controls, "mnuRewriteTable", "Rewrite &Table"};
     MenuItem mnuDefault{controls, "mnuDefault", "&DefaultClub"};
     MenuItem mnuStudies{controls, "mnuStudies", "&Studies", WhileBusy::Free};
     MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
@@ -156,6 +164,10 @@ struct InputControls : RunControls, ShotControls {};
 /// The whole form.
 struct MainForm : InputControls, ResultControls, MenuControls {
     ClubTables clubs;
+    std::string reportCaption;      ///< what was typed last into `txtCaption` of the print view
+    bool reportCaptionLaid = false; ///< it came with a desk: the next print view begins with it
+    /// State of windows that are no forms, by the names of the windows; each knows its own.
+    std::map<std::string, std::string> windows;
     bool blFormLoaded = false; ///< read by the splash: is there a main form already?
     std::string caption{kApplicationTitle};
     std::function<void()> onCaption; ///< set by the view

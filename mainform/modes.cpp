@@ -67,6 +67,30 @@ void setEnabled(ShotControls& form, const Controls& controls, bool enabled) {
         control(form).setEnabled(enabled);
 }
 
+void giveClubParameters(ShotControls& form, bool given) {
+    setEnabled(form, kClubParameters, given);
+    if (given)
+        setEnabled(form, kBallFrame, true);
+}
+
+/// Brings the controls into the state of the mode in `txtMode`, row by row. `loadClub` is called in
+/// mode 1, when the list of clubs has been enabled. A text that is no mode changes nothing.
+template <class LoadClub>
+void walkModeTable(ShotControls& form, LoadClub loadClub) {
+    const int mode = operatingMode(form);
+    if (mode != leadingNumber(form.txtMode.text()) || mode < OperatingMode::Launch ||
+        mode > OperatingMode::Actual)
+        return;
+    giveClubParameters(form, mode == OperatingMode::Manual || mode == OperatingMode::Actual);
+    for (const ModeRow& row : kModeTable) {
+        const auto state = row.state.at(static_cast<std::size_t>(mode));
+        if (state != kLeft)
+            row.control(form).setEnabled(state == kOn);
+        if (mode == OperatingMode::Default && &row.control(form) == &form.cmbClubNo)
+            loadClub();
+    }
+}
+
 } // namespace
 
 Modes::Modes(ShotControls& form, ClubChoice& clubs) : form_(form), clubs_(clubs) {
@@ -83,30 +107,19 @@ void Modes::SetAutoMode() {
 }
 
 void Modes::EnableClubParameters() {
-    setEnabled(form_, kClubParameters, true);
-    setEnabled(form_, kBallFrame, true);
+    giveClubParameters(form_, true);
 }
 
 void Modes::DisableClubParameters() {
-    setEnabled(form_, kClubParameters, false);
+    giveClubParameters(form_, false);
 }
 
 void Modes::txtMode_Change() {
-    const int mode = operatingMode(form_);
-    if (mode != leadingNumber(form_.txtMode.text()) || mode < OperatingMode::Launch ||
-        mode > OperatingMode::Actual)
-        return;
-    if (mode == OperatingMode::Manual || mode == OperatingMode::Actual)
-        EnableClubParameters();
-    else
-        DisableClubParameters();
-    for (const ModeRow& row : kModeTable) {
-        const auto state = row.state.at(static_cast<std::size_t>(mode));
-        if (state != kLeft)
-            row.control(form_).setEnabled(state == kOn);
-        if (mode == OperatingMode::Default && &row.control(form_) == &form_.cmbClubNo)
-            clubs_.cmbClubNo_Click();
-    }
+    walkModeTable(form_, [this] { clubs_.cmbClubNo_Click(); });
+}
+
+void enableForMode(ShotControls& form) {
+    walkModeTable(form, [] {});
 }
 
 } // namespace parabolt

@@ -26,4 +26,7 @@ private:
     ClubChoice& clubs_;
 };
 
+/// Enables and disables the controls for the mode in `txtMode`, and does nothing else.
+void enableForMode(ShotControls& form);
+
 } // namespace parabolt

@@ -84,6 +84,7 @@ void ParameterHandlers::mnuOpen_Click() {
         const ParameterRecord record = decodeParameters(*data);
         if (!messages_.ask("Do you want to replace the Club data, and Environment parameters?"))
             return {};
+        form_.Wiping();
         return applyParameters(form_, record);
     };
     if (const auto done = dialogs_.run(DialogPurpose::OpenParameters, load); !done)

@@ -40,6 +40,7 @@ bool ShotEntry::enter(OptionButton& option, OperatingMode::Number mode,
     for (const auto& [field, member] : fields)
         if (!validators_.accepts(form_.*field, double{shot.*member}))
             return false;
+    form_.Wiping();
     option.select();
     form_.txtMode.setText(std::to_string(mode));
     for (const auto& [field, member] : fields) {

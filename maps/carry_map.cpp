@@ -26,24 +26,31 @@ bool CarryMap::follow(const Shot& shot, std::span<const RunRecord> runs) {
 }
 
 void CarryMap::setKind(MapKind kind) {
-    if (kind == request_.kind)
-        return;
-    cross_.reset();
-    marks_.clear(); // until the next look at the form
-    request({request_.shot, kind, rangesFor(kind, request_.shot)});
+    MapChoices choices = choices_;
+    choices.kind = kind;
+    choose(choices);
+}
+
+void CarryMap::choose(const MapChoices& choices) {
+    if (choices.kind != kind()) {
+        cross_.reset();
+        marks_.clear(); // until the next look at the form
+    }
+    choices_ = choices;
+    request({request_.shot, kind(), rangesFor(kind(), request_.shot)});
 }
 
 void CarryMap::setRanges(const MapRanges& ranges) {
     const MapRanges within{ranges.across.within(acrossInput(kind())),
                            ranges.up.within(upInput(kind()))};
-    chosen_[indexOf(kind())] = within;
+    choices_.ranges[indexOf(kind())] = within;
     request({request_.shot, kind(), within});
     if (cross_)
         setCross(*cross_);
 }
 
 void CarryMap::setUsualRanges() {
-    chosen_[indexOf(kind())].reset();
+    choices_.ranges[indexOf(kind())].reset();
     const auto base = baseOf(request_.shot, kind());
     request({request_.shot, kind(), usualRanges(kind(), base ? *base : request_.shot)});
 }
@@ -56,7 +63,7 @@ void CarryMap::request(const MapRequest& request) {
 }
 
 MapRanges CarryMap::rangesFor(MapKind kind, const Shot& shot) const {
-    if (const auto& chosen = chosen_[indexOf(kind)])
+    if (const auto& chosen = choices_.ranges[indexOf(kind)])
         return *chosen;
     const auto base = baseOf(shot, kind);
     const ShotInputs& inputs = base ? *base : shot;
@@ -113,7 +120,7 @@ std::string CarryMap::readout() const {
 }
 
 std::string CarryMap::summary() const {
-    return result_ ? summaryOf(*result_, shown_) : std::string();
+    return result_ ? summaryOf(*result_, shown()) : std::string();
 }
 
 } // namespace parabolt

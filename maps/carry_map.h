@@ -1,8 +1,8 @@
 #pragma once
 
+#include "maps/map_choices.h"
 #include "maps/map_picture.h"
 
-#include <array>
 #include <string>
 
 namespace parabolt {
@@ -15,10 +15,14 @@ public:
     /// Takes over what the main form stands for, and its data sets. True if anything has changed.
     bool follow(const Shot& shot, std::span<const RunRecord> runs);
 
-    MapKind kind() const { return request_.kind; }
+    /// What of the map is chosen, for a later map to take over.
+    const MapChoices& choices() const { return choices_; }
+    void choose(const MapChoices& choices);
+
+    MapKind kind() const { return choices_.kind; }
     void setKind(MapKind kind);
-    MapOutcome shown() const { return shown_; }
-    void show(MapOutcome outcome) { shown_ = outcome; }
+    MapOutcome shown() const { return choices_.shown; }
+    void show(MapOutcome outcome) { choices_.shown = outcome; }
 
     const MapRanges& ranges() const { return request_.ranges; }
     /// Ranges of the user's choice for this kind of map, brought into the limits of the inputs.
@@ -56,8 +60,7 @@ private:
     MapRanges rangesFor(MapKind kind, const Shot& shot) const;
 
     MapRequest request_{{}, MapKind::Launch, usualRanges(MapKind::Launch, {})};
-    std::array<std::optional<MapRanges>, 2> chosen_; ///< by the user, for each kind
-    MapOutcome shown_ = MapOutcome::Carry;
+    MapChoices choices_;
     std::uint64_t generation_ = 1;
     std::shared_ptr<const MapResult> result_;
     std::vector<DataMark> marks_;

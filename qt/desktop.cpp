@@ -29,6 +29,10 @@ QtDesktop::~QtDesktop() {
 }
 
 void QtDesktop::openHelp() {
+    openHelpPage(kFirstHelpPage);
+}
+
+void QtDesktop::openHelpPage(std::string_view file) {
     if (openCompiledManual())
         return;
     // A modal dialog leaves only its own windows usable: there the manual is one of them.
@@ -37,7 +41,7 @@ void QtDesktop::openHelp() {
         delete help_.data();
         help_ = new HelpWindow(manualFolder(), dialog);
     }
-    help_->showFirstPage();
+    help_->showPage(toQt(std::string(file)));
 }
 
 void QtDesktop::openAddress(std::string_view address) {

@@ -14,6 +14,7 @@ public:
     ~QtDesktop() override;
 
     void openHelp() override;
+    void openHelpPage(std::string_view file) override;
     void openAddress(std::string_view address) override;
 
 private:

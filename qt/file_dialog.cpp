@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <algorithm>
 #include <climits>
 
@@ -24,9 +25,29 @@ QStringList nameFilters(const QString& filter) {
     return filters;
 }
 
+/// The ending of a shown filter of one pattern.
+QString endingOf(const QString& shown) {
+    return shown.section("*.", -1).chopped(1);
+}
+
 } // namespace
 
+/// Of its own accord the dialog takes all behind a name's last dot for an ending.
+void NamingDialog::addEnding() {
+    auto* name = findChild<QLineEdit*>("fileNameEdit");
+    if (name == nullptr || name->text().isEmpty() || defaultSuffix().isEmpty() ||
+        QFileInfo(directory(), name->text()).isDir())
+        return;
+    const QStringList filters = nameFilters();
+    const bool has = std::any_of(filters.begin(), filters.end(), [name](const QString& shown) {
+        return name->text().endsWith("." + endingOf(shown), Qt::CaseInsensitive);
+    });
+    if (!has)
+        name->setText(name->text() + "." + defaultSuffix());
+}
+
 void NamingDialog::accept() {
+    addEnding();
     const QStringList files = selectedFiles();
     const bool tooLong = std::any_of(files.begin(), files.end(), [](const QString& file) {
         return QFile::encodeName(QFileInfo(file).fileName()).size() > NAME_MAX ||
@@ -51,7 +72,7 @@ void QtFileDialog::show(bool save) {
 
     if (!suggestedName.empty()) {
         const auto addEndingOf = [&dialog](const QString& shown) {
-            dialog.setDefaultSuffix(shown.section("*.", -1).chopped(1));
+            dialog.setDefaultSuffix(endingOf(shown));
         };
         dialog.selectFile(toQt(suggestedName));
         addEndingOf(dialog.selectedNameFilter());

@@ -6,13 +6,17 @@
 
 namespace parabolt {
 
-/// A file dialog that says so, and stays, when a name is longer than any file's may be.
+/// A file dialog that adds its default ending to names that have none of its filters', and that
+/// says so, and stays, when a name is longer than any file's may be.
 class NamingDialog : public QFileDialog {
 public:
     using QFileDialog::QFileDialog;
 
 protected:
     void accept() override;
+
+private:
+    void addEnding();
 };
 
 /// A folder in which a dialog can start: the wanted one, or the user's home where that is gone.

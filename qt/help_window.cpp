@@ -20,7 +20,6 @@ namespace parabolt {
 
 namespace {
 
-constexpr auto kFirstPage = "index.html";
 constexpr QSize kStartSize{960, 680};
 constexpr int kHalfLight = 128; ///< of a colour's 255
 constexpr auto kLightStyle = "a { color: #0a58a8; } th { background-color: #e4ebf0; }"
@@ -116,7 +115,7 @@ QToolBar* HelpWindow::makeToolBar() {
     forward->setEnabled(false);
     connect(back, &QAction::triggered, page_, &QTextBrowser::backward);
     connect(forward, &QAction::triggered, page_, &QTextBrowser::forward);
-    connect(home, &QAction::triggered, this, &HelpWindow::showFirstPageText);
+    connect(home, &QAction::triggered, this, [this] { turnTo(kFirstHelpPage); });
     connect(page_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
     connect(page_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
 
@@ -136,8 +135,8 @@ QToolBar* HelpWindow::makeToolBar() {
 void HelpWindow::readPages() {
     page_->setSearchPaths({folder_});
     static const QRegularExpression link("href=\"([a-z_]+\\.html)\"");
-    files_ = {kFirstPage};
-    for (auto found = link.globalMatch(readText(QDir(folder_).filePath(kFirstPage)));
+    files_ = {kFirstHelpPage};
+    for (auto found = link.globalMatch(readText(QDir(folder_).filePath(kFirstHelpPage)));
          found.hasNext();) {
         const QString file = found.next().captured(1);
         if (!files_.contains(file))
@@ -151,22 +150,22 @@ void HelpWindow::readPages() {
     }
 }
 
-void HelpWindow::showFirstPage() {
-    showFirstPageText();
+void HelpWindow::showPage(const QString& file) {
+    turnTo(file);
     show();
     raise();
     activateWindow();
 }
 
-void HelpWindow::showFirstPageText() {
-    if (QFile::exists(QDir(folder_).filePath(kFirstPage))) {
-        page_->setSource(QUrl(kFirstPage));
+void HelpWindow::turnTo(const QString& file) {
+    if (QFile::exists(QDir(folder_).filePath(file))) {
+        page_->setSource(QUrl(file));
         return;
     }
     search_->setEnabled(false);
     contents_->clear();
     page_->setPlainText("The manual is missing: there is no file " +
-                        QDir::toNativeSeparators(QDir(folder_).filePath(kFirstPage)) +
+                        QDir::toNativeSeparators(QDir(folder_).filePath(file)) +
                         ".\n\nInstalling the program again brings it back.");
 }
 

@@ -11,6 +11,9 @@ class QUrl;
 
 namespace parabolt {
 
+/// The page with which the manual begins, and to which all others link.
+inline constexpr auto kFirstHelpPage = "index.html";
+
 /// Where the manual lies: beside the program, or where an installed program has its shared files.
 QString manualFolder();
 
@@ -21,8 +24,8 @@ class HelpWindow : public QWidget {
 public:
     explicit HelpWindow(const QString& folder, QWidget* parent = nullptr);
 
-    /// Shows the window with the first page; without a manual, a message in the page's place.
-    void showFirstPage();
+    /// Shows the window with a page; without a manual, a message in the page's place.
+    void showPage(const QString& file);
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -30,7 +33,7 @@ protected:
 private:
     QToolBar* makeToolBar();
     void readPages();
-    void showFirstPageText();
+    void turnTo(const QString& file);
     void filterPages();
     void openFirstFound();
     void markFound();

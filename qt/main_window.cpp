@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -64,9 +65,20 @@ private:
     Pause& pause_;
 };
 
+QAction* add(QWidget* menu, const MenuItem& item, const QKeySequence& key = {}) {
+    auto* action = new QAction(toQt(item.caption()), menu);
+    action->setObjectName(toQt(item.name()));
+    action->setShortcut(key);
+    action->setMenuRole(QAction::NoRole);
+    menu->addAction(action);
+    return action;
+}
+
 } // namespace
 
-MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
+MainWindow::MainWindow(frmMain& logic)
+    : logic_(logic),
+      watch_([&logic] { logic.sessions.actionEnded(); }) {
     setObjectName("frmMain");
     // Scrolls where a large font leaves the form no room on its screen.
     auto* room = new QScrollArea;
@@ -86,6 +98,10 @@ MainWindow::MainWindow(frmMain& logic) : logic_(logic) {
     buildMenus();
     statusBar()->setObjectName(toQt(logic.form.StatusBar1.name()));
     statusBar()->setSizeGripEnabled(false);
+    unsaved_ = new QLabel("Unsaved", statusBar());
+    unsaved_->setObjectName("lblUnsaved");
+    statusBar()->addPermanentWidget(unsaved_);
+    unsaved_->hide();
 
     progress_ = std::make_unique<ProgressWindow>(this, logic.frmProgress, logic.pause);
     progressBinding_ = std::make_unique<FormBinding>(*progress_, logic.frmProgress.controls,
@@ -109,6 +125,11 @@ MainWindow::~MainWindow() {
     logic_.pause.onRunning = nullptr;
 }
 
+void MainWindow::showKeeping(const QString& trouble) {
+    unsaved_->setToolTip("Your work can't be kept for a recovery: " + trouble);
+    unsaved_->setVisible(!trouble.isEmpty());
+}
+
 void MainWindow::buildPlots() {
     auto* outer = new PictureWidget(logic_.form.Picture1, centre_);
     outer->setAccessibleName("Plot of the flights");
@@ -117,13 +138,6 @@ void MainWindow::buildPlots() {
 
 void MainWindow::buildMenus() {
     MainForm& form = logic_.form;
-    const auto add = [](QWidget* menu, const MenuItem& item, const QKeySequence& key = {}) {
-        auto* action = new QAction(toQt(item.caption()), menu);
-        action->setObjectName(toQt(item.name()));
-        action->setShortcut(key);
-        action->setMenuRole(QAction::NoRole);
-        menu->addAction(action);
-    };
     const auto addMenu = [this](const MenuItem& item) {
         QMenu* menu = menuBar()->addMenu(toQt(item.caption()));
         menu->menuAction()->setObjectName(toQt(item.name()));
@@ -137,6 +151,7 @@ void MainWindow::buildMenus() {
     add(file, form.mnuPrint, QKeySequence::Print);
     file->addSeparator();
     add(file, form.mnuExit, Qt::CTRL | Qt::Key_Q);
+    addSessionMenus(*file);
     add(menuBar(), form.mnuDefault, Qt::CTRL | Qt::Key_D);
     QMenu* studies = addMenu(form.mnuStudies);
     add(studies, form.mnuStyLaunch);
@@ -149,6 +164,25 @@ void MainWindow::buildMenus() {
     add(help, form.mnuSkype);
     help->addSeparator();
     add(help, form.mnuAbout);
+}
+
+/// What keeps the user's work, below what has always been in the menu.
+void MainWindow::addSessionMenus(QMenu& file) {
+    const MainForm& form = logic_.form;
+    file.setToolTipsVisible(true);
+    file.addSeparator();
+    add(&file, form.mnuOpenSession, Qt::CTRL | Qt::SHIFT | Qt::Key_O)
+        ->setToolTip("Lays a saved session on the desk in place of what is there");
+    add(&file, form.mnuSaveSession, Qt::CTRL | Qt::SHIFT | Qt::Key_E)
+        ->setToolTip("Saves all that is on the desk: fields, clubs, data sets, table");
+    add(&file, form.mnuReopenSession, Qt::CTRL | Qt::SHIFT | Qt::Key_T)
+        ->setToolTip("Lays on the desk what was there when the program last ended");
+    file.addSeparator();
+    // A field takes these keys for itself: there they take back what was typed.
+    add(&file, form.mnuGoBack, QKeySequence::Undo)
+        ->setToolTip("Brings back the desk from before the last change that wiped something");
+    add(&file, form.mnuRewriteTable, Qt::CTRL | Qt::Key_T)
+        ->setToolTip("Writes the rows of all data sets anew, in order, under their headings");
 }
 
 void MainWindow::connectLogic() {
@@ -177,6 +211,7 @@ void MainWindow::connectLogic() {
         progress_->setVisible(shown);
     };
     logic_.pause.onRunning = [this](bool running) {
+        watch_.setBusy(running);
         if (running)
             statusBar()->showMessage("Press Esc to stop.");
         else

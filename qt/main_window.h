@@ -1,10 +1,13 @@
 #pragma once
 
+#include "qt/action_watch.h"
 #include "qt/main_layout.h"
 #include "shell/frm_main.h"
 
 #include <QMainWindow>
 #include <memory>
+
+class QLabel;
 
 namespace parabolt {
 
@@ -22,6 +25,10 @@ public:
     explicit MainWindow(frmMain& logic);
     ~MainWindow() override;
 
+    /// Says with one word in the status bar that the desk can't be kept safe, and why in its tip;
+    /// takes the word away for an empty text.
+    void showKeeping(const QString& trouble);
+
 protected:
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -30,6 +37,7 @@ protected:
 
 private:
     void buildMenus();
+    void addSessionMenus(QMenu& file);
     void buildPlots();
     void connectLogic();
     void runInPlace();
@@ -47,6 +55,8 @@ private:
     std::unique_ptr<FormBinding> progressBinding_;
     std::unique_ptr<FormBinding> binding_;
     std::unique_ptr<RichTextBinding> tableBinding_;
+    QLabel* unsaved_ = nullptr; ///< in the status bar
+    ActionWatch watch_;
 };
 
 } // namespace parabolt

@@ -21,11 +21,13 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <algorithm>
 
 namespace parabolt {
 namespace {
 
 constexpr QSize kStartSize{1180, 760};
+constexpr auto kMapWindow = "carryMap";
 constexpr auto kDoubleNote = "Wind and altitude count about double in this model.";
 constexpr auto kKey = "<p><b>Key</b><br>"
                       "Cross: the best point. Outline around it: less than 1 yard behind.<br>"
@@ -81,7 +83,7 @@ MapWindow::MapWindow(frmMain& logic, const FormServices& services)
           QMetaObject::invokeMethod(
               this, [this, result] { accept(result); }, Qt::QueuedConnection);
       }) {
-    setObjectName("carryMap");
+    setObjectName(kMapWindow);
     setWindowTitle(toQt(kApplicationTitle) + " - Carry Map");
     setAttribute(Qt::WA_QuitOnClose, false); // the program ends with the main form
     setLocale(QLocale::c());
@@ -110,12 +112,14 @@ MapWindow::MapWindow(frmMain& logic, const FormServices& services)
 
     connect(kind_, &QComboBox::activated, this, [this](int index) {
         map_.setKind(index == 0 ? MapKind::Launch : MapKind::Swing);
+        keepChoices();
         follow();
         showRanges();
         compute();
     });
     connect(outcome_, &QComboBox::activated, this, [this](int index) {
         map_.show(mapOutcomes()[static_cast<std::size_t>(index)]);
+        keepChoices();
         view_->redraw();
         showTexts();
     });
@@ -127,7 +131,7 @@ MapWindow::MapWindow(frmMain& logic, const FormServices& services)
     connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &MapWindow::follow);
     connect(loop, &QAbstractEventDispatcher::awake, this, &MapWindow::follow);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { desktop_.openHelp(); });
+            [this] { desktop_.openHelpPage("map.html"); });
     connect(new QShortcut(Qt::Key_F5, this), &QShortcut::activated, this, &MapWindow::runShot);
     showRanges();
     showReadout();
@@ -191,6 +195,7 @@ QWidget* MapWindow::choices() {
     usual->setAutoDefault(false);
     connect(usual, &QPushButton::clicked, this, [this] {
         map_.setUsualRanges();
+        keepChoices();
         showRanges();
         compute();
     });
@@ -235,12 +240,37 @@ void MapWindow::hideEvent(QHideEvent* event) {
 void MapWindow::follow() {
     if (!isVisible())
         return;
+    followChoices();
     const MainForm& form = logic_.form;
     if (!map_.follow(acceptedShot(form, form.clubs), form.Runs.records()))
         return;
     showRanges();
     view_->redraw(); // the data sets
     compute();
+}
+
+/// A desk that was laid on the form brings the choices of its map.
+void MapWindow::followChoices() {
+    const auto& windows = logic_.form.windows;
+    const auto kept = windows.find(kMapWindow);
+    const std::string choices = kept == windows.end() ? std::string() : kept->second;
+    if (choices == keptChoices_)
+        return;
+    keptChoices_ = choices;
+    map_.choose(readMapChoices(choices));
+    kind_->setCurrentIndex(map_.kind() == MapKind::Launch ? 0 : 1);
+    const auto outcomes = mapOutcomes();
+    outcome_->setCurrentIndex(static_cast<int>(
+        std::find(outcomes.begin(), outcomes.end(), map_.shown()) - outcomes.begin()));
+    showRanges();
+    view_->redraw();
+    showTexts();
+    compute();
+}
+
+void MapWindow::keepChoices() {
+    keptChoices_ = composeMapChoices(map_.choices());
+    logic_.form.windows[kMapWindow] = keptChoices_;
 }
 
 void MapWindow::compute() {
@@ -286,10 +316,12 @@ void MapWindow::showRanges() {
         for (const auto& [box, role, lowest, highest, value] : boxes) {
             const QSignalBlocker quiet(box);
             box->setAccessibleName(name + role);
-            box->setDecimals(decimals);
+            if (box->decimals() != decimals)
+                box->setDecimals(decimals);
             box->setRange(lowest, highest);
             box->setSingleStep(box == fields.step ? input.grain : axis.step);
-            box->setValue(value);
+            if (box->value() != value) // leaves alone what is being typed
+                box->setValue(value);
         }
     };
     showAxis(axes_[0], acrossInput(map_.kind()), ranges.across);
@@ -301,6 +333,7 @@ void MapWindow::takeRanges() {
         return MapAxis{fields.first->value(), fields.last->value(), fields.step->value()};
     };
     map_.setRanges({axis(axes_[0]), axis(axes_[1])});
+    keepChoices();
     showRanges();
     view_->redraw();
     compute();
@@ -320,7 +353,7 @@ void MapWindow::runShot() {
 }
 
 void MapWindow::savePicture() {
-    save(DialogPurpose::SaveMapPicture, [this](std::string_view ending) {
+    save(DialogPurpose::SaveMapPicture, "carry map.png", [this](std::string_view ending) {
         return mapFile(view_->pictureOnPaper(), ending).toStdString();
     });
 }
@@ -330,7 +363,7 @@ void MapWindow::copyPicture() {
 }
 
 void MapWindow::exportTable() {
-    save(DialogPurpose::SaveMapTable, [this](std::string_view) {
+    save(DialogPurpose::SaveMapTable, "carry map.csv", [this](std::string_view) {
         // What is being computed still is computed on the spot: no table lacks cells.
         return map_.isCurrent() && map_.result()->complete
                    ? composeMapTable(*map_.result())
@@ -338,12 +371,14 @@ void MapWindow::exportTable() {
     });
 }
 
-void MapWindow::save(DialogPurpose purpose,
+void MapWindow::save(DialogPurpose purpose, std::string_view suggestedName,
                      const std::function<std::string(std::string_view)>& compose) {
-    const auto saved =
-        dialogs_.run(purpose, [&](const std::string& fileName, std::string_view ending) {
+    const auto saved = dialogs_.run(
+        purpose,
+        [&](const std::string& fileName, std::string_view ending) {
             return replaceFile(fileName, compose(ending));
-        });
+        },
+        suggestedName);
     if (!saved)
         messages_.show(saved.why().description);
 }

@@ -45,6 +45,8 @@ private:
     void buildMenu();
 
     void follow();
+    void followChoices();
+    void keepChoices();
     void compute();
     void accept(const std::shared_ptr<const MapResult>& result);
     void showRanges();
@@ -56,13 +58,15 @@ private:
     void savePicture();
     void copyPicture();
     void exportTable();
-    void save(DialogPurpose purpose, const std::function<std::string(std::string_view)>& compose);
+    void save(DialogPurpose purpose, std::string_view suggestedName,
+              const std::function<std::string(std::string_view)>& compose);
 
     frmMain& logic_;
     MessageBoxes& messages_;
     Desktop& desktop_;
     DialogRoutine dialogs_;
     CarryMap map_;
+    std::string keptChoices_;   ///< what the desk last held of ours
     std::uint64_t started_ = 0; ///< generation at which the worker is, or was
 
     QComboBox* kind_;

@@ -9,9 +9,13 @@
 #include "shell/build_values.h"
 
 #include <QApplication>
+#include <QDateTime>
 #include <QDialog>
+#include <QDir>
 #include <QIcon>
 #include <QShortcut>
+#include <QTimer>
+#include <utility>
 
 namespace parabolt {
 namespace {
@@ -27,10 +31,31 @@ void execute(QDialog& dialog) {
     dialog.parentWidget()->activateWindow();
 }
 
+/// Where programs keep what is to outlive them, by the XDG rules.
+std::string stateFolder() {
+    const QString set = qEnvironmentVariable("XDG_STATE_HOME");
+    const QString home = QDir::isAbsolutePath(set) ? set : QDir::homePath() + "/.local/state";
+    return fromQt(home + "/parabolt");
+}
+
+std::string localTime() {
+    return fromQt(QDateTime::currentDateTime().toString("yyyy-MM-dd HH:mm"));
+}
+
 } // namespace
 
 Program::Program()
-    : services_{messages_, fileDialog_, preferences_, desktop_, events_, applicationFolder()},
+    : services_{messages_,
+                fileDialog_,
+                preferences_,
+                desktop_,
+                events_,
+                applicationFolder(),
+                {stateFolder(), localTime,
+                 [this](const std::string& trouble) {
+                     QMetaObject::invokeMethod(
+                         &post_, [this, trouble] { showKeeping(trouble); }, Qt::QueuedConnection);
+                 }}},
       logic_(services_) {
     QApplication::setApplicationName(toQt(kApplicationTitle));
     QApplication::setApplicationVersion(toQt(kVersion));
@@ -49,35 +74,60 @@ Program::Program()
     };
 }
 
-Program::~Program() = default;
+Program::~Program() {
+    if (logic_.form.blFormLoaded)
+        logic_.sessions.finish();
+}
 
-int Program::run() {
+int Program::run(const std::string& sessionFile) {
     splash_ = std::make_unique<frmSplash>(desktop_);
-    splash_->form.Unload.connect([this] {
+    splash_->form.Unload.connect([this, sessionFile] {
         if (!logic_.form.blFormLoaded)
-            showMainForm();
+            showMainForm(sessionFile);
     });
     splashWindow_ = std::make_unique<SplashWindow>(*splash_);
     splashWindow_->show();
     return QApplication::exec();
 }
 
-void Program::showMainForm() {
+void Program::showMainForm(const std::string& sessionFile) {
     logic_.Form_Load();
     window_ = std::make_unique<MainWindow>(logic_);
     window_->showMaximized();
+    // When the window is there, so that a question stands over it.
+    QTimer::singleShot(0, &post_, [this, sessionFile] {
+        logic_.sessions.recover();
+        if (!sessionFile.empty())
+            logic_.sessions.open(sessionFile);
+        logic_.sessions.actionEnded();
+    });
+}
+
+bool Program::isSafe() {
+    return logic_.sessions.isSafe();
+}
+
+void Program::showKeeping(const std::string& trouble) {
+    if (window_ != nullptr)
+        window_->showKeeping(toQt(trouble));
 }
 
 void Program::showClubEditor() {
     frmClubParams editor(logic_.form.clubs,
                          {messages_, fileDialog_, preferences_, desktop_, applicationFolder(),
                           [this] { showClubsInCaption(logic_.form); }});
+    editor.editor.Applying.connect([this] { logic_.form.Wiping(); });
     ClubEditorWindow window(editor, window_.get());
     execute(window);
 }
 
 void Program::showPrintView() {
     frmPrintView printView(logic_.form.printPlot(), logic_.form.txtResult, printer_, messages_);
+    if (std::exchange(logic_.form.reportCaptionLaid, false))
+        printView.form.txtCaption.setText(logic_.form.reportCaption);
+    printView.form.txtCaption.Change.connect([this, &caption = printView.form.txtCaption] {
+        logic_.form.reportCaption = caption.text();
+    });
     PrintViewWindow window(printView, window_.get());
     const QShortcut help(Qt::Key_F1, &window, [this] { desktop_.openHelp(); });
     execute(window);

@@ -24,14 +24,19 @@ public:
     ~Program();
 
     /// Runs the program from its splash to its end, and returns its exit code. When the splash
-    /// goes, the main form comes.
-    int run();
-    /// Loads and shows the main form.
-    void showMainForm();
+    /// goes, the main form comes, with the session of a file if one is named.
+    int run(const std::string& sessionFile = {});
+    /// Loads and shows the main form. Asks then about the desk of a program that did not end
+    /// properly, and opens the session file if one is named.
+    void showMainForm(const std::string& sessionFile = {});
     /// The state behind the main form, for whoever watches the program at work.
     const MainForm& mainForm() const { return logic_.form; }
+    /// For such a watcher too: waits for a desk that is on its way to the disk. True if the present
+    /// one stands there.
+    bool isSafe();
 
 private:
+    void showKeeping(const std::string& trouble);
     void showClubEditor();
     void showPrintView();
     void showCarryMap();
@@ -43,6 +48,7 @@ private:
     QtDesktop desktop_;
     QtEventLoop events_;
     QtPrinter printer_;
+    QObject post_; ///< takes what other threads report
     FormServices services_;
     frmMain logic_;
     std::unique_ptr<MainWindow> window_;

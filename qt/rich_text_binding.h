@@ -5,6 +5,7 @@
 #include <QObject>
 
 class QPlainTextEdit;
+class QTextCursor;
 
 namespace parabolt {
 
@@ -20,6 +21,9 @@ public:
 private:
     void insert(std::size_t position, const std::string& text, Rgb colour);
     void takeCaret();
+    void moveCaret(std::size_t position);
+    QTextCursor cursorAt(std::size_t position) const;
+    void show(const QTextCursor& cursor);
     void takeText();
 
     RichTextBox& box_;

@@ -84,6 +84,10 @@ void WriteResultHeader(RichTextBox& table) {
     table.setSelColor(kBlack);
 }
 
+bool holdsOnlyHeadings(const RichTextBox& table) {
+    return table.text() == boxLines(composeResultHeader());
+}
+
 void WriteResultRow(RichTextBox& table, const RunRecord& run, std::int16_t clubNo,
                     std::string_view number) {
     table.insert(GetInsertPosition(table), boxLines(composeResultRow(run, clubNo, number)),

@@ -21,6 +21,9 @@ void WriteResultHeader(RichTextBox& table);
 void WriteResultRow(RichTextBox& table, const RunRecord& run, std::int16_t clubNo,
                     std::string_view number);
 
+/// True if nothing stands in the table but its headings.
+bool holdsOnlyHeadings(const RichTextBox& table);
+
 /// Where a new row goes: in front of the line that holds the caret, but never among the headings;
 /// the very start of a table whose headings were cut back by hand.
 std::size_t GetInsertPosition(const RichTextBox& box);

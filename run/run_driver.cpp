@@ -21,8 +21,11 @@ RunDriver::RunDriver(InputControls& form, RichTextBox& txtResult, PlotPanel& plo
 }
 
 void RunDriver::Command1_Click() {
-    if (runNumber(form_) == 0)
+    if (runNumber(form_) == 0) {
+        if (!holdsOnlyHeadings(txtResult_)) // but notes of the user
+            form_.Wiping();
         WriteResultHeader(txtResult_);
+    }
     if (!makeRoom())
         return;
     const Shot shot = run_.take();
@@ -41,6 +44,8 @@ void RunDriver::Command1_Click() {
 /// starts afresh.
 bool RunDriver::makeRoom() {
     if (runNumber(form_) < RunBook::kMost) {
+        if (operatingMode(form_) == OperatingMode::Auto) // the batch begins with an empty book
+            form_.Wiping();
         run_.countRun();
         return true;
     }
@@ -49,6 +54,7 @@ bool RunDriver::makeRoom() {
         saveResult_();
         return false;
     }
+    form_.Wiping();
     run_.dropRuns();
     run_.countRun();
     WriteResultHeader(txtResult_);
@@ -57,8 +63,10 @@ bool RunDriver::makeRoom() {
 }
 
 void RunDriver::Command2_Click() {
-    if (messages_.ask("This will erase all the data now, are you sure?"))
-        run_.ClearRuns();
+    if (!messages_.ask("This will erase all the data now, are you sure?"))
+        return;
+    form_.Wiping();
+    run_.ClearRuns();
 }
 
 } // namespace parabolt

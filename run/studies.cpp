@@ -35,6 +35,7 @@ void Studies::set(const Study& study, int value) {
 
 void Studies::study(const Study& study) {
     bool found = false;
+    form_.Wiping();
     {
         const LongRun busy(pause_);
         form_.optLaunch.select();

@@ -10,6 +10,8 @@ frmMain::frmMain(const FormServices& services)
       pause(form, form.Timer1, form.Picture1, services.events),
       validators(form, plot, services.messages),
       shotEntry(form, form.Picture1, validators),
+      sessions(form, plot, services.ccrpFileDialogs1, services.preferences, services.messages,
+               services.applicationFolder, services.sessions),
       clubChoice_(form, form.clubs, validators),
       modes_(form, clubChoice_),
       defaults_(form, services.messages),
@@ -66,6 +68,7 @@ void frmMain::Form_Load() {
     WriteResultHeader(form.txtResult);
     form.cmbClubNo.select(0);
     takeClubNumber(form);
+    sessions.begin();
 }
 
 void frmMain::ResetAll() {

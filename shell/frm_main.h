@@ -7,6 +7,7 @@
 #include "mainform/shot_entry.h"
 #include "results/result_export.h"
 #include "run/studies.h"
+#include "sessions/session_handlers.h"
 
 #include <functional>
 
@@ -20,6 +21,7 @@ struct FormServices {
     Desktop& desktop;
     EventLoop& events;
     std::string applicationFolder; ///< where dialogs start before they have been used
+    SessionSurroundings sessions{};
 };
 
 /// The main form `frmMain`: owns its controls and state and the handlers that work on them, and
@@ -38,6 +40,7 @@ public:
     Validators validators; ///< the way from the fields into the shot
     /// Enters a shot from elsewhere, such as a map, into the fields.
     ShotEntry shotEntry;
+    SessionHandlers sessions;
 
     // The forms and the end of the program, which the view brings about.
     std::function<void()> showClubEditor; ///< `frmClubParams`, modal

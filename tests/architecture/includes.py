@@ -30,13 +30,14 @@ MAY_SEE = {
     "results": GROUND | {"engine", "shots", "printing", "files"},
     "mainform": LOGIC,
     "run": LOGIC | {"mainform"},
-    "shell": LOGIC | {"mainform", "run"},
-    "qt": LOGIC | {"mainform", "run", "shell"},
-    "cli": {"numbers", "engine", "shots", "files", "clubs", "exchange", "measured", "maps"},
+    "sessions": LOGIC | {"mainform"},
+    "shell": LOGIC | {"mainform", "run", "sessions"},
+    "qt": LOGIC | {"mainform", "run", "sessions", "shell"},
+    "cli": {"numbers", "engine", "shots", "files", "clubs", "exchange", "measured", "maps", "sessions"},
     # Around the program.
     "docs": {"engine", "shots"},
-    "fuzz": LOGIC | {"mainform", "run", "shell", "qt"},
-    "bench": LOGIC | {"mainform", "run", "shell", "qt"},
+    "fuzz": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
+    "bench": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
 }
 SEES_QT = {"qt", "fuzz", "bench"}
 # The folder of the command, and what it may link.

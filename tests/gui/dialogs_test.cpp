@@ -71,6 +71,12 @@ TEST_F(FileDialogTest, TakesANameAsTypedAndAsksOnceBeforeOverwriting) {
         EXPECT_EQ(dialog.finalFolder, folder.path());
         EXPECT_EQ(questions, 0);
     }
+    dialog.suggestedName = "notes.clb";
+    for (const auto& [typed, taken] :
+         {std::pair("work 1.2", "work 1.2.clb"), {"bare", "bare.clb"}, {"mine.Txt", "mine.Txt"}}) {
+        save(typed);
+        EXPECT_EQ(dialog.pickedName, taken);
+    }
     putContent(folder.path("old.clb"), "old");
     for (const bool yes : {false, true}) {
         overwrite = yes;

@@ -5,6 +5,7 @@
 #include "tests/support/scripted_form.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -21,6 +22,7 @@
 #include <QTextBlock>
 #include <QWheelEvent>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace parabolt::support {
 namespace {
@@ -432,6 +434,44 @@ TEST_F(MainWindowTest, TypingIntoTheTableMovesTheNextRow) {
     const QScrollBar* bar = table->verticalScrollBar();
     EXPECT_GT(bar->maximum(), 3);
     EXPECT_EQ(bar->value(), bar->maximum());
+}
+
+TEST_F(MainWindowTest, WorkComesBackWithColoursCaretAndKeys) {
+    user.main.sessions.begin();
+    type("txtWind", "12");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field("txtWind")->text(), "0") << "in a field: what was typed";
+    for (int i = 0; i < 2; ++i)
+        click("Command1");
+    auto* table = find<QPlainTextEdit>("txtResult");
+    QTextCursor cursor = table->textCursor();
+    cursor.setPosition(table->document()->findBlockByNumber(4).position() + 3);
+    table->setTextCursor(cursor);
+    table->insertPlainText("mine");
+    const QString html = table->document()->toHtml();
+    const int caret = table->textCursor().position();
+    QTest::qWait(1); // the action has ended
+    user.messages.answers = {Answer::Yes};
+    click("Command2");
+    QTest::qWait(1);
+    auto* goBack = find<QAction>("mnuGoBack");
+    EXPECT_EQ(goBack->text(), "Go &Back: 2 data sets, 10:32");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(table->document()->toHtml(), html);
+    EXPECT_EQ(table->textCursor().position(), caret);
+    EXPECT_EQ(runs(), 2);
+    std::string mnemonics; // of the menu: each is one of its own
+    for (const QAction* action :
+         find<QAction>("mnuOpen")->associatedObjects().value(0)->findChildren<QAction*>())
+        if (const QString text = action->text(); text.contains('&'))
+            mnemonics += fromQt(text.mid(text.indexOf('&') + 1, 1).toLower());
+    EXPECT_EQ(std::set<char>(mnemonics.begin(), mnemonics.end()).size(), mnemonics.size())
+        << mnemonics;
+    EXPECT_GE(mnemonics.size(), 10U);
+    for (const char* trouble : {"No space left", ""}) {
+        window.showKeeping(trouble);
+        EXPECT_EQ(find<QLabel>("lblUnsaved")->isVisible(), *trouble != 0);
+    }
 }
 
 } // namespace

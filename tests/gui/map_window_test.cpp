@@ -76,6 +76,25 @@ TEST_F(MapWindowTest, FollowsWhatTheFormAccepts) {
     EXPECT_GT(find<QTableView>("mapSteps")->model()->rowCount(), 5);
 }
 
+TEST_F(MapWindowTest, ComesBackWithTheDesk) {
+    choose("mapKind", 1);
+    choose("mapOutcome", 2);
+    find<QDoubleSpinBox>("mapUpLast")->setValue(20.5);
+    const Desk desk = takeDesk(form);
+    choose("mapKind", 0);
+    choose("mapOutcome", 0);
+    find<QDoubleSpinBox>("mapUpLast")->setValue(31);
+    layDesk(form, desk);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return find<QComboBox>("mapKind")->currentIndex() == 1; }));
+    EXPECT_EQ(find<QComboBox>("mapOutcome")->currentIndex(), 2);
+    EXPECT_EQ(find<QDoubleSpinBox>("mapUpLast")->value(), 20.5);
+    form.windows["carryMap"] = R"({"kind":"swing","shown":7,"swing":{"up":[0,1e999,"x"]}})";
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return find<QComboBox>("mapOutcome")->currentIndex() == 0; }));
+    QTest::keyClick(&map, Qt::Key_F1);
+    EXPECT_EQ(user.desktop.opened, Texts{"map.html"});
+}
+
 TEST_F(MapWindowTest, TakesAPointIntoTheFormAndRunsIt) {
     ASSERT_TRUE(waitForSummary("yd of carry"));
     press(Qt::Key_Up); // from the present setting

@@ -5,12 +5,15 @@
 #include "qt/program.h"
 #include "qt/splash_window.h"
 #include "qt/text.h"
+#include "sessions/session_codec.h"
 #include "tests/support/golden.h"
 #include "tests/support/scripted_form.h"
+#include "tests/support/temporary_folder.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDesktopServices>
+#include <QLineEdit>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
@@ -80,13 +83,13 @@ struct ProgramTest : testing::Test {
         window("frmMain")->findChild<QAction*>(action)->trigger();
     }
     /// Runs the program with what a user does at the splash; true if it ends by his word.
-    static bool ends(const std::function<void()>& use) {
+    static bool ends(const std::function<void()>& use, const std::string& sessionFile = {}) {
         Program program;
         QTimer::singleShot(0, use);
         QTimer hangs;
         QObject::connect(&hangs, &QTimer::timeout, [] { QApplication::exit(1); });
         hangs.start(10000);
-        return program.run() == 0;
+        return program.run(sessionFile) == 0;
     }
 };
 
@@ -139,6 +142,29 @@ TEST_F(ProgramTest, TheSplashGivesWayToTheMainFormWhichEndsTheProgram) {
             ASSERT_TRUE(window("frmMain"));
             window("frmMain")->close();
         }));
+    const TemporaryFolder folder;
+    Session session;
+    session.desk.fields["txtWind"] = "7.5";
+    session.desk.reportCaption = "Wed";
+    putContent(folder.path("my work.pbs"), encodeSession(session));
+    Texts captions;
+    EXPECT_TRUE(ends(
+        [&captions] { // comes with a session, whose caption the first print view shows
+            QTest::keyClick(window("frmSplash"), Qt::Key_Space);
+            QTest::qWait(50);
+            EXPECT_EQ(window("frmMain")->findChild<QLineEdit*>("txtWind")->text(), "7.5");
+            for (int i = 0; i < 2; ++i) {
+                QTimer::singleShot(0, [&captions] {
+                    QWidget* view = QApplication::activeModalWidget();
+                    captions.push_back(fromQt(view->findChild<QLineEdit*>("txtCaption")->text()));
+                    view->close();
+                });
+                trigger("mnuPrint");
+            }
+            trigger("mnuExit");
+        },
+        folder.path("my work.pbs")));
+    EXPECT_EQ(captions, (Texts{"Wed", ""}));
     EXPECT_TRUE(ends([] { // the splash's own clock
         ASSERT_TRUE(window("frmSplash"));
         auto* clock = window("frmSplash")->findChild<QTimer*>("Timer1");

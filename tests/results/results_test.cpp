@@ -70,7 +70,7 @@ TEST_F(ResultTable, IsSavedWithWindowsLineEndsAndAnEmptyLine) {
         {"", "\r\n"},
         {"5 \u20AC \u2192 typed\n", "5 \x80 ? typed\r\n\r\n"}};
     for (const auto& [box, content] : table) {
-        form.txtResult.edited(box, 0);
+        form.txtResult.edited({{box, kBlack}}, 0);
         form.mnuSResult.Click();
         EXPECT_EQ(contentOf(name), content);
     }

@@ -45,7 +45,15 @@ inline Control& controlOf(const FormCore& form, std::string_view name) {
 /// The main form with all its handlers, loaded as at start-up, on scripted services and without
 /// widgets.
 struct ScriptedForm {
-    ScriptedForm() {
+    /// A state folder keeps the desk safe there; time is as the test says.
+    explicit ScriptedForm(const std::string& stateFolder = {})
+        : main{{messages,
+                files,
+                preferences,
+                desktop,
+                events,
+                "/program",
+                {stateFolder, [this] { return time; }, [](const std::string&) {}}}} {
         events.timer = &form.Timer1;
         main.showClubEditor = [this] { shown.emplace_back("club editor"); };
         main.showPrintView = [this] { shown.emplace_back("print view"); };
@@ -95,7 +103,8 @@ struct ScriptedForm {
     MemoryPreferences preferences;
     RecordingDesktop desktop;
     ScriptedEventLoop events;
-    frmMain main{{messages, files, preferences, desktop, events, "/program"}};
+    std::string time = "2026-11-23 10:32";
+    frmMain main;
     MainForm& form = main.form;
     Texts shown; ///< windows and ends that were asked for
 };

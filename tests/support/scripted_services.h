@@ -60,6 +60,7 @@ struct ScriptedFileDialog : FileDialog {
 struct RecordingDesktop : Desktop {
     Texts opened;
     void openHelp() override { opened.emplace_back("help"); }
+    void openHelpPage(std::string_view file) override { opened.emplace_back(file); }
     void openAddress(std::string_view address) override { opened.emplace_back(address); }
 };
 
