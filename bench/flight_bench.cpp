@@ -1,4 +1,5 @@
 #include "bench/bare_loop.h"
+#include "cli/command_line.h"
 #include "engine/lanes.h"
 #include "engine/many_flights.h"
 #include "numbers/rounding.h"
@@ -10,6 +11,7 @@
 #include <cstdlib>
 #include <new>
 #include <random>
+#include <sstream>
 #include <string>
 
 namespace {
@@ -108,6 +110,25 @@ void many(benchmark::State& state, FlightMeans means, std::size_t count) {
         benchmark::DoNotOptimize(SimulateFlights(shots, {}, means).data());
 }
 
+constexpr std::size_t kBatchShots = 48000;
+
+/// The command over a table of shots: from text to text.
+void batchCommand(benchmark::State& state) {
+    std::ostringstream table;
+    table << "Ball speed [mph],Launch angle [deg],Spin [rpm],Wind [mph],Temperature [deg F]\n";
+    for (const ShotState& shot : clubShots(kBatchShots))
+        table << shot.LaunchSpeed << ',' << shot.LaunchAngle << ',' << shot.RPM << ','
+              << shot.WindSpeed << ',' << shot.Temperature << '\n';
+    for (auto _ : state) {
+        std::istringstream in(table.str());
+        std::ostringstream out, err;
+        if (cli::runCommandLine({"batch"}, {in, out, err}) != 0)
+            return state.SkipWithError("The command refuses the shots.");
+        benchmark::DoNotOptimize(out.str().data());
+    }
+}
+
+BENCHMARK(batchCommand)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(bareLoop);
 BENCHMARK(carry);
 BENCHMARK(flight);
@@ -124,6 +145,7 @@ void registerManyFlights() {
         add(std::string("many/") + way.name, {&way, 1}, kManyShots);
     add("many/threads", {bestFlightMeans().lanes, 2}, kManyShots);
     add("map", bestFlightMeans(), kMapShots);
+    add("engineOfBatch", bestFlightMeans(), kBatchShots);
 }
 
 } // namespace

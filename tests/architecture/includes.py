@@ -37,7 +37,7 @@ MAY_SEE = {
     # Around the program.
     "docs": {"engine", "shots"},
     "fuzz": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
-    "bench": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
+    "bench": LOGIC | {"mainform", "run", "sessions", "shell", "qt", "cli"},
 }
 SEES_QT = {"qt", "fuzz", "bench"}
 # The folder of the command, and what it may link.

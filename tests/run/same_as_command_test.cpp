@@ -1,5 +1,7 @@
 #include "mainform/form_shot.h"
 #include "maps/carry_map.h"
+#include "sessions/form_desk.h"
+#include "sessions/session_codec.h"
 #include "tests/cli/command_run.h"
 #include "tests/support/scripted_form.h"
 
@@ -124,6 +126,24 @@ TEST(TheCommand, ShowsAShotToTheDigitOfTheForm) {
         }
         EXPECT_FALSE(row >> mode) << "a number of the form that the command lacks";
     }
+}
+
+TEST(TheCommand, TellsTheDataSetsOfASession) {
+    ScriptedForm on;
+    on.form.optLaunch.select();
+    on.run();
+    on.form.optStandard.select();
+    on.run();
+    const std::string file = encodeSession({takeDesk(on.form), "2026-11-23 10:32"});
+    const auto rows = linesOf(runCommand("session", file).out);
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[1], "1," + linesOf(runCommand("fly").out).at(1));
+    EXPECT_EQ(rows[2], "2," + linesOf(runCommand("fly --club W1").out).at(1));
+    const auto paths = linesOf(runCommand("session --path", file).out);
+    EXPECT_EQ(paths.back(), "2," + linesOf(runCommand("fly --club W1 --path").out).back());
+    const auto all = runCommand("session --format json", file).out;
+    EXPECT_NE(all.find("\"txtBallSpin\": \"2600\""), std::string::npos) << all.substr(0, 500);
+    EXPECT_EQ(runCommand("session", "{}").status, 2);
 }
 
 // What the table lacks, the map's readout tells.
