@@ -101,7 +101,7 @@ std::string_view withoutByteOrderMark(std::string_view text) {
 }
 
 char delimiterOf(std::string_view text) {
-    constexpr std::size_t kFirst = 64 * 1024;
+    constexpr std::size_t kFirst = std::size_t{1} << 16;
     text = withoutByteOrderMark(text).substr(0, kFirst);
     if (text.starts_with(kNamesDelimiter) && text.size() > kNamesDelimiter.size())
         return text[kNamesDelimiter.size()];

@@ -171,8 +171,11 @@ private:
     template <class Value>
     static void read(const MeasuredJson& json, Value& value) {
         if constexpr (std::is_same_v<Value, HeadSpeeds>) {
-            demand(json == 0 || json == 1);
-            value = json == 0 ? HeadSpeeds::OfSet : HeadSpeeds::Falling;
+            const auto last = static_cast<unsigned>(HeadSpeeds::Falling);
+            unsigned number = 0;
+            read(json, number);
+            demand(number <= last);
+            value = static_cast<HeadSpeeds>(number);
         } else if constexpr (std::is_same_v<Value, bool>) {
             demand(json.is_boolean());
             value = json.get<bool>();
