@@ -101,6 +101,23 @@ TEST(MeasuredFlights, FlyInTheAirOfTheFile) {
               figuresOf(fly(shot)->record).carry);
 }
 
+TEST(MeasuredFlights, GiveNoneOnceStopped) {
+    std::stop_source stop;
+    stop.request_stop();
+    const std::vector shots = {measured("", 140, 12, 2600, carried(200))};
+    const auto flown = flyMeasured(shots, Shot(), false);
+    EXPECT_EQ(flown.size(), 1U);
+    EXPECT_TRUE(flyMeasured(shots, Shot(), false, stop.get_token()).empty());
+    EXPECT_TRUE(normalisedCarries(shots, flown, Shot(), {}, stop.get_token()).empty());
+    Shot noAir;
+    noAir.Temperature = -460; // no air has this temperature
+    EXPECT_TRUE(flyMeasured(shots, noAir, false).front().fault);
+    EXPECT_FALSE(
+        comparedFigures().front().difference(shots.front(), flyMeasured(shots, noAir, false)[0]));
+    EXPECT_NEAR(*comparedFigures().front().difference(shots.front(), flown.front()),
+                flown.front().figures.carry - 200, 1e-12);
+}
+
 TEST(MeasuredFlights, NormaliseByTheRatioOfTheModel) {
     const std::vector shots = {measured("D", 150, 12, 2600, carried(200)),
                                measured("D", 150, 12, 2600), measured("D", 150, 12, 2600)};
@@ -156,6 +173,8 @@ TEST(ClubStatistics, TellOfTheShotsThatCount) {
     ASSERT_EQ(checked.size(), 3U) << "what is struck stays out";
     EXPECT_EQ(checked[2], shotOf(entries[3].shot, windy(), false));
     EXPECT_EQ(checked[2].Mode, OperatingMode::Launch);
+    entries[3].shot.ballSpeed = 122.00001F; // its field shows seven digits
+    EXPECT_EQ(checkedShots(entries, windy(), false)[2].LaunchSpeed, 122);
     const auto means = meanShots(entries, windy(), false);
     ASSERT_EQ(means.size(), 2U);
     EXPECT_EQ(means[0].LaunchSpeed, 120);
