@@ -102,7 +102,7 @@ void list(Archive& archive, MeasuredSession& session) {
 }
 
 /// Writes the members into an object.
-class Writer {
+class MeasuredWriter {
 public:
     template <class Value>
     void operator()(const char* name, Value& value) {
@@ -119,7 +119,7 @@ private:
         } else if constexpr (std::is_arithmetic_v<Value> || std::is_same_v<Value, std::string>) {
             return value;
         } else {
-            Writer writer;
+            MeasuredWriter writer;
             list(writer, value);
             return std::move(writer.object);
         }
@@ -156,9 +156,11 @@ void demand(bool sound) {
 }
 
 /// Fills the members from an object.
-class Reader {
+class MeasuredReader {
 public:
-    explicit Reader(const MeasuredJson& object) : object_(object) { demand(object.is_object()); }
+    explicit MeasuredReader(const MeasuredJson& object) : object_(object) {
+        demand(object.is_object());
+    }
 
     template <class Value>
     void operator()(const char* name, Value& value) {
@@ -190,7 +192,7 @@ private:
             demand(json.is_string());
             value = json.get<std::string>();
         } else {
-            Reader reader(json);
+            MeasuredReader reader(json);
             list(reader, value);
         }
     }
@@ -221,7 +223,7 @@ private:
     const MeasuredJson& object_;
 };
 
-bool isSound(const MeasuredSession& session) {
+bool isSoundSession(const MeasuredSession& session) {
     const auto set = clubsOfSet();
     const auto isOfSet = [&set](ClubId club) {
         return std::find(set.begin(), set.end(), club) != set.end();
@@ -240,7 +242,7 @@ bool isSound(const MeasuredSession& session) {
 
 std::string encodeMeasured(const MeasuredSession& session) {
     MeasuredSession copy = session;
-    Writer writer;
+    MeasuredWriter writer;
     list(writer, copy);
     return writer.object.dump(-1, ' ', false, MeasuredJson::error_handler_t::replace);
 }
@@ -249,9 +251,9 @@ std::optional<MeasuredSession> decodeMeasured(std::string_view text) {
     try {
         const auto json = MeasuredJson::parse(text);
         MeasuredSession session;
-        Reader reader(json);
+        MeasuredReader reader(json);
         list(reader, session);
-        return isSound(session) ? std::optional(std::move(session)) : std::nullopt;
+        return isSoundSession(session) ? std::optional(std::move(session)) : std::nullopt;
     } catch (const MeasuredJson::exception&) {
         return std::nullopt;
     } catch (const NotMeasured&) {

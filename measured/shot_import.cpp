@@ -109,7 +109,8 @@ private:
             unitsMayFollow_ = true;
         } else if (std::exchange(unitsMayFollow_, false) && isOfUnits(row)) {
             return;
-        } else if (const std::string label = loneText(row); !label.empty() && !isNumbered(row)) {
+        } else if (const std::string label = loneText(row);
+                   !label.empty() && !isNumbered(row) && !isSummary(row)) {
             takeLabel(label);
         } else if (!columns_.empty()) {
             rows_.push_back(rowOf(row));
@@ -127,8 +128,11 @@ private:
         return true;
     }
 
-    /// A label before the first headings is most often a title: there it must look like a club.
+    /// A label tells the club of the rows that follow where no column does. Before the first
+    /// headings it is most often a title: there it must look like a club.
     void takeLabel(const std::string& label) {
+        if (has(Quantity::Club))
+            return;
         constexpr std::size_t kShort = 4;
         static const ClubTables set = InitClubTables();
         const std::string club = clubOfLabel(label);

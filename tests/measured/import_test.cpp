@@ -170,6 +170,8 @@ TEST(Import, TellsLabelsOfClubsFromTitlesAndSummaries) {
         {headings + "Club: Hybrid 4\n" + row, "Hybrid 4"},
         {headings + "9i\nPLAYER: Ann\n" + row, "9i"},
         {headings + headings + row, ""},
+        {headings + "Average\n", "average row"},
+        {"Club," + headings + "2026-06-09\n," + row, ""},
         {headings + "140,3000,12,200,AVERAGE\n", "average row"},
         {headings + "140,3000,12,200,Std. Dev.:\n", "average row"},
         {headings + "140,3000,12,200,Average Joe\n", ""}};
