@@ -97,6 +97,7 @@ TEST(Import, ReadsNumbersAsDevicesWriteThem) {
         {"2,345", true, true, 2345},
         {"2.345", true, true, 2345},
         {"2.345", false, false, 2.345},
+        {"1,234.567", false, false, 1234.567},
         {"1.234,5", true, false, 1234.5},
         {"1,234.5", false, false, 1234.5},
         {"1.234.567", true, false, 1234567},
@@ -116,6 +117,21 @@ TEST(Import, ReadsNumbersAsDevicesWriteThem) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(cellNumber(c.cell, c.decimalComma, c.whole), c.value) << c.cell;
+}
+
+TEST(Import, UnderstandsWhatIsNoUtf8) {
+    const std::pair<std::string, std::string> cases[] = {
+        {{"\xFE\xFF\0\xFC\xD8\x3D\xDE\0\xD8\x3D\0a\xDE\0", 14}, "\u00FC\U0001F600?a?"},
+        {{"\xFF\xFE\xFC\0", 4}, "\u00FC"},
+        {{"a\0b\0", 4}, "ab"},
+        {"\xEF\xBB\xBF\xC3\xBC", "\u00FC"},
+        {"\xFC", "\u00FC"},
+        {"\xC3", "\u00C3"},                     // ends inside a character
+        {"\xED\xA0\x80", "\u00ED\u00A0\u20AC"}, // half a pair
+        {"\xC1\x81", "\u00C1\u0081"},           // longer than it must be
+        {"\xF4\x8F\xBF\xBF", "\U0010FFFF"}};
+    for (const auto& [bytes, text] : cases)
+        EXPECT_EQ(readShotFile(bytes)->rows.at(0).cells.at(0), text);
 }
 
 TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
@@ -163,6 +179,7 @@ TEST(Import, TellsLabelsOfClubsFromTitlesAndSummaries) {
     const std::string row = "140,3000,12,200,x\n";
     const std::pair<std::string, std::string> cases[] = {
         {"My day\n" + headings + row, ""},
+        {"sep=,\n" + headings + row, ""},
         {"7 Iron\n" + headings + row, "7 Iron"},
         {"H4\n" + headings + row, "H4"},
         {"PLAYER: H4\n" + headings + row, ""},
