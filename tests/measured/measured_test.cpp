@@ -173,6 +173,7 @@ TEST(ClubStatistics, TellOfTheShotsThatCount) {
     ASSERT_EQ(checked.size(), 3U) << "what is struck stays out";
     EXPECT_EQ(checked[2], shotOf(entries[3].shot, windy(), false));
     EXPECT_EQ(checked[2].Mode, OperatingMode::Launch);
+    EXPECT_FALSE(checked[2].sources.club);
     entries[3].shot.ballSpeed = 122.00001F; // its field shows seven digits
     EXPECT_EQ(checkedShots(entries, windy(), false)[2].LaunchSpeed, 122);
     const auto means = meanShots(entries, windy(), false);
