@@ -263,7 +263,9 @@ TEST(Bag, FliesTheClubsOwnedAndTellsTheGaps) {
     EXPECT_EQ(flights[1].headSpeed, 99.5); // seven woods come before
     EXPECT_EQ(flights[2].headSpeed, 90.5); // thirteen irons
 
+    bag.clubs[flights[2].at].name = "My lob";
     const std::vector<MeasuredEntry> entries = {
+        {measured("My lob", 80, 35, 9000, carried(60)), false, false},
         {measured("Dr", 150, 12, 2600, carried(240, 260)), false, false},
         {measured("driver", 150, 12, 2600, carried(250)), false, false},
         {measured("Driver", 150, 12, 2600, carried(10)), true, false},
@@ -274,10 +276,11 @@ TEST(Bag, FliesTheClubsOwnedAndTellsTheGaps) {
     EXPECT_EQ(flights[0].measuredCarry->mean, 245);
     EXPECT_EQ(flights[0].measuredTotal->number, 1U);
     EXPECT_EQ(flights[1].measuredCarry->mean, 180);
-    EXPECT_FALSE(flights[2].measuredCarry);
+    EXPECT_EQ(flights[2].measuredCarry, (Spread{1, 60, {}, 60, 60}));
+    EXPECT_FALSE(flights[2].measuredTotal);
 
     using Kind = BagGap::Kind;
-    EXPECT_EQ(gapsBetween(std::vector<double>{150, 240, 162, 142, 160}, 8, 18),
+    EXPECT_EQ(gapsBetween(std::vector<double>{150, 240, 162, 142, 160}, 8, 10),
               (std::vector<BagGap>{{2, 1, 78, Kind::TooWide},
                                    {4, 2, 2, Kind::TooNarrow},
                                    {0, 4, 10, Kind::Good},
