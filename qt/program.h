@@ -2,6 +2,7 @@
 
 #include "qt/desktop.h"
 #include "qt/dialogs.h"
+#include "qt/end_signals.h"
 #include "qt/file_dialog.h"
 #include "qt/main_window.h"
 #include "qt/printer.h"
@@ -51,6 +52,7 @@ private:
     QObject post_; ///< takes what other threads report
     FormServices services_;
     frmMain logic_;
+    EndSignals endSignals_{[this] { logic_.endProgram(); }};
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<MapWindow> mapWindow_;
     std::unique_ptr<frmSplash> splash_;

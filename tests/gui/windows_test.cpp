@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <csignal>
 
 namespace parabolt::support {
 namespace {
@@ -165,6 +166,7 @@ TEST_F(ProgramTest, TheSplashGivesWayToTheMainFormWhichEndsTheProgram) {
         },
         folder.path("my work.pbs")));
     EXPECT_EQ(captions, (Texts{"Wed", ""}));
+    EXPECT_TRUE(ends([] { std::raise(SIGTERM); })) << "when the system wants it";
     EXPECT_TRUE(ends([] { // the splash's own clock
         ASSERT_TRUE(window("frmSplash"));
         auto* clock = window("frmSplash")->findChild<QTimer*>("Timer1");
