@@ -13,7 +13,7 @@ constexpr std::string_view kDegrees = "\u00b0";
 enum Row : std::size_t { kSpin, kLaunchAngle, kAttack, kLoft };
 
 // limits; name, unit, member; step, grain; the one kind of map that has it
-constexpr std::array<MapInput, 14> kInputs = {{
+constexpr std::array<MapInput, 14> kMapInputs = {{
     {limits::kSpin, "Spin", "rpm", &ShotInputs::RPM, 200, 10, MapKind::Launch},
     {limits::kLaunchAngle, "Launch angle", kDegrees, &ShotInputs::LaunchAngle, 1, 0.1,
      MapKind::Launch},
@@ -53,19 +53,19 @@ double MapInput::settled(double value) const {
 }
 
 std::span<const MapInput> mapInputs() {
-    return kInputs;
+    return kMapInputs;
 }
 
 const MapInput& acrossInput(MapKind kind) {
-    return kInputs[kind == MapKind::Launch ? kSpin : kAttack];
+    return kMapInputs[kind == MapKind::Launch ? kSpin : kAttack];
 }
 
 const MapInput& upInput(MapKind kind) {
-    return kInputs[kind == MapKind::Launch ? kLaunchAngle : kLoft];
+    return kMapInputs[kind == MapKind::Launch ? kLaunchAngle : kLoft];
 }
 
 const MapInput& loftInput() {
-    return kInputs[kLoft];
+    return kMapInputs[kLoft];
 }
 
 } // namespace parabolt
