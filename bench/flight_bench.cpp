@@ -1,6 +1,11 @@
 #include "bench/bare_loop.h"
+#include "cli/command_line.h"
 #include "engine/lanes.h"
 #include "engine/many_flights.h"
+#include "exchange/csv_writer.h"
+#include "exchange/shot_columns.h"
+#include "measured/measured_flights.h"
+#include "measured/shot_import.h"
 #include "numbers/rounding.h"
 #include "shots/fly.h"
 
@@ -10,6 +15,7 @@
 #include <cstdlib>
 #include <new>
 #include <random>
+#include <sstream>
 #include <string>
 
 namespace {
@@ -108,10 +114,55 @@ void many(benchmark::State& state, FlightMeans means, std::size_t count) {
         benchmark::DoNotOptimize(SimulateFlights(shots, {}, means).data());
 }
 
+constexpr std::size_t kBatchShots = 48000;
+
+/// The command over a table of shots: from text to text.
+void batchCommand(benchmark::State& state) {
+    std::ostringstream table;
+    table << "Ball speed [mph],Launch angle [deg],Spin [rpm],Wind [mph],Temperature [deg F]\n";
+    for (const ShotState& shot : clubShots(kBatchShots))
+        table << shot.LaunchSpeed << ',' << shot.LaunchAngle << ',' << shot.RPM << ','
+              << shot.WindSpeed << ',' << shot.Temperature << '\n';
+    for (auto _ : state) {
+        std::istringstream in(table.str());
+        std::ostringstream out, err;
+        if (cli::runCommandLine({"batch"}, {in, out, err}) != 0)
+            return state.SkipWithError("The command refuses the shots.");
+        benchmark::DoNotOptimize(out.str().data());
+    }
+}
+
+/// A file of shots with all clubs, as long as a file may be.
+std::string measuredFile() {
+    CsvWriter csv;
+    csv.field(shot_columns::kBallSpeed).field(shot_columns::kLaunchAngle);
+    csv.field(shot_columns::kSpin).endRow();
+    for (const ShotState& shot : clubShots(kMostShotRows - 1)) {
+        csv.field(shot.LaunchSpeed).field(shot.LaunchAngle).field(shot.RPM);
+        csv.endRow();
+    }
+    return csv.text();
+}
+
+void importFile(benchmark::State& state) {
+    const std::string file = measuredFile();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(importShots(file)->rows.data());
+}
+
+void flyFile(benchmark::State& state) {
+    const auto shots = importShots(measuredFile())->taken();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(flyMeasured(shots, Shot(), false).data());
+}
+
+BENCHMARK(batchCommand)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(bareLoop);
 BENCHMARK(carry);
 BENCHMARK(flight);
 BENCHMARK(bareMany)->Arg(kManyShots)->Arg(kMapShots)->Unit(benchmark::kMillisecond);
+BENCHMARK(importFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(flyFile)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void registerManyFlights() {
     const auto add = [](const std::string& name, FlightMeans means, std::size_t count) {
@@ -124,6 +175,7 @@ void registerManyFlights() {
         add(std::string("many/") + way.name, {&way, 1}, kManyShots);
     add("many/threads", {bestFlightMeans().lanes, 2}, kManyShots);
     add("map", bestFlightMeans(), kMapShots);
+    add("engineOfBatch", bestFlightMeans(), kBatchShots);
 }
 
 } // namespace

@@ -9,18 +9,11 @@ namespace parabolt {
 namespace {
 
 constexpr std::array<BallOption, 4> kBallOptions = {{
-    // button                Slope1  CD1    BallType
-    {&ShotControls::BallOpt1, 0.5F, 0.0F, 1},
-    {&ShotControls::BallOpt2, 0.0F, -0.1F, 2},
-    {&ShotControls::BallOpt3, -0.5F, 0.0F, 3},
-    {&ShotControls::BallOpt4, 0.0F, 0.0F, 4},
+    {kBallKinds[0], &ShotControls::BallOpt1},
+    {kBallKinds[1], &ShotControls::BallOpt2},
+    {kBallKinds[2], &ShotControls::BallOpt3},
+    {kBallKinds[3], &ShotControls::BallOpt4},
 }};
-
-void apply(ShotInputs& shot, const BallOption& option) {
-    shot.BallType = option.BallType;
-    shot.Slope1 = option.Slope1;
-    shot.CD1 = option.CD1;
-}
 
 } // namespace
 
@@ -30,7 +23,7 @@ std::span<const BallOption> ballOptions() {
 
 Defaults::Defaults(ShotControls& form, MessageBoxes& messages) : form_(form), messages_(messages) {
     for (const BallOption& option : kBallOptions)
-        (form_.*option.button).Click.connect([this, &option] { apply(form_.shot, option); });
+        (form_.*option.button).Click.connect([this, &option] { option.applyTo(form_.shot); });
 }
 
 void Defaults::SetSwingDefaults() {
@@ -54,7 +47,7 @@ void Defaults::SetClubDefaults() {
     shot.AttackAngle = kFresh.AttackAngle;
     shot.LoftAngle = kFresh.LoftAngle;
     shot.Bending = kFresh.Bending;
-    apply(shot, kBallOptions.back());
+    kBallOptions.back().applyTo(shot);
     form_.BallOpt4.select();
     showClub(form_);
     form_.optWood.select();

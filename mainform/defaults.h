@@ -2,17 +2,15 @@
 
 #include "controls/services.h"
 #include "mainform/main_form.h"
+#include "shots/ball_kinds.h"
 
 #include <span>
 
 namespace parabolt {
 
 /// What choosing a ball option writes into the shot.
-struct BallOption {
+struct BallOption : BallKind {
     OptionButton ShotControls::*button;
-    float Slope1;
-    float CD1;
-    std::int16_t BallType;
 };
 
 /// The four ball options, numbers 1 to 4 in this order.

@@ -61,10 +61,8 @@ void takeBall(ShotControls& form, std::int16_t ballType) {
     for (const BallOption& option : ballOptions()) {
         if (option.BallType != ballType)
             continue;
-        form.shot.Slope1 = option.Slope1;
-        form.shot.CD1 = option.CD1;
+        option.applyTo(form.shot);
         (form.*option.button).select();
-        form.shot.BallType = ballType;
     }
 }
 

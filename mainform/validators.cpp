@@ -8,62 +8,27 @@
 namespace parabolt {
 namespace {
 
-/// Stands where a text that is no number gets the message of a value out of range.
-constexpr std::string_view kSame;
+constexpr InputLimits kScale{100, 500, "The value must between 100 - 500, restore default value!",
+                             "You must input a number, restore the default value!"};
 
-// Field, variable, lowest, highest, fallback; message for a value out of range, message for a text
-// that is no number. The users know these messages; where one disagrees with its limits, the limits
-// hold.
+// Limits, field, variable, fallback.
 constexpr std::array<FieldRule, 16> kFieldRules = {{
-    {&ShotControls::txtLaunchAngle, &ShotInputs::LaunchAngle, 0, 55, "9.5",
-     "The combined launch angle resulting from head loft plus attack angle must be "
-     "greater than 0 and less than 50 degrees. Note the launch angle upper right. "
-     "Defaults to 9.5 degrees or try again.",
-     kSame},
-    {&ShotControls::txtBallSpin, &ShotInputs::RPM, 0, 22000, "3200",
-     "Enter a value between 0 and 22000 RPM for ball spin. Defaults to 3200 RPM or try "
-     "again!",
-     kSame},
-    {&ShotControls::txtLaunchSpeed, &ShotInputs::LaunchSpeed, 30, 250, "144",
-     "Enter a value between 30 and 250 MPH for launch speed.Defaults to 144 MPH or try "
-     "again.",
-     kSame},
-    {&ShotControls::txtHeadSpeed, &ShotInputs::HeadSpeed, 50, 165, "100",
-     "Enter a head speed between 50 and 165 mph. Defaults to 100mph.Try Again.", kSame},
-    {&ShotControls::txtSpeedIncrement, &ShotInputs::SpeedIncrement, 1, 3, "1",
-     "Enter a value between 1 and 3 mph. Defaults to 1 mph or try again.", kSame},
-    {&RunControls::txtRange, &RunControls::sRange, 100, 500, "300",
-     "The value must between 100 - 500, restore default value!",
-     "You must input a number, restore the default value!"},
-    {&ShotControls::txtCor, &ShotInputs::COR, 0.7, 0.9, "0.80",
-     "Enter values between 0.7 and 0.9! Try again!",
-     "Enter a value between 0.7 and 0.9! Defaults to 0.8 or try again."},
-    {&ShotControls::txtHeadWeight, &ShotInputs::HeadWeight, 180, 320, "225",
-     "Enter values between 180 and 320 grams, try again.", kSame},
-    {&ShotControls::txtAttackAngle, &ShotInputs::AttackAngle, -5, 20, "0",
-     "Enter a value between -5 and +20 degrees. Try again.", kSame},
-    {&ShotControls::txtBending, &ShotInputs::Bending, -10, 10, "0",
-     "Enter a value between -10 and 10 degrees. Try again.", kSame},
-    {&ShotControls::txtLoftAngle, &ShotInputs::LoftAngle, 0, 65, "18",
-     "Enter values between 0 and 65 degrees, try again.", kSame},
-    {&ShotControls::txtAltitude, &ShotInputs::h, 0, 15000, "0",
-     "Enter a value between 0 and 15000 feet for elevation. Defaults to 0 or try again.", kSame},
-    {&ShotControls::txtPressure, &ShotInputs::BaroPressure, 25, 34, "29.92",
-     "Enter a value between 25 and 34 inches mercury (Hg) for barometric pressure. "
-     "Defaults to 29.92 or try again.",
-     kSame},
-    {&ShotControls::txtRelativeHumidity, &ShotInputs::RH, 0, 100, "50",
-     "Enter a value between 0 and 100 % for relative humidity. Defaults to 50% or try "
-     "again.",
-     "Enter a value between 0 and 100 % for Relative Humidity. Defaults to 50% or try "
-     "again."},
-    {&ShotControls::txtTemperature, &ShotInputs::Temperature, 20, 120, "70",
-     "Enter a value between 20 and 120 degrees F for temperature. Defaults to 70 degrees "
-     "or try again.",
-     kSame},
-    {&ShotControls::txtWind, &ShotInputs::WindSpeed, -35, 35, "0",
-     "Enter a value between -35 and 35 mph for wind speed. Defaults to 0 MPH or try again.",
-     "Enter a value between 0 and 35 mph for wind speed. Defaults to 0 MPH or try again."},
+    {limits::kLaunchAngle, &ShotControls::txtLaunchAngle, &ShotInputs::LaunchAngle, "9.5"},
+    {limits::kSpin, &ShotControls::txtBallSpin, &ShotInputs::RPM, "3200"},
+    {limits::kLaunchSpeed, &ShotControls::txtLaunchSpeed, &ShotInputs::LaunchSpeed, "144"},
+    {limits::kHeadSpeed, &ShotControls::txtHeadSpeed, &ShotInputs::HeadSpeed, "100"},
+    {limits::kSpeedIncrement, &ShotControls::txtSpeedIncrement, &ShotInputs::SpeedIncrement, "1"},
+    {kScale, &RunControls::txtRange, &RunControls::sRange, "300"},
+    {limits::kCor, &ShotControls::txtCor, &ShotInputs::COR, "0.80"},
+    {limits::kHeadWeight, &ShotControls::txtHeadWeight, &ShotInputs::HeadWeight, "225"},
+    {limits::kAttackAngle, &ShotControls::txtAttackAngle, &ShotInputs::AttackAngle, "0"},
+    {limits::kBending, &ShotControls::txtBending, &ShotInputs::Bending, "0"},
+    {limits::kLoftAngle, &ShotControls::txtLoftAngle, &ShotInputs::LoftAngle, "18"},
+    {limits::kAltitude, &ShotControls::txtAltitude, &ShotInputs::h, "0"},
+    {limits::kPressure, &ShotControls::txtPressure, &ShotInputs::BaroPressure, "29.92"},
+    {limits::kHumidity, &ShotControls::txtRelativeHumidity, &ShotInputs::RH, "50"},
+    {limits::kTemperature, &ShotControls::txtTemperature, &ShotInputs::Temperature, "70"},
+    {limits::kWind, &ShotControls::txtWind, &ShotInputs::WindSpeed, "0"},
 }};
 
 } // namespace
@@ -94,7 +59,7 @@ void Validators::validate(const TextBox& field) {
 
 bool Validators::accepts(const TextBox& field, double value) {
     for (const FieldRule& rule : kFieldRules)
-        if (&(form_.*rule.field) == &field && !(value >= rule.lowest && value <= rule.highest)) {
+        if (&(form_.*rule.field) == &field && !rule.hold(value)) {
             messages_.show(rule.rangeMessage);
             return false;
         }
@@ -104,11 +69,10 @@ bool Validators::accepts(const TextBox& field, double value) {
 void Validators::judge(const FieldRule& rule) {
     TextBox& field = form_.*rule.field;
     const auto value = parseNumber(field.text());
-    if (value && *value >= rule.lowest && *value <= rule.highest) {
+    if (value && rule.hold(*value)) {
         store(rule, *value);
     } else {
-        const bool sameMessage = value || rule.numberMessage.empty();
-        messages_.show(sameMessage ? rule.rangeMessage : rule.numberMessage);
+        messages_.show(value ? rule.rangeMessage : rule.noNumber());
         field.setText(rule.fallback);
         form_.focus.give(field);
     }

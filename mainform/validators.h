@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainform/plot_panel.h"
+#include "shots/input_limits.h"
 
 #include <span>
 #include <string_view>
@@ -9,14 +10,10 @@
 namespace parabolt {
 
 /// What the validator of one field knows.
-struct FieldRule {
+struct FieldRule : InputLimits {
     TextBox InputControls::*field;
     std::variant<float ShotInputs::*, double ShotInputs::*, float RunControls::*> variable;
-    double lowest;  ///< accepted itself
-    double highest; ///< accepted itself
     std::string_view fallback;
-    std::string_view rangeMessage;
-    std::string_view numberMessage; ///< when the text is no number
 };
 
 std::span<const FieldRule> fieldRules();

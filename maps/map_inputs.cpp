@@ -12,22 +12,24 @@ constexpr std::string_view kDegrees = "\u00b0";
 
 enum Row : std::size_t { kSpin, kLaunchAngle, kAttack, kLoft };
 
-// name, unit, member; lowest, highest; step, grain; the one kind of map that has it
-constexpr std::array<MapInput, 14> kInputs = {{
-    {"Spin", "rpm", &ShotInputs::RPM, 0, 22000, 200, 10, MapKind::Launch},
-    {"Launch angle", kDegrees, &ShotInputs::LaunchAngle, 0, 55, 1, 0.1, MapKind::Launch},
-    {"Attack angle", kDegrees, &ShotInputs::AttackAngle, -5, 20, 1, 0.1, MapKind::Swing},
-    {"Loft", kDegrees, &ShotInputs::LoftAngle, 0, 65, 1, 0.1, MapKind::Swing},
-    {"Ball speed", "mph", &ShotInputs::LaunchSpeed, 30, 250, 1, 0.1, MapKind::Launch},
-    {"Head speed", "mph", &ShotInputs::HeadSpeed, 50, 165, 1, 0.1, MapKind::Swing},
-    {"COR", "", &ShotInputs::COR, 0.7, 0.9, 0.01, 0.01, MapKind::Swing},
-    {"Head weight", "g", &ShotInputs::HeadWeight, 180, 320, 5, 1, MapKind::Swing},
-    {"Bend", kDegrees, &ShotInputs::Bending, -10, 10, 1, 0.1, MapKind::Swing},
-    {"Wind", "mph", &ShotInputs::WindSpeed, -35, 35, 5, 0.1, std::nullopt},
-    {"Temperature", "F", &ShotInputs::Temperature, 20, 120, 10, 1, std::nullopt},
-    {"Altitude", "ft", &ShotInputs::h, 0, 15000, 1000, 10, std::nullopt},
-    {"Pressure", "inHg", &ShotInputs::BaroPressure, 25, 34, 0.5, 0.01, std::nullopt},
-    {"Humidity", "%", &ShotInputs::RH, 0, 100, 10, 1, std::nullopt},
+// limits; name, unit, member; step, grain; the one kind of map that has it
+constexpr std::array<MapInput, 14> kMapInputs = {{
+    {limits::kSpin, "Spin", "rpm", &ShotInputs::RPM, 200, 10, MapKind::Launch},
+    {limits::kLaunchAngle, "Launch angle", kDegrees, &ShotInputs::LaunchAngle, 1, 0.1,
+     MapKind::Launch},
+    {limits::kAttackAngle, "Attack angle", kDegrees, &ShotInputs::AttackAngle, 1, 0.1,
+     MapKind::Swing},
+    {limits::kLoftAngle, "Loft", kDegrees, &ShotInputs::LoftAngle, 1, 0.1, MapKind::Swing},
+    {limits::kLaunchSpeed, "Ball speed", "mph", &ShotInputs::LaunchSpeed, 1, 0.1, MapKind::Launch},
+    {limits::kHeadSpeed, "Head speed", "mph", &ShotInputs::HeadSpeed, 1, 0.1, MapKind::Swing},
+    {limits::kCor, "COR", "", &ShotInputs::COR, 0.01, 0.01, MapKind::Swing},
+    {limits::kHeadWeight, "Head weight", "g", &ShotInputs::HeadWeight, 5, 1, MapKind::Swing},
+    {limits::kBending, "Bend", kDegrees, &ShotInputs::Bending, 1, 0.1, MapKind::Swing},
+    {limits::kWind, "Wind", "mph", &ShotInputs::WindSpeed, 5, 0.1, std::nullopt},
+    {limits::kTemperature, "Temperature", "F", &ShotInputs::Temperature, 10, 1, std::nullopt},
+    {limits::kAltitude, "Altitude", "ft", &ShotInputs::h, 1000, 10, std::nullopt},
+    {limits::kPressure, "Pressure", "inHg", &ShotInputs::BaroPressure, 0.5, 0.01, std::nullopt},
+    {limits::kHumidity, "Humidity", "%", &ShotInputs::RH, 10, 1, std::nullopt},
 }};
 
 } // namespace
@@ -51,19 +53,19 @@ double MapInput::settled(double value) const {
 }
 
 std::span<const MapInput> mapInputs() {
-    return kInputs;
+    return kMapInputs;
 }
 
 const MapInput& acrossInput(MapKind kind) {
-    return kInputs[kind == MapKind::Launch ? kSpin : kAttack];
+    return kMapInputs[kind == MapKind::Launch ? kSpin : kAttack];
 }
 
 const MapInput& upInput(MapKind kind) {
-    return kInputs[kind == MapKind::Launch ? kLaunchAngle : kLoft];
+    return kMapInputs[kind == MapKind::Launch ? kLaunchAngle : kLoft];
 }
 
 const MapInput& loftInput() {
-    return kInputs[kLoft];
+    return kMapInputs[kLoft];
 }
 
 } // namespace parabolt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shots/input_limits.h"
 #include "shots/shot.h"
 
 #include <optional>
@@ -13,12 +14,10 @@ namespace parabolt {
 enum class MapKind { Launch, Swing };
 
 /// An input of a shot, as maps show and vary it.
-struct MapInput {
+struct MapInput : InputLimits {
     std::string_view name;
     std::string_view unit; ///< "°" stands at its number, all others after a blank
     std::variant<float ShotInputs::*, double ShotInputs::*> member;
-    double lowest; ///< limits of its field on the main form
-    double highest;
     double step;                 ///< what one step of the input is
     double grain;                ///< the finest difference that a map tells or takes over
     std::optional<MapKind> only; ///< the one kind of map to which it belongs; all if not set

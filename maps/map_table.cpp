@@ -1,7 +1,6 @@
 #include "maps/map_table.h"
 
 #include "exchange/csv_writer.h"
-#include "maps/map_words.h"
 #include "shots/fault_words.h"
 
 namespace parabolt {

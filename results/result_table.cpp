@@ -2,6 +2,7 @@
 
 #include "numbers/text_number.h"
 #include "printing/matrix_str.h"
+#include "shots/shown_figures.h"
 
 #include <algorithm>
 #include <array>
@@ -15,8 +16,7 @@ struct NumberColumn {
     std::array<std::string_view, 3> headings;
     clsMatrixStr::Align align;
     std::int16_t cellColumn;
-    float RunRecord::*field;
-    std::string_view pattern;
+    ShownFigure figure;
 };
 
 constexpr auto kRight = clsMatrixStr::Right;
@@ -24,29 +24,28 @@ constexpr auto kLeft = clsMatrixStr::Left;
 
 // The blanks at the end of some headings belong to them: they move a text off the column's edge.
 constexpr std::array<NumberColumn, 18> kNumberColumns = {{
-    {18, {"Carry", "Time ", "(sec)"}, kRight, 18, &RunRecord::CarryTime, ".00"},
-    {24, {"Carry", "Dist ", "(Yrd)"}, kRight, 24, &RunRecord::CarryDist, "0"},
-    {31, {"Launch", "Speed ", "(mph)"}, kRight, 31, &RunRecord::LaunchSpeed, ".0"},
-    {38, {"Horiz.", "Impact ", "(mph) "}, kRight, 38, &RunRecord::ImpactSpeed, ".0"},
-    {45, {"Launch", "Angle ", "(deg.)"}, kRight, 45, &RunRecord::LaunchAngle, ".0"},
-    {51, {"Ball", "Spin ", "(rpm)"}, kRight, 51, &RunRecord::RPM, "0"},
-    {58, {"Impact", "Spin ", "(rpm)"}, kRight, 58, &RunRecord::ImpactSpin, "0"},
-    {64, {"Green", "Roll ", "(ft)"}, kRight, 63, &RunRecord::GreenRoll, ".0"},
-    {70, {"Head", "Speed", "(mph)"}, kRight, 70, &RunRecord::HeadSpeed, ".0"},
-    {77, {"Head", "Weight", "(gm)"}, kRight, 77, &RunRecord::HeadWeight, ".0"},
-    {83, {"Loft", "Angle", "(deg)"}, kRight, 83, &RunRecord::LoftAngle, ".0"},
-    {90, {"Attack", "Angle ", "(deg)"}, kRight, 90, &RunRecord::AttackAngle, "0.0"},
-    {98, {"Bending", "Angle ", "(deg)"}, kRight, 98, &RunRecord::Bending, "0.0"},
-    {102, {"COR", "", ""}, kLeft, 102, &RunRecord::COR, "0.00"},
-    {108, {"Wind", "Speed", "(mph)"}, kRight, 108, &RunRecord::WindSpeed, "0"},
-    {114, {"Baro", "Pres.", "In-Hg"}, kRight, 114, &RunRecord::BaroPressure, ".0"},
-    {120, {"", "Temp.", "(deg)"}, kRight, 120, &RunRecord::Temperature, "0"},
-    {124, {"", "RH ", "(%)"}, kRight, 124, &RunRecord::RH, "0"},
+    {18, {"Carry", "Time ", "(sec)"}, kRight, 18, shown::kCarryTime},
+    {24, {"Carry", "Dist ", "(Yrd)"}, kRight, 24, shown::kCarryDist},
+    {31, {"Launch", "Speed ", "(mph)"}, kRight, 31, shown::kLaunchSpeed},
+    {38, {"Horiz.", "Impact ", "(mph) "}, kRight, 38, shown::kImpactSpeed},
+    {45, {"Launch", "Angle ", "(deg.)"}, kRight, 45, shown::kLaunchAngle},
+    {51, {"Ball", "Spin ", "(rpm)"}, kRight, 51, shown::kSpin},
+    {58, {"Impact", "Spin ", "(rpm)"}, kRight, 58, shown::kImpactSpin},
+    {64, {"Green", "Roll ", "(ft)"}, kRight, 63, shown::kGreenRoll},
+    {70, {"Head", "Speed", "(mph)"}, kRight, 70, shown::kHeadSpeed},
+    {77, {"Head", "Weight", "(gm)"}, kRight, 77, shown::kHeadWeight},
+    {83, {"Loft", "Angle", "(deg)"}, kRight, 83, shown::kLoftAngle},
+    {90, {"Attack", "Angle ", "(deg)"}, kRight, 90, shown::kAttackAngle},
+    {98, {"Bending", "Angle ", "(deg)"}, kRight, 98, shown::kBending},
+    {102, {"COR", "", ""}, kLeft, 102, shown::kCor},
+    {108, {"Wind", "Speed", "(mph)"}, kRight, 108, shown::kWindSpeed},
+    {114, {"Baro", "Pres.", "In-Hg"}, kRight, 114, shown::kPressure},
+    {120, {"", "Temp.", "(deg)"}, kRight, 120, shown::kTemperature},
+    {124, {"", "RH ", "(%)"}, kRight, 124, shown::kHumidity},
 }};
 
 constexpr std::int16_t kClubColumn = 7;
 constexpr std::int16_t kModeColumn = 12;
-constexpr std::array<std::string_view, 5> kModeCodes = {"LM", "DM", "MM", "Auto", "AM"};
 
 /// The box ends its lines with a line feed alone.
 std::string boxLines(std::string text) {
@@ -72,11 +71,10 @@ std::string composeResultRow(const RunRecord& run, std::int16_t clubNo, std::str
     clsMatrixStr line;
     line.Field(kRight, kClubColumn, 1,
                (run.IsWood ? "W-" : "I-") + std::to_string(clubNo) + "/" + std::string(number));
-    if (run.Mode >= 0 && static_cast<std::size_t>(run.Mode) < kModeCodes.size())
-        line.Field(kRight, kModeColumn, 1, kModeCodes.at(static_cast<std::size_t>(run.Mode)));
+    line.Field(kRight, kModeColumn, 1, modeCode(run.Mode));
     for (const NumberColumn& column : kNumberColumns)
         line.Field(column.align, column.cellColumn, 1,
-                   formatPattern(run.*column.field, column.pattern));
+                   formatPattern(run.*column.figure.field, column.figure.pattern));
     return line.OutForm();
 }
 

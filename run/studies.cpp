@@ -21,11 +21,11 @@ Studies::Studies(ShotControls& form, Timer& timer, ShotRun& run, RunDriver& driv
       progress_(progress) {}
 
 void Studies::mnuStyLaunch_Click() {
-    study({&ShotControls::txtLaunchAngle, {&ShotInputs::LaunchAngle, 2, 55, 1}, 20});
+    study({&ShotControls::txtLaunchAngle, kLaunchClimb, 20});
 }
 
 void Studies::mnuStySpin_Click() {
-    study({&ShotControls::txtBallSpin, {&ShotInputs::RPM, 0, 22000, 100}, 10});
+    study({&ShotControls::txtBallSpin, kSpinClimb, 10});
 }
 
 void Studies::set(const Study& study, int value) {

@@ -1,12 +1,12 @@
 # What the scripts share. First what each needs of the system, as Debian 12 packages.
 
-packages_build="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libhwy-dev nlohmann-json3-dev"
+packages_build="g++ cmake ninja-build qt6-base-dev qt6-svg-dev libhwy-dev libcli11-dev nlohmann-json3-dev"
 # Metric twins of the fonts that the forms ask for.
 packages_program="fonts-liberation fonts-dejavu-core"
-packages_test="libgtest-dev python3 locales xvfb xauth poppler-utils"
+packages_test="doxygen libgtest-dev python3 locales xvfb xauth poppler-utils"
 packages_bench="libbenchmark-dev"
 packages_screenshot="xvfb xauth xdotool imagemagick"
-packages_package="desktop-file-utils appstream shared-mime-info dpkg-dev file xvfb xauth xdotool"
+packages_package="lintian desktop-file-utils appstream shared-mime-info dpkg-dev file xvfb xauth xdotool"
 packages_ci="clang libclang-rt-14-dev clang-format clang-tidy g++-aarch64-linux-gnu qemu-user googletest"
 
 # Installs those of the given packages that are missing. Asks apt-get nothing if none is.

@@ -14,13 +14,16 @@ class RunBook {
 public:
     static constexpr int kMost = 24; ///< data sets that a book should hold; whoever adds, asks
 
+    /// Number of data sets.
     int count() const { return static_cast<int>(runs_.size()) - 1; }
 
     /// The data set of a number from 1 to `count()`.
     const RunRecord& operator[](int number) const {
         return runs_.at(static_cast<std::size_t>(number));
     }
+    /// The data set of the number `count()`.
     RunRecord& newest() { return runs_.back(); }
+    /// The same, to look at.
     const RunRecord& newest() const { return runs_.back(); }
     /// Elements 1 to `count()` are the data sets; element 0 stays empty.
     std::span<const RunRecord> records() const { return runs_; }
@@ -29,6 +32,7 @@ public:
     void add() { runs_.emplace_back(); }
     /// Takes the newest data set out again.
     void takeBack() { runs_.pop_back(); }
+    /// Takes all data sets out.
     void clear() { runs_ = std::vector<RunRecord>(1); }
 
 private:

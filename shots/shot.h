@@ -7,6 +7,7 @@ namespace parabolt {
 
 /// What is given of a shot, and what the impact model computes.
 struct OperatingMode {
+    /// The numbers of the modes, as files and records hold them.
     enum Number : std::int16_t {
         Launch,  ///< the launch is given and flown as it stands
         Default, ///< loft and head mass come from the club of the set, the rest is given
@@ -29,7 +30,8 @@ struct OperatingMode {
 ///
 /// In the modes above Launch the impact model turns the swing into the launch.
 struct Shot : ShotInputs, RunTags {
-    ImpactSources sources;
+    ImpactSources sources; ///< where the impact model takes its inputs from, besides this shot
+    /// Equal in all that decides the flight.
     friend bool operator==(const Shot&, const Shot&) = default;
 };
 

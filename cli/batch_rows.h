@@ -1,0 +1,57 @@
+#pragma once
+
+#include "cli/row_writer.h"
+#include "cli/shot_inputs.h"
+#include "exchange/csv_reader.h"
+
+#include <stop_token>
+
+namespace parabolt::cli {
+
+/// A shot of a batch, or why the row is none.
+struct BatchShot {
+    std::size_t line = 0;
+    std::string club; ///< as it stands in the row
+    Outcome<Shot, std::string> shot{Shot()};
+};
+
+/// What the columns of a table of shots mean, by its headings.
+class BatchColumns {
+public:
+    /// Nothing if the table is not one of ours: those have our ball speed among their headings, or
+    /// only headings of ours.
+    static std::optional<BatchColumns> of(const CsvRow& headings);
+    /// Headings that mean nothing here.
+    const std::vector<std::string>& unknown() const { return unknown_; }
+
+    /// The shot of a row: `base` with what its cells say. Empty cells say nothing. Beside a ball
+    /// speed or a spin, the club is only a name.
+    BatchShot shotOf(const CsvRow& row, const ShotRequest& base) const;
+
+private:
+    enum Meaning : std::size_t { Club = kShotInputs, Ball, Ignored };
+    std::vector<std::size_t> meanings_; ///< of each column: an input's place, or a `Meaning`
+    std::vector<std::string> unknown_;
+};
+
+/// The columns of the results of a batch, or of its paths.
+std::span<const Column> batchColumns();
+std::span<const Column> batchPathColumns();
+
+/// The results of some shots as text.
+struct BatchText {
+    std::string rows;
+    std::string complaints; ///< a line for each shot without a result
+    std::size_t count = 0;
+    std::size_t failed = 0;
+};
+
+/// Flies shots on the caller's thread, and writes a row for each in its order. Once a stop is
+/// requested it returns soon, with rows that mean nothing.
+BatchText flyBatch(std::span<const BatchShot> shots, const RowWriter& writer,
+                   const std::stop_token& stop);
+/// The same with the points of each path; in JSON, both.
+BatchText flyBatchPaths(std::span<const BatchShot> shots, Format format, const RowWriter& writer,
+                        const std::stop_token& stop);
+
+} // namespace parabolt::cli
