@@ -1,0 +1,67 @@
+#pragma once
+
+#include "numbers/outcome.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace parabolt {
+
+/// A row of a table. An empty line is a row with one empty cell.
+struct CsvRow {
+    std::size_t line = 0; ///< of the text, from 1, on which the row begins
+    std::vector<std::string> cells;
+    friend bool operator==(const CsvRow&, const CsvRow&) = default;
+};
+
+/// Why a text is no table.
+struct CsvFault {
+    enum class Kind { QuoteNotClosed, RowTooLong } kind;
+    std::size_t line; ///< on which the row begins
+};
+
+/// Reads what `CsvWriter` writes, and its kin, row by row from a text that comes in pieces: fields
+/// between commas or another delimiter, quotes by RFC 4180, lines that end in CR LF, LF or CR. A
+/// quote inside a field that doesn't begin with one is a character like any other.
+///
+///     while (readPiece(piece)) {
+///         reader.feed(piece);
+///         while (next row) use it;
+///     }
+///     reader.finish(), and the same once more: the last line may have no end.
+class CsvReader {
+public:
+    static constexpr std::size_t kLongestRow = std::size_t{1} << 20; ///< bytes
+
+    explicit CsvReader(char delimiter = ',') : delimiter_(delimiter) {}
+
+    /// Appends a piece of the text; it may end anywhere.
+    void feed(std::string_view piece);
+    /// The text has ended.
+    void finish() { finished_ = true; }
+    /// True if there was a complete row, now in `row`, whose memory is used again; false if it
+    /// takes more text. After a fault there is no more.
+    Outcome<bool, CsvFault> next(CsvRow& row);
+
+private:
+    Outcome<bool, CsvFault> endOfRow(std::size_t end) const;
+
+    char delimiter_;
+    std::string text_;      ///< fed and not yet thrown away
+    std::size_t start_ = 0; ///< of the next row
+    std::size_t seen_ = 0;  ///< how far its end has been looked for
+    bool quoted_ = false;   ///< whether that is inside quotes
+    std::size_t line_ = 1;
+    bool finished_ = false;
+};
+
+/// The text without a byte order mark of UTF-8.
+std::string_view withoutByteOrderMark(std::string_view text);
+
+/// The delimiter of a table: what a first line `sep=;` says; otherwise that of comma, semicolon and
+/// tab that stands most often outside quotes, the comma if none does.
+char delimiterOf(std::string_view text);
+
+} // namespace parabolt

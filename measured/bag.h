@@ -1,0 +1,71 @@
+#pragma once
+
+#include "measured/club_names.h"
+#include "measured/club_statistics.h"
+
+namespace parabolt {
+
+/// A club as the user has it in the bag, or hasn't.
+struct BagClub {
+    ClubId club;
+    std::string name;
+    bool owned = true;
+    friend bool operator==(const BagClub&, const BagClub&) = default;
+};
+
+/// Where the head speeds come from.
+enum class HeadSpeeds {
+    OfSet,   ///< from the record of each club
+    Falling, ///< the first wood and the first iron have the speed given, each next club less
+};
+
+/// What the user has chosen of the bag.
+struct BagChoice {
+    std::vector<BagClub> clubs; ///< all of the set
+    HeadSpeeds speeds = HeadSpeeds::OfSet;
+    float firstSpeed = 100; ///< mph, for falling speeds
+    float fall = 1;         ///< mph from club to club
+    double narrowest = 8;   ///< yards: a gap below is too narrow
+    double widest = 18;     ///< yards: a gap above is too wide
+    friend bool operator==(const BagChoice&, const BagChoice&) = default;
+};
+/// The usual names, and fourteen clubs owned: as many as the rules allow.
+BagChoice usualBag();
+
+/// A club's flight, beside what was measured with it.
+struct BagFlight {
+    std::size_t at = 0;  ///< the club in the choice
+    float headSpeed = 0; ///< mph, as flown
+    ModelFlight flight;
+    std::optional<Spread> measuredCarry; ///< yards, of the device
+    std::optional<Spread> measuredTotal;
+    /// The carry by which gaps are told: the model's.
+    double carry() const { return flight.figures.carry; }
+};
+
+/// Flies the clubs owned, by the impact model, in the weather and with the ball of the conditions;
+/// in the order of the choice. The whole record of each club counts, but for a falling head speed.
+std::vector<BagFlight> flyBag(const BagChoice& choice, const ClubTables& tables,
+                              const Shot& conditions);
+
+/// Puts the means of measured shots beside the flights: all clubs of the statistics that are the
+/// same club of the bag count together. Returns the names of those that are no club of the bag.
+std::vector<std::string> putBeside(std::span<BagFlight> flights, const BagChoice& choice,
+                                   std::span<const MeasuredEntry> entries, const ClubTables& tables,
+                                   const ClubAnswers& answers);
+
+/// The distance between two neighbours in carry.
+struct BagGap {
+    enum class Kind { Good, TooNarrow, TooWide };
+    std::size_t shorter = 0; ///< element of the flights
+    std::size_t longer = 0;
+    double yards = 0; ///< from 0
+    Kind kind = Kind::Good;
+    friend bool operator==(const BagGap&, const BagGap&) = default;
+};
+/// The gaps between neighbours, from the longest carry down; flights that failed are left out.
+std::vector<BagGap> gapsOf(std::span<const BagFlight> flights, double narrowest, double widest);
+/// The same between carries that come from elsewhere, such as the means of measured clubs.
+std::vector<BagGap> gapsBetween(std::span<const double> carries, double narrowest, double widest);
+
+} // namespace parabolt

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "measured/measured_flights.h"
+
+namespace parabolt {
+
+/// Figures of several shots in short.
+struct Spread {
+    std::size_t number = 0;
+    double mean = 0;
+    std::optional<double> deviation; ///< of a sample; nothing for a single figure
+    double least = 0;
+    double greatest = 0;
+    friend bool operator==(const Spread&, const Spread&) = default;
+};
+/// Nothing if there is no figure.
+std::optional<Spread> spreadOf(std::span<const double> figures);
+
+/// A shot in the list of the user.
+struct MeasuredEntry {
+    MeasuredShot shot;
+    bool struck = false;  ///< struck through: counts in no statistics
+    bool checked = false; ///< chosen for the data sets
+    friend bool operator==(const MeasuredEntry&, const MeasuredEntry&) = default;
+};
+
+/// The shots with a club, in short. Struck ones don't count.
+struct ClubStatistics {
+    std::string club;       ///< as printed
+    std::size_t number = 0; ///< shots
+    // Of the device, as far as it tells them, yards.
+    std::optional<Spread> deviceCarry;
+    std::optional<Spread> deviceTotal;
+    // Of the model, yards.
+    std::optional<Spread> modelCarry;
+    std::optional<Spread> modelTotal;
+    /// Model less device over the shots that have both: how far the model can be trusted here.
+    std::optional<Spread> carryError;
+    /// Over the carries in calm air, where they were given.
+    std::optional<Spread> normalisedCarry;
+};
+
+/// By club, in the order in which the clubs first come. `flown` holds a flight for each entry;
+/// `normalised` a carry for each, or is empty.
+std::vector<ClubStatistics> clubStatistics(std::span<const MeasuredEntry> entries,
+                                           std::span<const ModelFlight> flown,
+                                           std::span<const std::optional<double>> normalised = {});
+
+/// The checked shots that aren't struck, as shots for data sets: at most as many as a book holds.
+std::vector<Shot> checkedShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
+                               bool ownAir);
+/// The mean launch of each club, in the order of `clubStatistics`; at most as many as a book holds.
+std::vector<Shot> meanShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
+                            bool ownAir);
+
+} // namespace parabolt
