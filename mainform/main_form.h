@@ -6,6 +6,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/simple_controls.h"
 #include "controls/text_box.h"
+#include "numbers/shared_text.h"
 #include "plots/curves.h"
 #include "shots/run_book.h"
 
@@ -166,7 +167,7 @@ struct MainForm : InputControls, ResultControls, MenuControls {
     ClubTables clubs;
     std::string reportCaption; ///< what stood last in `txtCaption` of the print view
     /// State of windows that are no forms, by the names of the windows; each knows its own.
-    std::map<std::string, std::string> windows;
+    std::map<std::string, SharedText> windows;
     bool blFormLoaded = false; ///< read by the splash: is there a main form already?
     std::string caption{kApplicationTitle};
     std::function<void()> onCaption; ///< set by the view

@@ -253,7 +253,7 @@ void MapWindow::follow() {
 void MapWindow::followChoices() {
     const auto& windows = logic_.form.windows;
     const auto kept = windows.find(kMapWindow);
-    const std::string choices = kept == windows.end() ? std::string() : kept->second;
+    const std::string choices = kept == windows.end() ? std::string() : kept->second.text();
     if (choices == keptChoices_)
         return;
     keptChoices_ = choices;

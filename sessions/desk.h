@@ -3,6 +3,7 @@
 #include "clubs/club_tables.h"
 #include "engine/shot_state.h"
 #include "numbers/coloured_text.h"
+#include "numbers/shared_text.h"
 
 #include <map>
 #include <optional>
@@ -30,7 +31,7 @@ struct Desk {
     std::optional<Rgb> typingColour; ///< in which typing into the table goes on, if it was set
 
     std::string reportCaption;
-    std::map<std::string, std::string> windows; ///< state of windows that are no forms, by name
+    std::map<std::string, SharedText> windows; ///< state of windows that are no forms, by name
 
     friend bool operator==(const Desk&, const Desk&) = default;
 };

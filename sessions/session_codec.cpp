@@ -281,8 +281,16 @@ Desk readDesk(const Json& json) {
     if (const Json& colour = json.at("typingColour"); !colour.is_null())
         desk.typingColour = readColour(colour);
     desk.reportCaption = json.at("reportCaption").get<std::string>();
-    desk.windows = json.at("windows").get<std::map<std::string, std::string>>();
+    for (const auto& [window, state] : json.at("windows").get<std::map<std::string, std::string>>())
+        desk.windows[window] = state;
     return desk;
+}
+
+Json writeWindows(const std::map<std::string, SharedText>& windows) {
+    Json json = Json::object();
+    for (const auto& [window, state] : windows)
+        json[window] = state.text();
+    return json;
 }
 
 } // namespace
@@ -307,7 +315,7 @@ std::string encodeSession(const Session& session) {
         {"caret", desk.caret},
         {"typingColour", desk.typingColour ? writeColour(*desk.typingColour) : Json()},
         {"reportCaption", desk.reportCaption},
-        {"windows", desk.windows},
+        {"windows", writeWindows(desk.windows)},
     };
     // What is no UTF-8 is replaced: a text never stands in the way of the rest.
     return json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";
