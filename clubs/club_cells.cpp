@@ -36,18 +36,16 @@ constexpr std::array<ClubRow, kClubRows> kRows = {{
     {"Bend Angle", &ClubRecord::Bending, kBending, kBending},
 }};
 
-/// Number of the wood in each column.
-constexpr std::array<std::size_t, kWoodCols> kWoodOfColumn = {0, 1, 2, 3, 4, 5, 7, 9, 10};
-
 const ClubRow& rowAt(int row) {
     return kRows.at(static_cast<std::size_t>(row));
 }
 
 template <class Tables>
 auto& fieldOf(Tables& tables, ClubKind kind, int row, int col) {
-    const auto column = static_cast<std::size_t>(col);
-    auto& club = kind == ClubKind::Irons ? tables.Irons.at(column)
-                                         : tables.Woods.at(kWoodOfColumn.at(column));
+    const bool iron = kind == ClubKind::Irons;
+    const auto number =
+        static_cast<std::size_t>(clubNumbers(iron)[static_cast<std::size_t>(col) - 1]);
+    auto& club = iron ? tables.Irons.at(number) : tables.Woods.at(number);
     return club.*rowAt(row).field;
 }
 

@@ -5,8 +5,11 @@
 namespace parabolt {
 namespace {
 
-constexpr std::array<std::int16_t, 12> kPlayableIrons = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-constexpr std::array<std::int16_t, 7> kPlayableWoods = {1, 2, 3, 4, 5, 7, 9};
+// Those that can be played come first.
+constexpr std::array<std::int16_t, 14> kIrons = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14};
+constexpr std::array<std::int16_t, 8> kWoods = {1, 2, 3, 4, 5, 7, 9, 10};
+constexpr std::size_t kPlayableIrons = 12;
+constexpr std::size_t kPlayableWoods = 7;
 
 } // namespace
 
@@ -50,10 +53,14 @@ ClubTables InitClubTables() {
     return tables;
 }
 
-std::span<const std::int16_t> playableClubs(bool iron) {
+std::span<const std::int16_t> clubNumbers(bool iron) {
     if (iron)
-        return kPlayableIrons;
-    return kPlayableWoods;
+        return kIrons;
+    return kWoods;
+}
+
+std::span<const std::int16_t> playableClubs(bool iron) {
+    return clubNumbers(iron).first(iron ? kPlayableIrons : kPlayableWoods);
 }
 
 const ClubRecord* playableClub(const ClubTables& tables, bool iron, std::int16_t clubNo) {

@@ -24,6 +24,9 @@ struct ClubTables {
 /// The default set.
 ClubTables InitClubTables();
 
+/// Numbers of all clubs of the set, those of the editor's grids.
+std::span<const std::int16_t> clubNumbers(bool iron);
+
 /// Club numbers that can be played, as the list of the main form offers them.
 std::span<const std::int16_t> playableClubs(bool iron);
 

@@ -42,26 +42,28 @@ public:
     /// The text has ended.
     void finish() { finished_ = true; }
     /// True if there was a complete row, now in `row`, whose memory is used again; false if it
-    /// takes more text. After a fault there is no more.
+    /// takes more text. A fault stays.
     Outcome<bool, CsvFault> next(CsvRow& row);
 
 private:
-    Outcome<bool, CsvFault> endOfRow(std::size_t end) const;
+    Outcome<bool, CsvFault> incomplete(std::size_t length) const;
 
     char delimiter_;
     std::string text_;      ///< fed and not yet thrown away
     std::size_t start_ = 0; ///< of the next row
-    std::size_t seen_ = 0;  ///< how far its end has been looked for
-    bool quoted_ = false;   ///< whether that is inside quotes
-    std::size_t line_ = 1;
+    std::size_t line_ = 1;  ///< of the next row
     bool finished_ = false;
 };
 
 /// The text without a byte order mark of UTF-8.
 std::string_view withoutByteOrderMark(std::string_view text);
 
-/// The delimiter of a table: what a first line `sep=;` says; otherwise that of comma, semicolon and
-/// tab that stands most often outside quotes, the comma if none does.
+/// The delimiter of a table by its first lines: what a line `sep=;` before it says; otherwise that
+/// of comma, semicolon and tab that stands most often outside quotes, the comma if none does. One
+/// between two digits doesn't count: it may be a decimal comma.
 char delimiterOf(std::string_view text);
+
+/// True for the line before a table that names its delimiter, `sep=;`: it is no row of it.
+bool namesDelimiter(const CsvRow& row);
 
 } // namespace parabolt

@@ -1,10 +1,14 @@
 #include "exchange/csv_writer.h"
 
+#include "exchange/csv_rules.h"
+
 #include <array>
 #include <charconv>
 
 namespace parabolt {
 namespace {
+
+constexpr char kDelimiter = ',';
 
 template <class Number>
 void append(std::string& text, Number number) {
@@ -17,20 +21,20 @@ void append(std::string& text, Number number) {
 
 void CsvWriter::startField() {
     if (rowStarted_)
-        text_ += ',';
+        text_ += kDelimiter;
     rowStarted_ = true;
 }
 
 CsvWriter& CsvWriter::field(std::string_view text) {
     startField();
-    if (text.find_first_of(",\"\r\n") == std::string_view::npos) {
+    if (!needsCsvQuotes(text, kDelimiter)) {
         text_ += text;
         return *this;
     }
-    text_ += '"';
+    text_ += kCsvQuote;
     for (const char c : text)
-        text_.append(c == '"' ? 2 : 1, c);
-    text_ += '"';
+        text_.append(c == kCsvQuote ? 2 : 1, c);
+    text_ += kCsvQuote;
     return *this;
 }
 
@@ -47,7 +51,7 @@ CsvWriter& CsvWriter::field(float number) {
 }
 
 void CsvWriter::endRow() {
-    text_ += "\r\n";
+    text_ += kCsvLineEnd;
     rowStarted_ = false;
 }
 

@@ -64,21 +64,10 @@ double smoothFigure(const MapFlight& flight, MapOutcome outcome) {
 }
 
 std::vector<MapCell> flyAll(std::span<const Shot> shots, const std::stop_token& stop) {
-    std::vector<Outcome<ShotState, Fault>> prepared;
-    std::vector<ShotState> states; // of those that have air and launch
-    prepared.reserve(shots.size());
-    states.reserve(shots.size());
-    for (const Shot& shot : shots)
-        if (const auto& state = prepared.emplace_back(prepare(shot)))
-            states.push_back(*state);
-    const auto flights = SimulateFlights(states, stop);
-    if (flights.size() != states.size())
-        return {};
     std::vector<MapCell> cells;
     cells.reserve(shots.size());
-    auto flight = flights.begin();
-    for (const auto& state : prepared)
-        cells.push_back(state ? cellOf(*flight++) : MapCell(because(state.why())));
+    for (const FlightOutcome& flight : flyMany(shots, stop))
+        cells.push_back(cellOf(flight));
     return cells;
 }
 

@@ -24,10 +24,13 @@ struct DeviceFigures {
 
 /// The air of a shot, as far as its file tells it.
 struct MeasuredAir {
-    std::optional<double> density;     ///< kg/m3
-    std::optional<double> temperature; ///< degrees Fahrenheit
-    std::optional<double> pressure;    ///< inches of mercury, at the place, not at sea level
-    std::optional<double> humidity;    ///< percent
+    std::optional<double> wind;             ///< mph, along the line; above 0 against the ball
+    std::optional<double> altitude;         ///< feet
+    std::optional<double> density;          ///< kg/m3
+    std::optional<double> temperature;      ///< degrees Fahrenheit
+    std::optional<double> pressure;         ///< inches of mercury, at the place, not at sea level
+    std::optional<double> seaLevelPressure; ///< inches of mercury, reduced to sea level
+    std::optional<double> humidity;         ///< percent
     friend bool operator==(const MeasuredAir&, const MeasuredAir&) = default;
 };
 

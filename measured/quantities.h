@@ -41,9 +41,12 @@ enum class Quantity {
     Height,
     LandingAngle,
     Time,
+    Wind,     ///< along the line, above 0 against the ball
+    Altitude, ///< of the course
     AirDensity,
     Temperature,
-    Pressure, ///< at the place
+    Pressure,         ///< at the place
+    SeaLevelPressure, ///< reduced to sea level
     Humidity,
 };
 
@@ -63,8 +66,7 @@ std::string_view nameOf(MeasuredUnit unit);
 std::optional<MeasuredUnit> unitNamed(std::string_view text);
 /// True if the quantity may be given in the unit.
 bool suits(MeasuredUnit unit, Quantity quantity);
-/// A value in the program's unit of its kind: mph, yards, degrees, rpm, seconds, degrees
-/// Fahrenheit, inches of mercury, kg/m3, percent.
-double inProgramUnit(double value, MeasuredUnit unit);
+/// A value of a quantity in the program's unit of it.
+double inUnitOf(Quantity quantity, double value, MeasuredUnit unit);
 
 } // namespace parabolt

@@ -19,6 +19,27 @@ Outcome<FlownShot, NotFlown> fly(const Shot& shot) {
     return flown;
 }
 
+std::vector<FlightOutcome> flyMany(std::span<const Shot> shots, const std::stop_token& stop) {
+    std::vector<FlightOutcome> outcomes(shots.size());
+    std::vector<ShotState> states;    // of those that have air and launch
+    std::vector<std::size_t> numbers; // of their shots
+    for (std::size_t number = 0; number < shots.size(); ++number) {
+        const auto state = prepare(shots[number]);
+        if (state) {
+            states.push_back(*state);
+            numbers.push_back(number);
+        } else {
+            outcomes[number].fault = state.why();
+        }
+    }
+    const auto flights = SimulateFlights(states, stop);
+    if (flights.size() != states.size())
+        return {};
+    for (std::size_t flown = 0; flown < flights.size(); ++flown)
+        outcomes[numbers[flown]] = flights[flown];
+    return outcomes;
+}
+
 Outcome<ShotState, Fault> deriveAir(const ShotInputs& inputs) {
     ShotState state{inputs};
     if (const auto air = ComputeEnvironment(state); !air)

@@ -1,8 +1,12 @@
 #pragma once
 
+#include "engine/many_flights.h"
 #include "shots/shot.h"
 
 #include <optional>
+#include <span>
+#include <stop_token>
+#include <vector>
 
 namespace parabolt {
 
@@ -23,6 +27,10 @@ struct NotFlown {
 /// Flies a shot: derives the air from the weather, computes the launch where the mode asks for it,
 /// and integrates the flight to the first step below the ground.
 Outcome<FlownShot, NotFlown> fly(const Shot& shot);
+
+/// Flies many shots at once, without their paths; outcomes in their order, the fault also of those
+/// that have no air or no launch. Once a stop is requested it returns soon, with none.
+std::vector<FlightOutcome> flyMany(std::span<const Shot> shots, const std::stop_token& stop = {});
 
 // The same in steps, for callers with many shots.
 

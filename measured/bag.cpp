@@ -1,0 +1,137 @@
+#include "measured/bag.h"
+
+#include "numbers/rounding.h"
+#include "shots/fly.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace parabolt {
+namespace {
+
+/// Clubs of the usual bag: driver, 3W, 5W, irons 4 to 9, four wedges, and the 3 iron.
+bool isUsuallyOwned(ClubId club) {
+    return club.iron ? club.number >= 3 && club.number <= 13
+                     : club.number == 1 || club.number == 3 || club.number == 5;
+}
+
+/// The place of a club among those of its sort, from 0.
+std::size_t placeOf(ClubId club) {
+    const auto numbers = clubNumbers(club.iron);
+    return static_cast<std::size_t>(std::find(numbers.begin(), numbers.end(), club.number) -
+                                    numbers.begin());
+}
+
+/// The swing with a club of the bag.
+Shot swingWith(ClubId club, const BagChoice& choice, const ClubTables& tables,
+               const Shot& conditions) {
+    ClubRecord record = recordOf(tables, club);
+    if (choice.speeds == HeadSpeeds::Falling)
+        record.HeadSpeed =
+            store32(double{choice.firstSpeed} - static_cast<double>(placeOf(club)) * choice.fall);
+    Shot shot = conditions;
+    shot.Mode = OperatingMode::Auto;
+    shot.IsWood = !club.iron;
+    shot.ClubNo = club.number;
+    shot.sources = {.club = record, .wholeRecord = true, .measuredLaunchAngle = std::nullopt};
+    return shot;
+}
+
+BagGap::Kind kindOf(double yards, double narrowest, double widest) {
+    if (yards < narrowest)
+        return BagGap::Kind::TooNarrow;
+    return yards > widest ? BagGap::Kind::TooWide : BagGap::Kind::Good;
+}
+
+} // namespace
+
+BagChoice usualBag() {
+    BagChoice choice;
+    for (const ClubId club : clubsOfSet())
+        choice.clubs.push_back({club, usualName(club), isUsuallyOwned(club)});
+    return choice;
+}
+
+std::vector<BagFlight> flyBag(const BagChoice& choice, const ClubTables& tables,
+                              const Shot& conditions) {
+    std::vector<BagFlight> flights;
+    std::vector<Shot> swings;
+    for (std::size_t at = 0; at < choice.clubs.size(); ++at) {
+        if (!choice.clubs[at].owned)
+            continue;
+        swings.push_back(swingWith(choice.clubs[at].club, choice, tables, conditions));
+        BagFlight& flight = flights.emplace_back();
+        flight.at = at;
+        flight.headSpeed = swings.back().sources.club->HeadSpeed;
+    }
+    const auto outcomes = flyMany(swings);
+    for (std::size_t number = 0; number < outcomes.size(); ++number)
+        flights[number].flight = {outcomes[number].fault, figuresOf(outcomes[number])};
+    return flights;
+}
+
+std::vector<std::string> putBeside(std::span<BagFlight> flights, const BagChoice& choice,
+                                   std::span<const MeasuredEntry> entries, const ClubTables& tables,
+                                   const ClubAnswers& answers) {
+    struct Carries {
+        std::vector<double> carry;
+        std::vector<double> total;
+    };
+    std::vector<Carries> measured(flights.size());
+    std::vector<std::string> unknown;
+    for (const MeasuredEntry& entry : entries) {
+        if (entry.struck)
+            continue;
+        const auto club = clubNamed(entry.shot.club, tables, answers);
+        const auto flight = std::find_if(flights.begin(), flights.end(), [&](const auto& other) {
+            const BagClub& owned = choice.clubs[other.at];
+            return owned.name == entry.shot.club || owned.club == club;
+        });
+        if (flight == flights.end()) {
+            if (std::find(unknown.begin(), unknown.end(), entry.shot.club) == unknown.end())
+                unknown.push_back(entry.shot.club);
+            continue;
+        }
+        Carries& carries = measured[static_cast<std::size_t>(flight - flights.begin())];
+        if (entry.shot.device.carry)
+            carries.carry.push_back(*entry.shot.device.carry);
+        if (entry.shot.device.total)
+            carries.total.push_back(*entry.shot.device.total);
+    }
+    for (std::size_t number = 0; number < flights.size(); ++number) {
+        flights[number].measuredCarry = spreadOf(measured[number].carry);
+        flights[number].measuredTotal = spreadOf(measured[number].total);
+    }
+    return unknown;
+}
+
+std::vector<BagGap> gapsBetween(std::span<const double> carries, double narrowest, double widest) {
+    std::vector<std::size_t> order(carries.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return carries[a] > carries[b]; });
+    std::vector<BagGap> gaps;
+    for (std::size_t place = 1; place < order.size(); ++place) {
+        const double yards = carries[order[place - 1]] - carries[order[place]];
+        gaps.push_back({order[place], order[place - 1], yards, kindOf(yards, narrowest, widest)});
+    }
+    return gaps;
+}
+
+std::vector<BagGap> gapsOf(std::span<const BagFlight> flights, double narrowest, double widest) {
+    std::vector<std::size_t> landed;
+    std::vector<double> carries;
+    for (std::size_t number = 0; number < flights.size(); ++number)
+        if (!flights[number].flight.fault) {
+            landed.push_back(number);
+            carries.push_back(flights[number].carry());
+        }
+    auto gaps = gapsBetween(carries, narrowest, widest);
+    for (BagGap& gap : gaps) {
+        gap.shorter = landed[gap.shorter];
+        gap.longer = landed[gap.longer];
+    }
+    return gaps;
+}
+
+} // namespace parabolt

@@ -1,0 +1,177 @@
+#include "measured/quantities.h"
+
+#include "numbers/characters.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace parabolt {
+namespace {
+
+using enum MeasuredUnit;
+
+/// By factor and offset into the program's unit.
+struct UnitRow {
+    MeasuredUnit unit;
+    std::string_view name;
+    double factor;
+    double offset;
+};
+constexpr std::array<UnitRow, 17> kUnits = {{
+    {None, "", 1, 0},
+    {Mph, "mph", 1, 0},
+    {KilometresPerHour, "km/h", 1 / 1.609344, 0},
+    {MetresPerSecond, "m/s", 1 / 0.44704, 0},
+    {Yards, "yd", 1, 0},
+    {Feet, "ft", 1 / 3.0, 0},
+    {Metres, "m", 1 / 0.9144, 0},
+    {Degrees, "deg", 1, 0},
+    {Rpm, "rpm", 1, 0},
+    {Seconds, "s", 1, 0},
+    {Fahrenheit, "deg F", 1, 0},
+    {Celsius, "deg C", 1.8, 32},
+    {InchesOfMercury, "inHg", 1, 0},
+    {Hectopascals, "hPa", 1 / 33.86389, 0},
+    {Kilopascals, "kPa", 10 / 33.86389, 0},
+    {KilogramsPerCubicMetre, "kg/m3", 1, 0},
+    {Percent, "%", 1, 0},
+}};
+
+/// Other ways to write a unit, in small letters.
+struct Spelling {
+    std::string_view text;
+    MeasuredUnit unit;
+};
+constexpr std::array<Spelling, 43> kSpellings = {{
+    {"mph", Mph},
+    {"mi/h", Mph},
+    {"km/h", KilometresPerHour},
+    {"kmh", KilometresPerHour},
+    {"kph", KilometresPerHour},
+    {"m/s", MetresPerSecond},
+    {"mps", MetresPerSecond},
+    {"yd", Yards},
+    {"yds", Yards},
+    {"yard", Yards},
+    {"yards", Yards},
+    {"หลา", Yards},
+    {"ft", Feet},
+    {"feet", Feet},
+    {"m", Metres},
+    {"meter", Metres},
+    {"meters", Metres},
+    {"metres", Metres},
+    {"ม", Metres},
+    {"deg", Degrees},
+    {"degrees", Degrees},
+    {"°", Degrees},
+    {"º", Degrees},
+    {"grad", Degrees},
+    {"rpm", Rpm},
+    {"u/min", Rpm},
+    {"s", Seconds},
+    {"sec", Seconds},
+    {"seconds", Seconds},
+    {"f", Fahrenheit},
+    {"°f", Fahrenheit},
+    {"deg f", Fahrenheit},
+    {"c", Celsius},
+    {"°c", Celsius},
+    {"deg c", Celsius},
+    {"inhg", InchesOfMercury},
+    {"hpa", Hectopascals},
+    {"mbar", Hectopascals},
+    {"kpa", Kilopascals},
+    {"g/l", KilogramsPerCubicMetre},
+    {"kg/m3", KilogramsPerCubicMetre},
+    {"kg/m³", KilogramsPerCubicMetre},
+    {"%", Percent},
+}};
+
+constexpr std::array kSpeeds = {Mph, KilometresPerHour, MetresPerSecond};
+constexpr std::array kAngles = {Degrees};
+constexpr std::array kSpins = {Rpm};
+constexpr std::array kLengths = {Yards, Feet, Metres};
+constexpr std::array kTimes = {Seconds};
+constexpr std::array kDensities = {KilogramsPerCubicMetre};
+constexpr std::array kTemperatures = {Fahrenheit, Celsius};
+constexpr std::array kPressures = {InchesOfMercury, Hectopascals, Kilopascals};
+constexpr std::array kShares = {Percent};
+
+constexpr std::array<QuantityText, 19> kQuantities = {{
+    {Quantity::Shot, "Shot number", None, {}},
+    {Quantity::Club, "Club", None, {}},
+    {Quantity::BallSpeed, "Ball speed", Mph, kSpeeds},
+    {Quantity::LaunchAngle, "Launch angle", Degrees, kAngles},
+    {Quantity::BackSpin, "Back spin", Rpm, kSpins},
+    {Quantity::TotalSpin, "Total spin", Rpm, kSpins},
+    {Quantity::SpinAxis, "Spin axis", Degrees, kAngles},
+    {Quantity::Carry, "Carry", Yards, kLengths},
+    {Quantity::Total, "Total", Yards, kLengths},
+    {Quantity::Height, "Height", Yards, kLengths},
+    {Quantity::LandingAngle, "Landing angle", Degrees, kAngles},
+    {Quantity::Time, "Time", Seconds, kTimes},
+    {Quantity::Wind, "Wind", Mph, kSpeeds},
+    {Quantity::Altitude, "Altitude", Feet, kLengths},
+    {Quantity::AirDensity, "Air density", KilogramsPerCubicMetre, kDensities},
+    {Quantity::Temperature, "Temperature", Fahrenheit, kTemperatures},
+    {Quantity::Pressure, "Pressure at the place", InchesOfMercury, kPressures},
+    {Quantity::SeaLevelPressure, "Pressure at sea level", InchesOfMercury, kPressures},
+    {Quantity::Humidity, "Humidity", Percent, kShares},
+}};
+
+const UnitRow& rowOf(MeasuredUnit unit) {
+    return *std::find_if(kUnits.begin(), kUnits.end(),
+                         [unit](const UnitRow& row) { return row.unit == unit; });
+}
+
+std::string_view trimmed(std::string_view text, std::string_view what) {
+    const std::size_t first = text.find_first_not_of(what);
+    if (first == std::string_view::npos)
+        return {};
+    return text.substr(first, text.find_last_not_of(what) - first + 1);
+}
+
+std::optional<MeasuredUnit> spelled(std::string_view text) {
+    for (const Spelling& spelling : kSpellings)
+        if (spelling.text == text)
+            return spelling.unit;
+    return std::nullopt;
+}
+
+} // namespace
+
+std::span<const QuantityText> quantities() {
+    return kQuantities;
+}
+
+const QuantityText& textOf(Quantity quantity) {
+    return *std::find_if(kQuantities.begin(), kQuantities.end(),
+                         [quantity](const auto& text) { return text.quantity == quantity; });
+}
+
+std::string_view nameOf(MeasuredUnit unit) {
+    return rowOf(unit).name;
+}
+
+std::optional<MeasuredUnit> unitNamed(std::string_view text) {
+    const std::string lower = lowerCase(trimmed(text, "[]() .\t"));
+    if (const auto unit = spelled(lower))
+        return unit;
+    // "deg L-/R+": the sense of the sign stands behind the unit.
+    return spelled(trimmed(std::string_view(lower).substr(0, lower.find(' ')), "."));
+}
+
+bool suits(MeasuredUnit unit, Quantity quantity) {
+    const auto units = textOf(quantity).units;
+    return std::find(units.begin(), units.end(), unit) != units.end();
+}
+
+double inUnitOf(Quantity quantity, double value, MeasuredUnit unit) {
+    const UnitRow& from = rowOf(unit);
+    const UnitRow& to = rowOf(textOf(quantity).unit);
+    return unit == to.unit ? value : (value * from.factor + from.offset - to.offset) / to.factor;
+}
+
+} // namespace parabolt

@@ -1,0 +1,140 @@
+#include "measured/shot_file.h"
+
+#include "files/code_page.h"
+#include "measured/cell_number.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace parabolt {
+namespace {
+
+ImportFault aboutFile(std::string message) {
+    return {0, std::move(message)};
+}
+
+ImportFault aboutLine(std::size_t line, const std::string& message) {
+    return {line, "Line " + std::to_string(line) + ": " + message};
+}
+
+/// Bytes of the character that begins here in UTF-8; 0 if none does.
+std::size_t lengthInUtf8(std::string_view text) {
+    const auto first = static_cast<unsigned char>(text.front());
+    const std::size_t length = first < 0x80                    ? 1U
+                               : first >= 0xC2 && first < 0xE0 ? 2U
+                               : first >= 0xE0 && first < 0xF0 ? 3U
+                               : first >= 0xF0 && first < 0xF5 ? 4U
+                                                               : 0U;
+    if (length == 0 || length > text.size())
+        return 0;
+    const auto follows = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
+    return std::all_of(text.begin() + 1, text.begin() + static_cast<std::ptrdiff_t>(length),
+                       follows)
+               ? length
+               : 0;
+}
+
+bool isUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t length = lengthInUtf8(text);
+        if (length == 0)
+            return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+void appendUtf8(std::string& text, std::uint32_t character) {
+    const auto append = [&text](std::uint32_t byte) { text += static_cast<char>(byte); };
+    if (character < 0x80) {
+        append(character);
+    } else if (character < 0x800) {
+        append(0xC0U | character >> 6U);
+        append(0x80U | (character & 0x3FU));
+    } else {
+        if (character < 0x10000) {
+            append(0xE0U | character >> 12U);
+        } else {
+            append(0xF0U | character >> 18U);
+            append(0x80U | (character >> 12U & 0x3FU));
+        }
+        append(0x80U | (character >> 6U & 0x3FU));
+        append(0x80U | (character & 0x3FU));
+    }
+}
+
+/// UTF-16, of which each unit has its high byte first or last. Half a pair becomes a question mark.
+std::string fromUtf16(std::string_view bytes, bool highFirst) {
+    const auto unit = [&](std::size_t at) -> std::uint32_t {
+        const auto first = static_cast<unsigned char>(bytes[at]);
+        const auto second = static_cast<unsigned char>(bytes[at + 1]);
+        return highFirst ? first * 256U + second : second * 256U + first;
+    };
+    std::string text;
+    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
+        std::uint32_t character = unit(at);
+        if (character >= 0xD800 && character < 0xE000) {
+            const std::uint32_t low = at + 3 < bytes.size() ? unit(at + 2) : 0;
+            const bool pair = character < 0xDC00 && low >= 0xDC00 && low < 0xE000;
+            character = pair ? 0x10000 + ((character - 0xD800) << 10U) + (low - 0xDC00) : '?';
+            at += pair ? 2U : 0U;
+        }
+        appendUtf8(text, character);
+    }
+    return text;
+}
+
+Outcome<std::string, ImportFault> textOf(std::string_view bytes) {
+    constexpr std::string_view kHighFirst = "\xFE\xFF";
+    constexpr std::string_view kLowFirst = "\xFF\xFE";
+    std::string text;
+    if (bytes.starts_with(kHighFirst) || bytes.starts_with(kLowFirst))
+        text = fromUtf16(bytes.substr(2), bytes.starts_with(kHighFirst));
+    else if (bytes.size() > 1 && bytes[1] == '\0' && bytes[0] != '\0')
+        text = fromUtf16(bytes, false);
+    else if (isUtf8(bytes))
+        text = withoutByteOrderMark(bytes);
+    else
+        text = fromCodePage(bytes);
+    if (text.find('\0') != std::string::npos)
+        return because(aboutFile("This is no text file: tables of shots are read from CSV and text "
+                                 "files."));
+    return text;
+}
+
+} // namespace
+
+Outcome<ShotFile, ImportFault> readShotFile(std::string_view bytes) {
+    if (bytes.size() > kLongestShotFile)
+        return because(aboutFile("The file is larger than 10 MB."));
+    const auto text = textOf(bytes);
+    if (!text)
+        return because(text.why());
+    ShotFile file{delimiterOf(*text), {}};
+    CsvReader reader(file.delimiter);
+    reader.feed(*text);
+    reader.finish();
+    for (CsvRow row;;) {
+        const auto read = reader.next(row);
+        if (!read)
+            return because(
+                aboutLine(read.why().line, read.why().kind == CsvFault::Kind::QuoteNotClosed
+                                               ? "a quote is opened and never closed."
+                                               : "the row is too long for a table of shots."));
+        if (!*read)
+            break;
+        const bool empty = std::all_of(row.cells.begin(), row.cells.end(), [](const auto& cell) {
+            return withoutBlanks(cell).empty();
+        });
+        if (empty || namesDelimiter(row))
+            continue;
+        if (file.rows.size() == kMostShotRows)
+            return because(aboutLine(row.line, "the file has more than 10,000 rows."));
+        file.rows.push_back(row);
+    }
+    if (file.rows.empty())
+        return because(aboutFile("The file is empty."));
+    return file;
+}
+
+} // namespace parabolt

@@ -1,0 +1,316 @@
+#include "measured/shot_import.h"
+
+#include "measured/cell_number.h"
+#include "measured/club_names.h"
+#include "measured/columns.h"
+#include "numbers/characters.h"
+#include "numbers/rounding.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <numbers>
+#include <utility>
+
+namespace parabolt {
+namespace {
+
+/// True for a row that sums up others: one of its cells says so.
+bool isSummary(const CsvRow& row) {
+    constexpr std::array<std::string_view, 15> kWords = {"average",
+                                                         "averages",
+                                                         "avg",
+                                                         "mean",
+                                                         "median",
+                                                         "stddev",
+                                                         "stdev",
+                                                         "sd",
+                                                         "consistency",
+                                                         "deviation",
+                                                         "standarddeviation",
+                                                         "summary",
+                                                         "min",
+                                                         "max",
+                                                         "durchschnitt"};
+    return std::any_of(row.cells.begin(), row.cells.end(), [&kWords](const std::string& cell) {
+        std::string word = lowerCase(cell);
+        std::erase_if(word, [](char c) { return c == ' ' || c == '.' || c == ':'; });
+        return std::find(kWords.begin(), kWords.end(), word) != kWords.end();
+    });
+}
+
+/// The text of a row that has no other cell than its first; empty for any other row.
+std::string loneText(const CsvRow& row) {
+    const auto empty = [](const std::string& cell) { return withoutBlanks(cell).empty(); };
+    return std::all_of(row.cells.begin() + 1, row.cells.end(), empty)
+               ? withoutBlanks(row.cells.front())
+               : std::string();
+}
+
+/// The club that a lone text stands for, as printed: of "CLUB: 7 IRON" what is behind the colon.
+/// Empty for what tells something else, such as "PLAYER: Ann".
+std::string clubOfLabel(const std::string& text) {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string::npos)
+        return text;
+    return lowerCase(text.substr(0, colon)).ends_with("club")
+               ? withoutBlanks(text.substr(colon + 1))
+               : std::string();
+}
+
+/// True if the numbers of a file have decimal commas. Between commas they can't, but in quotes.
+bool hasDecimalCommas(const ShotFile& file) {
+    std::ptrdiff_t commas = 0;
+    std::ptrdiff_t points = 0;
+    for (const CsvRow& row : file.rows)
+        for (const std::string& cell : row.cells)
+            if (cell.find_first_not_of("0123456789.,+- ") == std::string::npos) {
+                commas += std::count(cell.begin(), cell.end(), ',');
+                points += std::count(cell.begin(), cell.end(), '.');
+            }
+    return file.delimiter != ',' && commas > points;
+}
+
+/// What a row tells of a quantity.
+struct Reading {
+    std::optional<double> value; ///< in the program's unit
+    std::string problem;         ///< why there is none, if a cell says something else
+};
+
+/// What the columns below a row mean, if it is one of headings.
+using FindColumns = std::function<std::optional<std::vector<ColumnMeaning>>(const CsvRow&)>;
+
+/// Goes through the rows of a file.
+class ShotRows {
+public:
+    /// Whether a row of units below the headings counts, or only those that the user has chosen.
+    enum class Units { OfFile, Chosen };
+
+    /// Columns are given where the rows begin without headings.
+    ShotRows(const ShotFile& file, FindColumns findColumns, Units units,
+             std::vector<ColumnMeaning> columns = {})
+        : findColumns_(std::move(findColumns)),
+          units_(units),
+          decimalComma_(hasDecimalCommas(file)),
+          columns_(std::move(columns)) {
+        for (const CsvRow& row : file.rows)
+            take(row);
+    }
+
+    std::vector<ImportRow> rows() && { return std::move(rows_); }
+
+private:
+    void take(const CsvRow& row) {
+        if (auto found = findColumns_(row)) {
+            columns_ = std::move(*found);
+            unitsMayFollow_ = true;
+        } else if (std::exchange(unitsMayFollow_, false) && isOfUnits(row)) {
+            return;
+        } else if (const std::string label = loneText(row); !label.empty() && !isNumbered(row)) {
+            takeLabel(label);
+        } else if (!columns_.empty()) {
+            rows_.push_back(rowOf(row));
+            ImportRow& last = rows_.back();
+            last.taken = last.reason.empty();
+        }
+    }
+
+    bool isOfUnits(const CsvRow& row) {
+        auto told = columns_;
+        if (!takeUnits(row, told))
+            return false;
+        if (units_ == Units::OfFile)
+            columns_ = std::move(told);
+        return true;
+    }
+
+    /// A label before the first headings is most often a title: there it must look like a club.
+    void takeLabel(const std::string& label) {
+        constexpr std::size_t kShort = 4;
+        static const ClubTables set = InitClubTables();
+        const std::string club = clubOfLabel(label);
+        if (!club.empty() && (!columns_.empty() || club.size() <= kShort || clubNamed(club, set)))
+            block_ = club;
+    }
+
+    /// True if a row has the number of a shot.
+    bool isNumbered(const CsvRow& row) const {
+        return has(Quantity::Shot) && read(row, Quantity::Shot).value.has_value();
+    }
+
+    bool has(Quantity quantity) const {
+        return std::any_of(columns_.begin(), columns_.end(),
+                           [quantity](const auto& column) { return column.quantity == quantity; });
+    }
+
+    Reading read(const CsvRow& row, Quantity quantity) const;
+    std::string clubOf(const CsvRow& row) const;
+    std::string readLaunch(const CsvRow& row, MeasuredShot& shot, std::string& remark) const;
+    Reading backSpin(const CsvRow& row, std::string& remark) const;
+    ImportRow rowOf(const CsvRow& row) const;
+
+    FindColumns findColumns_;
+    Units units_;
+    bool decimalComma_;
+    std::vector<ColumnMeaning> columns_;
+    bool unitsMayFollow_ = false;
+    std::string block_; ///< the club of the rows that follow
+    std::vector<ImportRow> rows_;
+};
+
+Reading ShotRows::read(const CsvRow& row, Quantity quantity) const {
+    const QuantityText& text = textOf(quantity);
+    const bool whole = quantity == Quantity::BackSpin || quantity == Quantity::TotalSpin;
+    Reading reading;
+    for (const ColumnMeaning& column : columns_) {
+        const std::string_view cell = cellOf(row, column.column);
+        if (column.quantity != quantity || isMissing(cell))
+            continue;
+        const auto value = cellNumber(cell, decimalComma_, whole);
+        if (!column.unknownUnit.empty())
+            reading.problem = lowerCase(text.name) + " in an unknown unit, " + column.unknownUnit;
+        else if (!value)
+            reading.problem =
+                lowerCase(text.name) + " \"" + withoutBlanks(cell) + "\" is no number";
+        else if (text.units.empty())
+            return {value, {}};
+        else if (column.unit != MeasuredUnit::None)
+            return {inUnitOf(quantity, *value, column.unit), {}};
+    }
+    return reading;
+}
+
+std::string ShotRows::clubOf(const CsvRow& row) const {
+    for (const ColumnMeaning& column : columns_)
+        if (column.quantity == Quantity::Club && !isMissing(cellOf(row, column.column)))
+            return withoutBlanks(cellOf(row, column.column));
+    return block_;
+}
+
+Reading ShotRows::backSpin(const CsvRow& row, std::string& remark) const {
+    Reading spin = read(row, Quantity::BackSpin);
+    if (spin.value)
+        return spin;
+    const Reading total = read(row, Quantity::TotalSpin);
+    if (!total.value)
+        return spin.problem.empty() ? total : spin;
+    const auto axis = read(row, Quantity::SpinAxis).value;
+    if (!axis)
+        remark = "total spin taken for back spin: no spin axis";
+    return {*total.value * std::cos(axis.value_or(0) * std::numbers::pi / 180), {}};
+}
+
+/// Reads what is flown; why that isn't there, if so.
+std::string ShotRows::readLaunch(const CsvRow& row, MeasuredShot& shot, std::string& remark) const {
+    struct Launch {
+        Reading reading;
+        float MeasuredShot::*member;
+        std::string_view missing;
+    };
+    const std::array<Launch, 3> launch = {{
+        {read(row, Quantity::BallSpeed), &MeasuredShot::ballSpeed, "no ball speed"},
+        {read(row, Quantity::LaunchAngle), &MeasuredShot::launchAngle, "no launch angle"},
+        {backSpin(row, remark), &MeasuredShot::backSpin, "no spin"},
+    }};
+    std::string reason;
+    for (const Launch& part : launch) {
+        if (part.reading.value)
+            shot.*part.member = store32(*part.reading.value);
+        else if (reason.empty())
+            reason = part.reading.problem.empty() ? part.missing : part.reading.problem;
+    }
+    return reason;
+}
+
+ImportRow ShotRows::rowOf(const CsvRow& row) const {
+    ImportRow result;
+    result.line = row.line;
+    MeasuredShot& shot = result.shot;
+    shot.line = row.line;
+    shot.club = clubOf(row);
+    const std::string notMeasured = readLaunch(row, shot, result.remark);
+    const auto value = [&](Quantity quantity) { return read(row, quantity).value; };
+    shot.device = {value(Quantity::Carry), value(Quantity::Total), value(Quantity::Height),
+                   value(Quantity::LandingAngle), value(Quantity::Time)};
+    if (shot.device.landingAngle) // downward, whichever sign the device gives that
+        shot.device.landingAngle = std::abs(*shot.device.landingAngle);
+    shot.air = {value(Quantity::Wind),       value(Quantity::Altitude),
+                value(Quantity::AirDensity), value(Quantity::Temperature),
+                value(Quantity::Pressure),   value(Quantity::SeaLevelPressure),
+                value(Quantity::Humidity)};
+    if (isSummary(row))
+        result.reason = "average row";
+    else if (has(Quantity::Shot) && !isNumbered(row))
+        result.reason = "no shot number";
+    else
+        result.reason = notMeasured.empty() ? whyNotFlown(shot) : notMeasured;
+    return result;
+}
+
+} // namespace
+
+std::size_t ImportPreview::count() const {
+    return static_cast<std::size_t>(
+        std::count_if(rows.begin(), rows.end(), [](const ImportRow& row) { return row.taken; }));
+}
+
+std::vector<MeasuredShot> ImportPreview::taken() const {
+    std::vector<MeasuredShot> shots;
+    for (const ImportRow& row : rows)
+        if (row.taken)
+            shots.push_back(row.shot);
+    return shots;
+}
+
+ImportPreview previewOf(const ShotFile& file, const Device& device) {
+    const auto find = [&device](const CsvRow& row) -> std::optional<std::vector<ColumnMeaning>> {
+        if (!hasMarks(row, device))
+            return std::nullopt;
+        return columnsBelow(row, device);
+    };
+    return {std::string(device.name), device.computesCarry,
+            ShotRows(file, find, ShotRows::Units::OfFile).rows()};
+}
+
+ImportPreview previewOf(const ShotFile& file, const ColumnChoice& choice) {
+    std::vector<ColumnMeaning> columns;
+    for (const ChosenColumn& column : choice.columns)
+        columns.push_back({column.column, column.quantity, column.unit});
+    const auto find = [&](const CsvRow& row) -> std::optional<std::vector<ColumnMeaning>> {
+        if (!hasHeadings(row, choice))
+            return std::nullopt;
+        return columns;
+    };
+    // Without headings each row counts from the first on.
+    const bool below = !recognises(choice, file);
+    return {choice.name, choice.computesCarry,
+            ShotRows(file, find, ShotRows::Units::Chosen,
+                     below ? columns : std::vector<ColumnMeaning>())
+                .rows()};
+}
+
+Outcome<ImportPreview, ImportFault> importShots(std::string_view bytes) {
+    const auto file = readShotFile(bytes);
+    if (!file)
+        return because(file.why());
+    const Device* device = recognise(*file);
+    if (device == nullptr)
+        return because(ImportFault{0, "No known launch monitor's headings stand in the first sixty "
+                                      "rows."});
+    ImportPreview preview = previewOf(*file, *device);
+    if (preview.count() == 0)
+        return because(preview.rows.empty()
+                           ? ImportFault{0, "The file has headings, but no shot."}
+                           : ImportFault{preview.rows.front().line,
+                                         "No row can be flown; line " +
+                                             std::to_string(preview.rows.front().line) + ": " +
+                                             preview.rows.front().reason + "."});
+    return preview;
+}
+
+std::string_view figuresHeading(bool computesCarry) {
+    return computesCarry ? "Device" : "Measured";
+}
+
+} // namespace parabolt
