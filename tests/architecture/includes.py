@@ -11,7 +11,7 @@ from pathlib import Path
 
 GROUND = {"numbers", "controls"}
 LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
-                  "maps"}
+                  "tables", "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -22,6 +22,7 @@ MAY_SEE = {
     "shots": {"numbers", "engine"},
     "plots": GROUND | {"engine"},
     "exchange": {"numbers"},
+    "tables": {"numbers", "exchange"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
