@@ -1,5 +1,6 @@
 #include "files/dialog_routine.h"
 
+#include "files/file_access.h"
 #include "numbers/characters.h"
 
 #include <algorithm>
@@ -22,7 +23,7 @@ struct DialogRule {
 constexpr std::string_view kCannotOpen = "The file type is not correct!";
 constexpr std::string_view kCannotSave = "The file type is not support!";
 
-constexpr std::array<DialogRule, 9> kRules{{
+constexpr std::array<DialogRule, 12> kRules{{
     {DialogPurpose::OpenParameters,
      &FileDialog::showOpen,
      "Open Parameters File",
@@ -77,6 +78,24 @@ constexpr std::array<DialogRule, 9> kRules{{
      "Session(*.pbs)|*.pbs",
      {"pbs"},
      kCannotSave},
+    {DialogPurpose::ExportTable,
+     &FileDialog::showSave,
+     "Export Table",
+     "Comma-Separated Values(*.csv)|*.csv",
+     {"csv"},
+     kCannotSave},
+    {DialogPurpose::ExportPaths,
+     &FileDialog::showSave,
+     "Export Paths",
+     "Comma-Separated Values(*.csv)|*.csv",
+     {"csv"},
+     kCannotSave},
+    {DialogPurpose::ExportPlot,
+     &FileDialog::showSave,
+     "Export Plot",
+     "PNG Picture(*.png)|*.png|SVG Drawing(*.svg)|*.svg|PDF Document(*.pdf)|*.pdf",
+     {"png", "svg", "pdf"},
+     kCannotSave},
 }};
 
 constexpr std::string_view kAppName = "Parabolt";
@@ -125,6 +144,18 @@ Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& wor
     if (saved)
         dialog_.initialFolder.clear();
     return saved;
+}
+
+void DialogRoutine::save(DialogPurpose purpose, std::string_view suggestedName,
+                         const Compose& compose) {
+    const auto write = [&compose](const std::string& fileName,
+                                  std::string_view ending) -> Outcome<void, Failure> {
+        if (const auto bytes = compose(ending))
+            return replaceFile(fileName, *bytes);
+        return {};
+    };
+    if (const auto done = run(purpose, write, suggestedName); !done)
+        messages_.show(done.why().description);
 }
 
 std::string_view readFailureMessage(const Failure& failure) {

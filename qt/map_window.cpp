@@ -1,12 +1,11 @@
 #include "qt/map_window.h"
 
-#include "files/file_access.h"
 #include "mainform/form_shot.h"
 #include "maps/map_table.h"
 #include "maps/map_words.h"
-#include "qt/map_export.h"
 #include "qt/map_steps_view.h"
 #include "qt/map_view.h"
+#include "qt/picture_file.h"
 #include "qt/text.h"
 
 #include <QAbstractEventDispatcher>
@@ -67,7 +66,6 @@ QLabel* textLabel(const QString& name) {
 
 MapWindow::MapWindow(frmMain& logic, const FormServices& services)
     : logic_(logic),
-      messages_(services.messages),
       desktop_(services.desktop),
       dialogs_(services.ccrpFileDialogs1, services.preferences, services.messages,
                services.applicationFolder),
@@ -353,34 +351,22 @@ void MapWindow::runShot() {
 }
 
 void MapWindow::savePicture() {
-    save(DialogPurpose::SaveMapPicture, "carry map.png", [this](std::string_view ending) {
-        return mapFile(view_->pictureOnPaper(), ending).toStdString();
+    dialogs_.save(DialogPurpose::SaveMapPicture, "carry map.png", [this](std::string_view ending) {
+        return pictureFile(view_->onPaper(), ending);
     });
 }
 
 void MapWindow::copyPicture() {
-    QApplication::clipboard()->setImage(mapImage(view_->pictureOnPaper()));
+    QApplication::clipboard()->setImage(pictureImage(view_->onPaper()));
 }
 
 void MapWindow::exportTable() {
-    save(DialogPurpose::SaveMapTable, "carry map.csv", [this](std::string_view) {
+    dialogs_.save(DialogPurpose::SaveMapTable, "carry map.csv", [this](std::string_view) {
         // What is being computed still is computed on the spot: no table lacks cells.
         return map_.isCurrent() && map_.result()->complete
                    ? composeMapTable(*map_.result())
                    : composeMapTable(completeMap(map_.request()));
     });
-}
-
-void MapWindow::save(DialogPurpose purpose, std::string_view suggestedName,
-                     const std::function<std::string(std::string_view)>& compose) {
-    const auto saved = dialogs_.run(
-        purpose,
-        [&](const std::string& fileName, std::string_view ending) {
-            return replaceFile(fileName, compose(ending));
-        },
-        suggestedName);
-    if (!saved)
-        messages_.show(saved.why().description);
 }
 
 } // namespace parabolt

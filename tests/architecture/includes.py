@@ -11,7 +11,7 @@ from pathlib import Path
 
 GROUND = {"numbers", "controls"}
 LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
-                  "measured", "maps"}
+                  "measured", "tables", "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -23,6 +23,7 @@ MAY_SEE = {
     "plots": GROUND | {"engine"},
     "exchange": {"numbers"},
     "measured": {"numbers", "engine", "shots", "clubs", "files", "exchange"},
+    "tables": {"numbers", "exchange"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
@@ -30,12 +31,13 @@ MAY_SEE = {
     "mainform": LOGIC,
     "run": LOGIC | {"mainform"},
     "sessions": LOGIC | {"mainform"},
-    "shell": LOGIC | {"mainform", "run", "sessions"},
-    "qt": LOGIC | {"mainform", "run", "sessions", "shell"},
+    "fitting": LOGIC | {"mainform"},
+    "shell": LOGIC | {"mainform", "run", "sessions", "fitting"},
+    "qt": LOGIC | {"mainform", "run", "sessions", "fitting", "shell"},
     # Around the program.
     "docs": {"engine", "shots"},
-    "fuzz": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
-    "bench": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
+    "fuzz": LOGIC | {"mainform", "run", "sessions", "fitting", "shell", "qt"},
+    "bench": LOGIC | {"mainform", "run", "sessions", "fitting", "shell", "qt"},
 }
 SEES_QT = {"qt", "fuzz", "bench"}
 # Files outside the folders above that may do what their folder may not.
