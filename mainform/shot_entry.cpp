@@ -2,13 +2,22 @@
 
 #include "numbers/text_number.h"
 
+#include <algorithm>
 #include <array>
+#include <variant>
 
 namespace parabolt {
 
 struct ShotEntry::Field {
     TextBox ShotControls::*field;
-    float ShotInputs::*member;
+    std::variant<float ShotInputs::*, double ShotInputs::*> member;
+
+    double value(const ShotInputs& shot) const {
+        return std::visit([&shot](auto part) { return double{shot.*part}; }, member);
+    }
+    std::string text(const ShotInputs& shot) const {
+        return std::visit([&shot](auto part) { return shortestText(shot.*part); }, member);
+    }
 };
 
 bool ShotEntry::enterLaunch(const ShotInputs& shot) {
@@ -32,25 +41,47 @@ bool ShotEntry::enterSwing(const ShotInputs& shot) {
     return enter(form_.optManual, OperatingMode::Manual, kFields, shot);
 }
 
+bool ShotEntry::enterAir(const ShotInputs& shot) {
+    static constexpr std::array<Field, 5> kFields = {{
+        {&ShotControls::txtAltitude, &ShotInputs::h},
+        {&ShotControls::txtWind, &ShotInputs::WindSpeed},
+        {&ShotControls::txtPressure, &ShotInputs::BaroPressure},
+        {&ShotControls::txtTemperature, &ShotInputs::Temperature},
+        {&ShotControls::txtRelativeHumidity, &ShotInputs::RH},
+    }};
+    if (!accepts(kFields, shot))
+        return false;
+    type(kFields, shot);
+    return true;
+}
+
+/// What waits is held back as the Run button is; what is being edited is judged first.
+bool ShotEntry::accepts(std::span<const Field> fields, const ShotInputs& shot) {
+    return form_.Command1.enabled() && form_.focus.give(rest_) &&
+           std::all_of(fields.begin(), fields.end(), [&](const Field& field) {
+               return validators_.accepts(form_.*field.field, field.value(shot));
+           });
+}
+
 bool ShotEntry::enter(OptionButton& option, OperatingMode::Number mode,
                       std::span<const Field> fields, const ShotInputs& shot) {
-    // What waits is held back as the Run button is; what is being edited is judged first.
-    if (!form_.Command1.enabled() || !form_.focus.give(rest_))
+    if (!accepts(fields, shot))
         return false;
-    for (const auto& [field, member] : fields)
-        if (!validators_.accepts(form_.*field, double{shot.*member}))
-            return false;
     form_.Wiping();
     option.select();
     form_.txtMode.setText(std::to_string(mode));
-    for (const auto& [field, member] : fields) {
-        if (form_.shot.*member == shot.*member)
+    type(fields, shot);
+    return true;
+}
+
+void ShotEntry::type(std::span<const Field> fields, const ShotInputs& shot) {
+    for (const Field& field : fields) {
+        if (field.value(form_.shot) == field.value(shot))
             continue;
-        TextBox& box = form_.*field;
-        box.setText(shortestText(shot.*member));
+        TextBox& box = form_.*field.field;
+        box.setText(field.text(shot));
         validators_.validate(box);
     }
-    return true;
 }
 
 } // namespace parabolt

@@ -21,11 +21,15 @@ public:
     bool enterLaunch(const ShotInputs& shot);
     /// Swing and club of a shot, in the mode Manual.
     bool enterSwing(const ShotInputs& shot);
+    /// Weather and altitude of a shot; the mode stays.
+    bool enterAir(const ShotInputs& shot);
 
 private:
     struct Field;
+    bool accepts(std::span<const Field> fields, const ShotInputs& shot);
     bool enter(OptionButton& option, OperatingMode::Number mode, std::span<const Field> fields,
                const ShotInputs& shot);
+    void type(std::span<const Field> fields, const ShotInputs& shot);
 
     InputControls& form_;
     Control& rest_;

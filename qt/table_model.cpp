@@ -2,8 +2,11 @@
 
 #include "qt/text.h"
 
+#include <QFont>
+#include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
+#include <QPalette>
 #include <QPixmap>
 
 namespace parabolt {
@@ -83,6 +86,17 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     case Qt::CheckStateRole:
         if (const auto ticked = cell(index).ticked)
             return *ticked ? Qt::Checked : Qt::Unchecked;
+        return {};
+    case Qt::FontRole:
+        if (cell(index).look == TableCell::Look::Struck) {
+            QFont font; // takes its family and size from the view
+            font.setStrikeOut(true);
+            return font;
+        }
+        return {};
+    case Qt::ForegroundRole:
+        if (cell(index).look != TableCell::Look::Plain)
+            return QGuiApplication::palette().brush(QPalette::Disabled, QPalette::Text);
         return {};
     default:
         return {};

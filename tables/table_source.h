@@ -19,6 +19,7 @@ struct TableCell {
     std::variant<std::monostate, float, double> number{};
     std::optional<Rgb> colour{};  ///< of a square in front of the text
     std::optional<bool> ticked{}; ///< state of the cell's box, if it has one
+    enum class Look { Plain, Struck, Faint } look = Look::Plain;
 
     bool hasNumber() const { return number.index() != 0; }
 };
