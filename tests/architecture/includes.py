@@ -11,7 +11,7 @@ from pathlib import Path
 
 GROUND = {"numbers", "controls"}
 LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
-                  "tables", "maps"}
+                  "tables", "sets", "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -23,6 +23,7 @@ MAY_SEE = {
     "plots": GROUND | {"engine"},
     "exchange": {"numbers"},
     "tables": {"numbers", "exchange"},
+    "sets": GROUND | {"engine", "shots", "exchange", "tables", "plots"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
