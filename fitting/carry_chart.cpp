@@ -1,9 +1,9 @@
 #include "fitting/carry_chart.h"
 
-#include "maps/contours.h"
 #include "numbers/characters.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
+#include "plots/chart_parts.h"
 
 #include <algorithm>
 #include <cmath>

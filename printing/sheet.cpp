@@ -4,6 +4,7 @@
 #include "numbers/text_number.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace parabolt {
 namespace {
@@ -15,18 +16,17 @@ constexpr double kRight = 11;
 constexpr double kBottom = 7.5;
 constexpr double kAcross = kRight - kLeft;
 constexpr double kGap = 0.12;
-constexpr double kCellGap = 0.1;
+constexpr double kCellGap = 0.1;     ///< between columns at the usual size
 constexpr double kLeastPictures = 2; ///< height that the table leaves to them
 constexpr double kLeastChart = 1.6;  ///< height of a chart below the plot
 constexpr double kPlotShare = 0.62;  ///< of the width, beside charts
 
 constexpr double kTitleSize = 16;
-constexpr double kFieldSize = 9;
-constexpr double kTableSize = 9;
+constexpr double kTextSize = 9;
 constexpr double kSmallestSize = 4;
 
-/// A heading above its unit.
-std::pair<std::string, std::string> twoLines(const std::string& heading) {
+/// Name and unit of a heading, in a line each; a heading without unit stands in the second.
+std::pair<std::string, std::string> linesOf(const std::string& heading) {
     const std::size_t unit = heading.rfind(" [");
     if (unit == std::string::npos)
         return {{}, heading};
@@ -36,7 +36,9 @@ std::pair<std::string, std::string> twoLines(const std::string& heading) {
 /// The table at one size of its text.
 class SheetTable {
 public:
-    SheetTable(Page& target, double Ratio, const std::vector<std::vector<std::string>>& rows)
+    using Rows = std::vector<std::vector<std::string>>;
+
+    SheetTable(Page& target, double Ratio, const Rows& rows)
         : target_(target),
           ratio_(Ratio),
           rows_(rows) {}
@@ -44,57 +46,48 @@ public:
     void setSize(double points) {
         target_.FontSize = points * ratio_;
         line_ = target_.TextHeight("7");
+        gap_ = kCellGap * points / kTextSize;
         widths_.clear();
         for (std::size_t column = 0; !rows_.empty() && column < rows_.front().size(); ++column)
-            widths_.push_back(widthOf(column) + kCellGap * points / kTableSize);
+            widths_.push_back(widthOf(column));
     }
     double width() const {
-        double sum = 0;
-        for (const double width : widths_)
-            sum += width;
-        return sum;
+        return std::accumulate(widths_.begin(), widths_.end(),
+                               gap_ * (static_cast<double>(widths_.size()) - 1));
     }
-    /// With a line of headings' units and half a line below the headings.
     double height() const {
-        return rows_.empty() ? 0 : line_ * (static_cast<double>(rows_.size()) + 1.5);
+        return rows_.empty() ? 0 : line_ * (static_cast<double>(rows_.size()) + kHeadingLines - 1);
     }
 
-    void write(double top) {
+    void write(double top) const {
         double left = kLeft;
         for (std::size_t column = 0; column < widths_.size(); ++column) {
-            const bool right = holdsNumbers(column);
-            const double edge = left + widths_[column] - (right ? widths_[column] - used(column) : 0);
+            const double right = left + widths_[column];
+            const bool numbers = holdsNumbers(column);
             const auto put = [&](double y, const std::string& text) {
-                target_.CurrentX = right ? edge - target_.TextWidth(text) : left;
+                target_.CurrentX = numbers ? right - target_.TextWidth(text) : left;
                 target_.CurrentY = y;
                 target_.Print(text);
             };
             target_.FontBold = true;
-            const auto [name, unit] = twoLines(rows_.front()[column]);
+            const auto [name, unit] = linesOf(rows_.front()[column]);
             put(top, name);
             put(top + line_, unit);
             target_.FontBold = false;
-            double y = top + 2.5 * line_;
+            double y = top + kHeadingLines * line_;
             for (std::size_t row = 1; row < rows_.size(); ++row, y += line_)
                 put(y, rows_[row][column]);
-            left += widths_[column];
+            left = right + gap_;
         }
-        target_.Box({kLeft, top + 2.2 * line_}, {kLeft + width(), top + 2.2 * line_});
+        const double rule = top + (kHeadingLines - 0.15) * line_;
+        target_.Box({kLeft, rule}, {kRight, rule});
     }
 
 private:
-    double used(std::size_t column) const {
-        return widths_[column] - kCellGap * line_ / lineAtTableSize();
-    }
-    double lineAtTableSize() const {
-        const double size = target_.FontSize;
-        target_.FontSize = kTableSize * ratio_;
-        const double line = target_.TextHeight("7");
-        target_.FontSize = size;
-        return line;
-    }
+    static constexpr double kHeadingLines = 2.4;
+
     double widthOf(std::size_t column) const {
-        const auto [name, unit] = twoLines(rows_.front()[column]);
+        const auto [name, unit] = linesOf(rows_.front()[column]);
         target_.FontBold = true;
         double width = std::max(target_.TextWidth(name), target_.TextWidth(unit));
         target_.FontBold = false;
@@ -110,10 +103,128 @@ private:
 
     Page& target_;
     double ratio_;
-    const std::vector<std::vector<std::string>>& rows_;
+    const Rows& rows_;
     double line_ = 0;
-    std::vector<double> widths_; ///< with the gap to the next
+    double gap_ = 0;
+    std::vector<double> widths_;
+};
+
+/// Draws a sheet from the top down.
+class SheetComposer {
+public:
+    SheetComposer(Page& target, double Ratio, const SheetContent& content)
+        : target_(target),
+          ratio_(Ratio),
+          content_(content),
+          table_(target, Ratio, content.table) {}
+
+    void compose() {
+        target_.FontName = "Liberation Sans";
+        target_.DrawWidth = 1;
+        title();
+        fields();
+        remark();
+        const bool pictures = content_.plot || !content_.charts.empty();
+        const double room = bottom_ - top_ - (pictures ? kLeastPictures + kGap : 0);
+        double points = kTextSize;
+        for (table_.setSize(points);
+             points > kSmallestSize && (table_.width() > kAcross || table_.height() > room);
+             table_.setSize(points))
+            points -= 0.25;
+        bottom_ -= table_.height();
+        const double size = target_.FontSize;
+        if (pictures)
+            paintPictures(bottom_ - kGap - top_);
+        target_.FontSize = size;
+        table_.write(pictures ? bottom_ : top_);
+    }
+
+private:
+    /// Writes a line, smaller where it would be too wide, and goes on below it.
+    void line(double points, bool bold, const std::string& text) {
+        target_.FontSize = points * ratio_;
+        target_.FontBold = bold;
+        const double width = target_.TextWidth(text);
+        if (width > kAcross)
+            target_.FontSize *= kAcross / width;
+        target_.CurrentX = kLeft;
+        target_.CurrentY = top_;
+        target_.Print(text);
+        target_.FontBold = false;
+        top_ = target_.CurrentY;
+    }
+
+    void title() { line(kTitleSize, true, content_.title); }
+
+    void fields() {
+        std::string people;
+        const std::pair<const char*, const std::string&> fields[] = {
+            {"Player: ", content_.fields.player},
+            {"Fitter: ", content_.fields.fitter},
+            {"Date: ", content_.fields.date}};
+        for (const auto& [name, text] : fields)
+            if (!text.empty())
+                people += (people.empty() ? "" : "     ") + (name + text);
+        if (!people.empty())
+            line(kTextSize, false, people);
+        if (!content_.fields.note.empty())
+            line(kTextSize, false, "Note: " + content_.fields.note);
+        top_ += kGap;
+    }
+
+    void remark() {
+        if (content_.remark.empty())
+            return;
+        target_.FontSize = kTextSize * ratio_;
+        bottom_ -= target_.TextHeight("7");
+        const double top = std::exchange(top_, bottom_);
+        line(kTextSize, false, content_.remark);
+        top_ = top;
+        bottom_ -= kGap;
+    }
+
+    /// The plot above the charts where there is height for both, else beside them.
+    void paintPictures(double height) {
+        Place corner{kLeft, top_};
+        Place room{kAcross, height};
+        if (content_.plot) {
+            const auto& outer = content_.plot->outer.geometry();
+            const double shape = outer.height > 0 ? outer.width / outer.height : 1;
+            const bool alone = content_.charts.empty();
+            const bool above = !alone && height - kAcross / shape - kGap >= kLeastChart;
+            const double widest = alone || above ? kAcross : kAcross * kPlotShare;
+            const double width = std::min(widest, height * shape);
+            target_.PaintPlot(*content_.plot, corner, {width, width / shape});
+            double& from = above ? corner.y : corner.x;
+            double& left = above ? room.y : room.x;
+            const double taken = (above ? width / shape : width) + kGap;
+            from += taken;
+            left -= taken;
+        }
+        const double count = static_cast<double>(content_.charts.size());
+        const double width = (room.x - (count - 1) * kGap) / count;
+        for (const DrawChart& draw : content_.charts) {
+            ControlSet controls;
+            PictureBox canvas(controls, "chart", kWhite, kBlack);
+            canvas.setGeometry({0, 0, width * kTwipsPerInch, room.y * kTwipsPerInch});
+            draw(canvas);
+            target_.PaintPicture(canvas, corner, {width, room.y});
+            corner.x += width + kGap;
+        }
+    }
+
+    Page& target_;
+    double ratio_;
+    const SheetContent& content_;
+    SheetTable table_;
+    double top_ = kTop; ///< of what isn't used yet
+    double bottom_ = kBottom;
 };
 
 } // namespace
+
+void ComposeSheet(Page& target, double Ratio, const SheetContent& content) {
+    SheetComposer(target, Ratio, content).compose();
+}
+
 } // namespace parabolt

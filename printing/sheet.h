@@ -2,6 +2,8 @@
 
 #include "printing/report.h"
 
+#include <optional>
+
 namespace parabolt {
 
 /// What the user writes on a sheet.

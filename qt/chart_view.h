@@ -8,10 +8,6 @@
 
 namespace parabolt {
 
-/// Draws a chart on a canvas that has its size, in twips. Erases it first; its fore colour is that
-/// of axes and texts, of which a line is some 200 twips high.
-using DrawChart = std::function<void(PictureBox&)>;
-
 /// A chart in a size in pixels, with text of so many pixels.
 class ChartPicture {
 public:

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "clubs/club_tables.h"
-#include "engine/shot_state.h"
 #include "numbers/coloured_text.h"
 #include "numbers/shared_text.h"
+#include "shots/run_book.h"
 
 #include <map>
 #include <optional>
@@ -24,7 +24,9 @@ struct Desk {
     std::map<std::string, std::string> fields; ///< what stands in the fields, by their names
     float scale = 300;                         ///< width of the plot, yards
     ClubTables clubs;
-    std::vector<RunRecord> runs; ///< the data sets in their order
+    std::vector<RunRecord> runs;  ///< the data sets in their order
+    std::vector<DataSetTag> tags; ///< of each
+    int base = 1;                 ///< number of the data set with which others are compared
 
     ColouredTexts table;
     std::size_t caret = 0;           ///< in the table

@@ -149,8 +149,7 @@ std::string SessionHandlers::timeOf(const Session& session) const {
 
 void SessionHandlers::lay(const Desk& desk) {
     layDesk(form_, desk);
-    plot_.DrawPlotFrame();
-    plot_.DrawCurves();
+    plot_.redraw();
 }
 
 void SessionHandlers::openText(const Outcome<std::string, Failure>& text) {

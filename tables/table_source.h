@@ -14,7 +14,7 @@ namespace parabolt {
 
 /// What stands in a cell of a table.
 struct TableCell {
-    std::string text; ///< as people read it
+    std::string text{}; ///< as people read it
     /// A figure in full, for sorting and for files; none in a cell that is a text or has no figure.
     std::variant<std::monostate, float, double> number{};
     std::optional<Rgb> colour{};  ///< of a square in front of the text

@@ -11,7 +11,7 @@ from pathlib import Path
 
 GROUND = {"numbers", "controls"}
 LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
-                  "measured", "tables", "maps"}
+                  "measured", "tables", "sets", "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -24,6 +24,7 @@ MAY_SEE = {
     "exchange": {"numbers"},
     "measured": {"numbers", "engine", "shots", "clubs", "files", "exchange"},
     "tables": {"numbers", "exchange"},
+    "sets": GROUND | {"engine", "shots", "exchange", "tables", "plots"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},

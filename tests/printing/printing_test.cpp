@@ -78,6 +78,9 @@ struct RecordedPage : Page {
     void PaintPlot(const PlotCanvases&, Place corner, Place size) override {
         plot = {corner, size, DrawWidth};
     }
+    void PaintPicture(const PictureBox&, Place corner, Place size) override {
+        charts.push_back({corner, size, DrawWidth});
+    }
     /// What stands below caption and heading.
     Texts table() const {
         Texts texts;
@@ -88,6 +91,7 @@ struct RecordedPage : Page {
 
     std::vector<Line> lines;
     std::optional<Rectangle> frame, plot;
+    std::vector<Rectangle> charts;
 };
 
 TEST(DrvPrinter, LaysTextIntoTheCellsOfTheStandardSize) {
