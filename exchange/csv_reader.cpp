@@ -1,6 +1,7 @@
 #include "exchange/csv_reader.h"
 
 #include "exchange/csv_rules.h"
+#include "numbers/characters.h"
 
 #include <algorithm>
 #include <array>
@@ -9,10 +10,6 @@ namespace parabolt {
 namespace {
 
 constexpr std::string_view kNamesDelimiter = "sep=";
-
-bool isFigure(char c) {
-    return c >= '0' && c <= '9';
-}
 
 /// Line ends of any kind in a text.
 std::size_t lineEnds(std::string_view text) {
@@ -118,7 +115,7 @@ char delimiterOf(std::string_view text) {
         if (text[at] == kCsvQuote)
             quoted = !quoted;
         const bool inNumber =
-            at > 0 && at + 1 < text.size() && isFigure(text[at - 1]) && isFigure(text[at + 1]);
+            at > 0 && at + 1 < text.size() && isDigit(text[at - 1]) && isDigit(text[at + 1]);
         for (Candidate& candidate : candidates)
             if (text[at] == candidate.delimiter && !quoted && !inNumber)
                 ++candidate.count;

@@ -54,10 +54,6 @@ constexpr std::array<ClubSort, 8> kSorts = {{
     {"fairwaywood", false},
 }};
 
-bool isFigure(char c) {
-    return c >= '0' && c <= '9';
-}
-
 std::optional<ClubId> existing(bool iron, int number) {
     for (const ClubId club : clubsOfSet())
         if (club.iron == iron && club.number == number)
@@ -110,8 +106,8 @@ std::optional<ClubId> clubNamed(std::string_view text, const ClubTables& tables)
         if (named.name == name)
             return named.club;
     // A number, and what stands before or behind it.
-    const auto first = std::find_if(name.begin(), name.end(), isFigure);
-    const auto last = std::find_if_not(first, name.end(), isFigure);
+    const auto first = std::find_if(name.begin(), name.end(), isDigit);
+    const auto last = std::find_if_not(first, name.end(), isDigit);
     const std::string figures(first, last);
     if (figures.empty() || figures.size() > 2 || (first != name.begin() && last != name.end()))
         return std::nullopt;

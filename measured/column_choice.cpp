@@ -116,6 +116,8 @@ ColumnChoice guessedChoice(const ShotFile& file) {
     if (const CsvRow* below = row + 1; below != file.rows.data() + file.rows.size())
         takeUnits(*below, columns);
     for (const ColumnMeaning& column : columns) {
+        if (!column.unknownUnit.empty())
+            continue; // a heading that means something else here
         const bool told = column.unit != MeasuredUnit::None;
         choice.columns.push_back({column.column, withoutBlanks(row->cells[column.column]),
                                   column.quantity,

@@ -4,6 +4,7 @@
 #include "measured/cell_number.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace parabolt {
@@ -17,19 +18,30 @@ ImportFault aboutLine(std::size_t line, const std::string& message) {
     return {line, "Line " + std::to_string(line) + ": " + message};
 }
 
-/// Bytes of the character that begins here in UTF-8; 0 if none does.
+/// Bytes of the character that begins here in well-formed UTF-8; 0 if none does.
 std::size_t lengthInUtf8(std::string_view text) {
-    const auto first = static_cast<unsigned char>(text.front());
-    const std::size_t length = first < 0x80                    ? 1U
-                               : first >= 0xC2 && first < 0xE0 ? 2U
-                               : first >= 0xE0 && first < 0xF0 ? 3U
-                               : first >= 0xF0 && first < 0xF5 ? 4U
-                                                               : 0U;
-    if (length == 0 || length > text.size())
+    const auto byte = [&text](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+    struct Length {
+        unsigned first; ///< of the first bytes, and of the characters, that take so many bytes
+        std::uint32_t least;
+    };
+    constexpr std::array<Length, 4> kUtf8Lengths = {
+        {{0x00, 0}, {0xC0, 0x80}, {0xE0, 0x800}, {0xF0, 0x10000}}};
+    std::size_t length = kUtf8Lengths.size();
+    while (byte(0) < kUtf8Lengths[length - 1].first)
+        --length;
+    if (length == 1)
+        return byte(0) < 0x80 ? 1 : 0;
+    if (length > text.size())
         return 0;
-    const auto follows = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U; };
-    return std::all_of(text.begin() + 1, text.begin() + static_cast<std::ptrdiff_t>(length),
-                       follows)
+    std::uint32_t character = byte(0) - kUtf8Lengths[length - 1].first;
+    for (std::size_t at = 1; at < length; ++at) {
+        if ((byte(at) & 0xC0U) != 0x80U)
+            return 0;
+        character = character << 6U | (byte(at) & 0x3FU);
+    }
+    const bool surrogate = character >= 0xD800 && character < 0xE000;
+    return character >= kUtf8Lengths[length - 1].least && character < 0x110000 && !surrogate
                ? length
                : 0;
 }

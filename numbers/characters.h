@@ -6,6 +6,11 @@
 
 namespace parabolt {
 
+/// True for 0 to 9, in every locale.
+constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// Number of characters of a UTF-8 text.
 std::size_t characterCount(std::string_view text);
 /// Where a character, counted from 0, starts in a UTF-8 text; the text's size if it has no such.

@@ -1,5 +1,7 @@
 #include "numbers/text_number.h"
 
+#include "numbers/characters.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -11,10 +13,6 @@ namespace {
 
 constexpr bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
 }
 
 std::size_t skipDigits(std::string_view text, std::size_t at) {

@@ -1,6 +1,7 @@
 #include "mainform/modes.h"
 #include "mainform/parameter_handlers.h"
 #include "mainform/validators.h"
+#include "measured/measured_shot.h"
 #include "tests/support/golden.h"
 #include "tests/support/scripted_form.h"
 
@@ -143,6 +144,17 @@ TEST_F(Validators, JudgeEachFieldByItsLimits) {
         EXPECT_EQ(variable(), std::stof(row.at(4)));
         EXPECT_EQ(user.messages.texts.size(), 1U);
     }
+}
+
+TEST_F(Validators, AcceptWhatIsTakenOfMeasuredShots) {
+    for (const LaunchLimit& limit : launchLimits())
+        for (const FieldRule& rule : fieldRules())
+            if (const auto* input = std::get_if<float ShotInputs::*>(&rule.variable);
+                input != nullptr && *input == limit.input) {
+                EXPECT_EQ(limit.lowest, rule.lowest) << limit.name;
+                EXPECT_EQ(limit.highest, rule.highest) << limit.name;
+            }
+    EXPECT_EQ(launchLimits().size(), 3U);
 }
 
 TEST_F(Validators, ARefusedValueReachesNothingUntilTheFallbackPasses) {

@@ -1,0 +1,189 @@
+#include "measured/cell_number.h"
+#include "measured/shot_import.h"
+#include "numbers/text_number.h"
+#include "tests/support/golden.h"
+
+#include <gtest/gtest.h>
+
+namespace parabolt {
+namespace {
+
+std::string bytesOf(const std::string& name) {
+    return support::contentOf(PARABOLT_TEST_DATA "/measured/" + name);
+}
+
+/// A row as the table of expected ones has it.
+std::string lineOf(const ImportRow& row) {
+    const auto figure = [](std::optional<double> value, const char* pattern = "0.0") {
+        return " | " + (value ? formatPattern(*value, pattern) : "-");
+    };
+    const MeasuredShot& shot = row.shot;
+    std::string club = shot.club;
+    std::replace(club.begin(), club.end(), '\n', ' ');
+    std::string line = std::to_string(row.line) + " |" + (club.empty() ? "" : " ") + club +
+                       figure(shot.ballSpeed) + figure(shot.launchAngle) +
+                       figure(shot.backSpin, "0");
+    for (const auto value : {shot.device.carry, shot.device.total, shot.device.height,
+                             shot.device.landingAngle, shot.device.time})
+        line += figure(value);
+    line += " |" + (row.reason.empty() ? "" : " " + row.reason);
+    return line + (row.remark.empty() || !row.taken ? "" : " ~") + "\n";
+}
+
+TEST(Import, BringsWhatEachFileHolds) {
+    std::istringstream expected(support::goldenText("measured/expected.txt"));
+    std::string name;
+    std::string wanted;
+    std::string got;
+    const auto compare = [&] {
+        EXPECT_EQ(got, wanted) << name;
+        wanted.clear();
+    };
+    for (std::string line; std::getline(expected, line);) {
+        if (std::isdigit(static_cast<unsigned char>(line.front())) != 0) {
+            wanted += line + "\n";
+            continue;
+        }
+        compare();
+        name = line.substr(0, line.find(':'));
+        const auto file = readShotFile(bytesOf(name));
+        ASSERT_TRUE(file) << name << ": " << file.why().message;
+        const Device* device = recognise(*file);
+        ASSERT_NE(device, nullptr) << name;
+        const ImportPreview preview = previewOf(*file, *device);
+        EXPECT_EQ(name + ": " + preview.device + ", " +
+                      std::string(figuresHeading(preview.computesCarry)),
+                  line);
+        got.clear();
+        for (const ImportRow& row : preview.rows) {
+            EXPECT_EQ(row.taken, row.reason.empty());
+            got += lineOf(row);
+        }
+    }
+    compare();
+}
+
+TEST(Import, TakesTheAirWhereAFileBringsSome) {
+    const auto garmin = importShots(bytesOf("garmin.csv"))->taken();
+    ASSERT_EQ(garmin.size(), 2U);
+    const MeasuredAir& air = garmin.front().air;
+    EXPECT_NEAR(*air.density, 1.187, 1e-9);
+    EXPECT_NEAR(*air.temperature, 72, 1e-9);
+    EXPECT_NEAR(*air.pressure, 29.710, 0.001); // 100.61 kPa on a barometer's scale
+    EXPECT_FALSE(air.wind || air.altitude || air.seaLevelPressure);
+    const auto german = importShots(bytesOf("garmin_german.csv"))->taken();
+    EXPECT_NEAR(*german.front().air.temperature, 70.7, 1e-9);
+    EXPECT_NEAR(*importShots(bytesOf("awesome_golf.csv"))->taken().front().air.altitude, 1000,
+                1e-9);
+    const auto own = importShots(bytesOf("own.csv"))->taken();
+    EXPECT_EQ(own.back().air, (MeasuredAir{10.5, 1200, {}, 60, {}, 30.1, 40}));
+}
+
+TEST(Import, ReadsNumbersAsDevicesWriteThem) {
+    struct Case {
+        const char* cell;
+        bool decimalComma;
+        bool whole;
+        std::optional<double> value;
+    };
+    const Case cases[] = {
+        {"5.4 L", false, false, -5.4},
+        {"L 3.2", false, false, -3.2},
+        {"4.5 R", false, false, 4.5},
+        {"R4.5", false, false, 4.5},
+        {"5,4 L", true, false, -5.4},
+        {"2,345", false, false, 2345},
+        {"2,345", true, false, 2.345},
+        {"2,345", true, true, 2345},
+        {"2.345", true, true, 2345},
+        {"2.345", false, false, 2.345},
+        {"1.234,5", true, false, 1234.5},
+        {"1,234.5", false, false, 1234.5},
+        {"1.234.567", true, false, 1234567},
+        {"142,5", false, false, 142.5},
+        {"\u22123.5", false, false, -3.5},
+        {" 7\u00A0", false, false, 7},
+        {"150 mph", false, false, 150},
+        {"18\u00B0", false, false, 18},
+        {"1e+05", false, false, 100000},
+        {"", false, false, {}},
+        {"L", false, false, {}},
+        {"7i", false, false, {}},
+        {"1/2", false, false, {}},
+        {"--5", false, false, {}},
+        {"12:30", false, false, {}},
+        {"1e999", false, false, {}},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(cellNumber(c.cell, c.decimalComma, c.whole), c.value) << c.cell;
+}
+
+TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
+    const std::string headings = "Carry,BallSpeed,BackSpin,VLA\n";
+    std::string rows = headings;
+    for (int i = 0; i < 9'999; ++i)
+        rows += "200,140,3000,12\n";
+    EXPECT_EQ(importShots(rows)->count(), 9'999U);
+    const std::pair<std::string, std::string> cases[] = {
+        {"", "The file is empty."},
+        {"\n , ,\n", "The file is empty."},
+        {std::string(10'000'001, ' '), "The file is larger than 10 MB."},
+        {rows + "\n200,140,3000,12\n", "Line 10002: the file has more than 10,000 rows."},
+        {headings + "200,140,\"3000,12\n200\n", "Line 2: a quote is opened and never closed."},
+        {headings + std::string(2'000'000, 'x'),
+         "Line 2: the row is too long for a table of shots."},
+        {std::string("PK\3\4 \0 \0\xFF", 9),
+         "This is no text file: tables of shots are read from CSV and text files."},
+        {"Club,Speed\nD,150\n",
+         "No known launch monitor's headings stand in the first sixty rows."},
+        {headings, "The file has headings, but no shot."},
+        {headings + "200,14,3000,12\n",
+         "No row can be flown; line 2: ball speed 14 mph is below 30."}};
+    for (const auto& [bytes, message] : cases) {
+        const auto preview = importShots(bytes);
+        ASSERT_FALSE(preview) << message;
+        EXPECT_EQ(preview.why().message, message);
+    }
+    std::string title; // sixty rows above the headings
+    for (int i = 0; i < 59; ++i)
+        title += "note " + std::to_string(i) + "\n";
+    EXPECT_TRUE(importShots(title + headings + "200,140,3000,12\n"));
+    EXPECT_FALSE(importShots("one more\n" + title + headings + "200,140,3000,12\n"));
+}
+
+TEST(Import, AnUnknownFileIsReadByColumnsOfTheUsersChoice) {
+    const ShotFile file = *readShotFile(bytesOf("unknown.csv"));
+    EXPECT_EQ(recognise(file), nullptr);
+    EXPECT_EQ(guessedHeadings(file),
+              (std::vector<std::string>{"Stick", "V ball", "Loft out", "Spin", "Flight"}));
+    ColumnChoice choice = guessedChoice(file); // only the spin has a known name
+    ASSERT_EQ(choice.columns,
+              (std::vector<ChosenColumn>{{3, "Spin", Quantity::TotalSpin, MeasuredUnit::Rpm}}));
+    choice.name = "Radar \"X\"";
+    choice.columns = {{0, "Stick", Quantity::Club, MeasuredUnit::None},
+                      {1, "V ball", Quantity::BallSpeed, MeasuredUnit::MetresPerSecond},
+                      {2, "Loft out", Quantity::LaunchAngle, MeasuredUnit::Degrees},
+                      {3, "Spin", Quantity::BackSpin, MeasuredUnit::Rpm},
+                      {4, "Flight", Quantity::Carry, MeasuredUnit::Metres}};
+    EXPECT_TRUE(recognises(choice, file));
+    EXPECT_EQ(choiceOf(choiceText(choice)), choice);
+    EXPECT_EQ(choiceText(choice).find('\n'), std::string::npos);
+    const ImportPreview preview = previewOf(file, *choiceOf(choiceText(choice)));
+    ASSERT_EQ(preview.rows.size(), 2U);
+    EXPECT_EQ(lineOf(preview.rows[0]),
+              "4 | Seven | 111.8 | 18.0 | 6000 | 153.1 | - | - | - | - |\n");
+    EXPECT_EQ(lineOf(preview.rows[1]), "5 | Seven | 114.1 | 17.5 | 6100 | - | - | - | - | - |\n");
+
+    const ShotFile bare = *readShotFile("Seven;50;18;6000;140\n");
+    EXPECT_FALSE(recognises(choice, bare));
+    EXPECT_EQ(previewOf(bare, choice).count(), 1U);
+    choice.columns[4].heading = "Range";
+    EXPECT_FALSE(recognises(choice, file));
+    for (const char* text : {"", "[]", "{}", "{\"name\":1,\"computesCarry\":true,\"columns\":[]}",
+                             R"({"name":"","computesCarry":true,"columns":[{"column":0,)"
+                             R"("heading":"","quantity":"Carry","unit":"rpm"}]})"})
+        EXPECT_FALSE(choiceOf(text)) << text;
+}
+
+} // namespace
+} // namespace parabolt
