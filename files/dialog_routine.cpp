@@ -16,14 +16,14 @@ struct DialogRule {
     void (FileDialog::*show)();
     std::string_view title;
     std::string_view filter;
-    std::array<std::string_view, 3> endings; ///< in lower case, without a dot; all but one may lack
+    std::array<std::string_view, 4> endings; ///< in lower case, without a dot; all but one may lack
     std::string_view refusal;
 };
 
 constexpr std::string_view kCannotOpen = "The file type is not correct!";
 constexpr std::string_view kCannotSave = "The file type is not support!";
 
-constexpr std::array<DialogRule, 12> kRules{{
+constexpr std::array<DialogRule, 14> kRules{{
     {DialogPurpose::OpenParameters,
      &FileDialog::showOpen,
      "Open Parameters File",
@@ -95,6 +95,19 @@ constexpr std::array<DialogRule, 12> kRules{{
      "Export Plot",
      "PNG Picture(*.png)|*.png|SVG Drawing(*.svg)|*.svg|PDF Document(*.pdf)|*.pdf",
      {"png", "svg", "pdf"},
+     kCannotSave},
+    {DialogPurpose::ImportShots,
+     &FileDialog::showOpen,
+     "Import Launch Monitor File",
+     "Launch Monitor Files|*.csv *.txt *.tsv",
+     {"csv", "txt", "tsv"},
+     kCannotOpen},
+    {DialogPurpose::ExportTableOrChart,
+     &FileDialog::showSave,
+     "Export Table Or Chart",
+     "Table As Comma-Separated Values(*.csv)|*.csv|Chart As PNG Picture(*.png)|*.png|"
+     "Chart As SVG Drawing(*.svg)|*.svg|Chart As PDF Document(*.pdf)|*.pdf",
+     {"csv", "png", "svg", "pdf"},
      kCannotSave},
 }};
 

@@ -23,6 +23,8 @@ enum class DialogPurpose {
     ExportTable,
     ExportPaths,
     ExportPlot,
+    ImportShots,
+    ExportTableOrChart,
 };
 
 /// What all file dialogs of the program have in common: they start in the folder where the last one

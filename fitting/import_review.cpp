@@ -97,8 +97,6 @@ Outcome<ImportReview, ImportFault> ImportReview::open(std::string_view bytes,
         return review;
     }
     review.headings_ = guessedHeadings(review.file_);
-    if (review.headings_.empty())
-        review.headings_ = widestRow(review.file_);
     const auto known = std::find_if(remembered.begin(), remembered.end(), [&](const auto& choice) {
         return recognises(choice, review.file_);
     });
@@ -108,7 +106,20 @@ Outcome<ImportReview, ImportFault> ImportReview::open(std::string_view bytes,
 
 void ImportReview::choose(ColumnChoice choice) {
     choice_ = std::move(choice);
+    for (ChosenColumn& column : choice_.columns)
+        column.heading = column.column < headings_.size() ? headings_[column.column] : "";
     preview_ = previewOf(file_, choice_);
+}
+
+std::vector<std::string> ImportReview::columnTitles() const {
+    const auto example = widestRow(file_);
+    std::vector<std::string> titles;
+    for (std::size_t i = 0; i < std::max(headings_.size(), example.size()); ++i)
+        titles.push_back(i < headings_.size() && !headings_[i].empty()
+                             ? headings_[i]
+                             : "Column " + std::to_string(i + 1) +
+                                   (i < example.size() ? ": " + example[i] : ""));
+    return titles;
 }
 
 std::string ImportReview::summary() const {

@@ -35,9 +35,10 @@ public:
     const Device* device() const { return device_; }
     /// The columns, where no device is known.
     const ColumnChoice& choice() const { return choice_; }
-    /// The cells of the row of headings of such a file, or of its widest row if it has none.
-    const std::vector<std::string>& headings() const { return headings_; }
-    /// Has another look at the file, by a choice of columns.
+    /// Columns of such a file, each by its heading, or by its number and an example.
+    std::vector<std::string> columnTitles() const;
+    /// Has another look at the file, by what its columns mean; those of which nothing is said mean
+    /// nothing. Headings are those of the file.
     void choose(ColumnChoice choice);
     /// "Recognised as SkyTrak: 41 of 44 rows can be taken."
     std::string summary() const;
@@ -58,7 +59,7 @@ private:
     ShotFile file_;
     const Device* device_ = nullptr;
     ColumnChoice choice_;
-    std::vector<std::string> headings_;
+    std::vector<std::string> headings_; ///< none if no row has texts
     ImportPreview preview_;
 };
 

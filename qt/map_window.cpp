@@ -7,6 +7,7 @@
 #include "qt/map_view.h"
 #include "qt/picture_file.h"
 #include "qt/text.h"
+#include "qt/window_parts.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -35,31 +36,12 @@ constexpr auto kKey = "<p><b>Key</b><br>"
                       "Discs: the data sets, by number and colour.<br>"
                       "Grey: no value; the text under the map says why.</p>";
 
-QAction* menuAction(QMenu* menu, const QString& name, const QString& text,
-                    const QKeySequence& key) {
-    QAction* action = menu->addAction(text);
-    action->setObjectName(name);
-    action->setShortcut(key);
-    action->setMenuRole(QAction::NoRole);
-    return action;
-}
-
 QComboBox* comboBox(const QString& name, const QString& accessibleName, const QStringList& items) {
     auto* box = new QComboBox;
     box->setObjectName(name);
     box->setAccessibleName(accessibleName);
     box->addItems(items);
     return box;
-}
-
-QLabel* textLabel(const QString& name) {
-    auto* label = new QLabel;
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    return label;
 }
 
 } // namespace
@@ -169,28 +151,20 @@ QWidget* MapWindow::choices() {
     auto* rows = new QVBoxLayout(panel);
     rows->setContentsMargins({});
     auto* what = new QHBoxLayout;
-    const auto addNamed = [](QHBoxLayout* row, const QString& text, QWidget* widget) {
-        auto* label = new QLabel(text);
-        label->setBuddy(widget);
-        row->addWidget(label);
-        row->addWidget(widget);
-    };
-    addNamed(what, "&Map:", kind_);
+    addLabelled(what, "&Map:", kind_);
     what->addSpacing(12);
-    addNamed(what, "Sho&wn:", outcome_);
+    addLabelled(what, "Sho&wn:", outcome_);
     what->addStretch();
     rows->addLayout(what);
     auto* ranges = new QHBoxLayout;
     for (const AxisFields& axis : axes_) {
         ranges->addWidget(axis.name);
         ranges->addWidget(axis.first);
-        addNamed(ranges, "to", axis.last);
-        addNamed(ranges, "step", axis.step);
+        addLabelled(ranges, "to", axis.last);
+        addLabelled(ranges, "step", axis.step);
         ranges->addSpacing(16);
     }
-    auto* usual = new QPushButton("&Usual ranges");
-    usual->setObjectName("mapUsualRanges");
-    usual->setAutoDefault(false);
+    auto* usual = pushButton("mapUsualRanges", "&Usual ranges");
     connect(usual, &QPushButton::clicked, this, [this] {
         map_.setUsualRanges();
         keepChoices();

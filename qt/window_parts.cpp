@@ -1,0 +1,63 @@
+#include "qt/window_parts.h"
+
+#include <QAction>
+#include <QBoxLayout>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QMenu>
+#include <QPushButton>
+
+namespace parabolt {
+
+QAction* menuAction(QMenu* menu, const QString& name, const QString& text, const QKeySequence& key,
+                    const QString& tip) {
+    QAction* action = menu->addAction(text);
+    action->setObjectName(name);
+    action->setShortcut(key);
+    action->setMenuRole(QAction::NoRole);
+    if (!tip.isEmpty()) {
+        action->setToolTip(tip);
+        menu->setToolTipsVisible(true);
+    }
+    return action;
+}
+
+QLabel* textLabel(const QString& name) {
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return label;
+}
+
+QPushButton* pushButton(const QString& name, const QString& text) {
+    auto* button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    return button;
+}
+
+QDoubleSpinBox* numberField(const QString& name, const QString& accessibleName,
+                            const NumberRange& range) {
+    auto* field = new QDoubleSpinBox;
+    field->setObjectName(name);
+    field->setAccessibleName(accessibleName);
+    field->setToolTip(accessibleName);
+    field->setLocale(QLocale::c());
+    field->setKeyboardTracking(false);
+    field->setDecimals(range.decimals);
+    field->setRange(range.lowest, range.highest);
+    field->setSingleStep(range.step);
+    return field;
+}
+
+void addLabelled(QBoxLayout* row, const QString& text, QWidget* widget) {
+    auto* label = new QLabel(text);
+    label->setBuddy(widget);
+    row->addWidget(label);
+    row->addWidget(widget);
+}
+
+} // namespace parabolt
