@@ -23,7 +23,7 @@ MAY_SEE = {
     "plots": GROUND | {"engine"},
     "exchange": {"numbers"},
     "tables": {"numbers", "exchange"},
-    "sets": GROUND | {"engine", "shots", "exchange", "tables", "plots"},
+    "sets": GROUND | {"engine", "shots", "exchange", "tables", "plots", "files"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
