@@ -147,11 +147,17 @@ struct MenuControls : virtual FormCore {
     MenuItem mnuReopenSession{controls, "mnuReopenSession", "Reopen &Last Session"};
     MenuItem mnuGoBack{controls, "mnuGoBack", "Go &Back"};
     MenuItem mnuRewriteTable{controls, "mnuRewriteTable", "Rewrite &Table"};
+    MenuItem mnuExportTable{controls, "mnuExportTable", "Export T&able..."};
+    MenuItem mnuExportPaths{controls, "mnuExportPaths", "Export Pat&hs..."};
+    MenuItem mnuExportPlot{controls, "mnuExportPlot", "Export Plot..."};
+    MenuItem mnuCopyTable{controls, "mnuCopyTable", "&Copy Table"};
+    MenuItem mnuCopyPlot{controls, "mnuCopyPlot", "Cop&y Plot"};
     MenuItem mnuDefault{controls, "mnuDefault", "&DefaultClub"};
     MenuItem mnuStudies{controls, "mnuStudies", "&Studies", WhileBusy::Free};
     MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
     MenuItem mnuStySpin{controls, "mnuStySpin", "Spin &Rate"};
     MenuItem mnuStyMap{controls, "mnuStyMap", "Carry &Map...", WhileBusy::Free};
+    MenuItem mnuDataSets{controls, "mnuDataSets", "&Data Sets...", WhileBusy::Free};
     MenuItem mnuReset{controls, "mnuReset", "&Reset"};
     MenuItem Help{controls, "Help", "&Help", WhileBusy::Free};
     MenuItem mnuHelp{controls, "mnuHelp", "&Help", WhileBusy::Free};

@@ -43,6 +43,11 @@ void PlotPanel::PreparePrintPlots() {
         DrawPrintCurves(results_.printPlot(), run_.Runs.records(), run_.Runs.ticked());
 }
 
+void PlotPanel::tellNewest() {
+    const int newest = run_.Runs.count();
+    results_.StatusBar1.setCaption(newest == 0 ? "" : "Data set " + wordsOf(run_.Runs, newest));
+}
+
 std::string PlotPanel::inWords() const {
     const int count = run_.Runs.count();
     std::string words = std::to_string(count) + (count == 1 ? " data set." : " data sets.");

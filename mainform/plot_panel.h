@@ -29,6 +29,8 @@ public:
     void PreparePrintPlots();
     /// What the plot shows, in words: the number of data sets, and what came of each.
     std::string inWords() const;
+    /// Tells in the status bar what came of the newest data set; nothing where there is none.
+    void tellNewest();
 
 private:
     RunControls& run_;

@@ -4,6 +4,7 @@
 #include "numbers/text_number.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 
 namespace parabolt {
@@ -24,6 +25,10 @@ constexpr double kPlotShare = 0.62;  ///< of the width, beside charts
 constexpr double kTitleSize = 16;
 constexpr double kTextSize = 9;
 constexpr double kSmallestSize = 4;
+
+// Each is a line of the text.
+constexpr std::array<std::string SheetFields::*, 4> kFields = {
+    &SheetFields::player, &SheetFields::fitter, &SheetFields::date, &SheetFields::note};
 
 /// Name and unit of a heading, in a line each; a heading without unit stands in the second.
 std::pair<std::string, std::string> linesOf(const std::string& heading) {
@@ -222,6 +227,22 @@ private:
 };
 
 } // namespace
+
+std::string fieldsText(const SheetFields& fields) {
+    std::string text;
+    for (const auto field : kFields)
+        text += fields.*field + '\n';
+    return text;
+}
+
+SheetFields fieldsOf(std::string_view text) {
+    SheetFields fields;
+    for (const auto field : kFields) {
+        fields.*field = text.substr(0, text.find('\n'));
+        text.remove_prefix(std::min((fields.*field).size() + 1, text.size()));
+    }
+    return fields;
+}
 
 void ComposeSheet(Page& target, double Ratio, const SheetContent& content) {
     SheetComposer(target, Ratio, content).compose();

@@ -15,6 +15,11 @@ struct SheetFields {
     friend bool operator==(const SheetFields&, const SheetFields&) = default;
 };
 
+/// The fields as one text, to be kept with a session, and back. What isn't such a text gives empty
+/// fields.
+std::string fieldsText(const SheetFields& fields);
+SheetFields fieldsOf(std::string_view text);
+
 /// A page of our own: title, fields, pictures and one table.
 struct SheetContent {
     std::string title;

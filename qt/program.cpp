@@ -2,6 +2,7 @@
 
 #include "clubs/frm_club_params.h"
 #include "qt/club_editor_window.h"
+#include "qt/data_sets_window.h"
 #include "qt/map_window.h"
 #include "qt/print_view_window.h"
 #include "qt/splash_window.h"
@@ -28,6 +29,13 @@ std::string applicationFolder() {
 void execute(QDialog& dialog) {
     dialog.exec();
     dialog.parentWidget()->activateWindow();
+}
+
+/// Shows a window beside the main window.
+void bringUp(QWidget& window) {
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
 /// Where programs keep what is to outlive them, by the XDG rules.
@@ -66,6 +74,7 @@ Program::Program()
     logic_.showClubEditor = [this] { showClubEditor(); };
     logic_.showPrintView = [this] { showPrintView(); };
     logic_.showCarryMap = [this] { showCarryMap(); };
+    logic_.showDataSets = [this] { showDataSets(); };
     logic_.showAbout = [this] { showAbout(); };
     logic_.endProgram = [this] {
         logic_.pause.stop();
@@ -132,9 +141,13 @@ void Program::showPrintView() {
 void Program::showCarryMap() {
     if (!mapWindow_)
         mapWindow_ = std::make_unique<MapWindow>(logic_, services_);
-    mapWindow_->show();
-    mapWindow_->raise();
-    mapWindow_->activateWindow();
+    bringUp(*mapWindow_);
+}
+
+void Program::showDataSets() {
+    if (!dataSetsWindow_)
+        dataSetsWindow_ = std::make_unique<DataSetsWindow>(logic_, services_, printer_);
+    bringUp(*dataSetsWindow_);
 }
 
 void Program::showAbout() {

@@ -13,6 +13,7 @@
 
 namespace parabolt {
 
+class DataSetsWindow;
 class MapWindow;
 class SplashWindow;
 
@@ -39,6 +40,7 @@ private:
     void showClubEditor();
     void showPrintView();
     void showCarryMap();
+    void showDataSets();
     void showAbout();
 
     QtMessageBoxes messages_;
@@ -52,6 +54,7 @@ private:
     frmMain logic_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<MapWindow> mapWindow_;
+    std::unique_ptr<DataSetsWindow> dataSetsWindow_;
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<SplashWindow> splashWindow_;
 };

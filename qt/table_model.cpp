@@ -144,6 +144,15 @@ SortedTable::SortedTable(TableModel& model, QObject* parent)
     setDynamicSortFilter(true);
 }
 
+void SortedTable::setFilter(std::function<bool(std::size_t)> shown) {
+    shown_ = std::move(shown);
+    invalidateFilter();
+}
+
+bool SortedTable::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const {
+    return !shown_ || shown_(static_cast<std::size_t>(row));
+}
+
 bool SortedTable::lessThan(const QModelIndex& left, const QModelIndex& right) const {
     return comesBefore(model_.cell(left), model_.cell(right));
 }

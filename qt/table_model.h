@@ -4,6 +4,7 @@
 
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>
+#include <functional>
 
 namespace parabolt {
 
@@ -40,11 +41,16 @@ class SortedTable : public QSortFilterProxyModel {
 public:
     explicit SortedTable(TableModel& model, QObject* parent = nullptr);
 
+    /// Shows only those rows of the source for which this says yes; all, if it is empty.
+    void setFilter(std::function<bool(std::size_t)> shown);
+
 protected:
+    bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 
 private:
     TableModel& model_;
+    std::function<bool(std::size_t)> shown_;
 };
 
 } // namespace parabolt

@@ -25,6 +25,8 @@ public:
 
     /// The source holds something else now. What is selected stays so.
     void refresh() { model_.refresh(); }
+    /// Shows only those rows of the source for which this says yes; all, if it is empty.
+    void setFilter(std::function<bool(std::size_t)> shown) { sorted_.setFilter(std::move(shown)); }
 
     /// The layout as it was left, and its text for preferences.
     void setLayoutText(std::string_view text);

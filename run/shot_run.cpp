@@ -49,11 +49,13 @@ void ShotRun::SetCurveColor() {
 void ShotRun::WriteResultRow() {
     parabolt::WriteResultRow(txtResult_, form_.Runs.newest(), form_.shot.ClubNo,
                              form_.txtRun.text());
+    plot_.tellNewest();
 }
 
 void ShotRun::dropRuns() {
     form_.txtRun.setText("0");
     form_.Runs.clear();
+    plot_.tellNewest();
 }
 
 void ShotRun::ClearRuns() {

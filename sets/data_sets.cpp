@@ -6,7 +6,6 @@
 #include "shots/figures.h"
 #include "shots/fly.h"
 
-#include <algorithm>
 #include <array>
 
 namespace parabolt {
@@ -214,10 +213,14 @@ TableCell DataSets::cell(std::size_t row, std::size_t column) const {
     return allColumns().at(column).cell({book_, numberOf(row)});
 }
 
-void DataSets::tick(std::size_t row, std::size_t /*column*/, bool ticked) {
+void DataSets::setTick(std::size_t row, bool ticked) {
     DataSetTag tag = book_.tag(numberOf(row));
     tag.ticked = ticked;
     book_.setTag(numberOf(row), std::move(tag));
+}
+
+void DataSets::tick(std::size_t row, std::size_t /*column*/, bool ticked) {
+    tickRows(std::array{row}, ticked);
 }
 
 void DataSets::enter(std::size_t row, std::size_t /*column*/, const std::string& text) {
@@ -226,14 +229,15 @@ void DataSets::enter(std::size_t row, std::size_t /*column*/, const std::string&
     book_.setTag(numberOf(row), std::move(tag));
 }
 
-void DataSets::tickOnly(std::span<const std::size_t> rows) {
-    for (std::size_t row = 0; row < rowCount(); ++row)
-        tick(row, 0, std::find(rows.begin(), rows.end(), row) != rows.end());
+void DataSets::tickRows(std::span<const std::size_t> rows, bool ticked) {
+    for (const std::size_t row : rows)
+        setTick(row, ticked);
+    if (onTicks)
+        onTicks();
 }
 
 void DataSets::tickAll() {
-    for (std::size_t row = 0; row < rowCount(); ++row)
-        tick(row, 0, true);
+    tickRows(wholeTable(*this).rows, true);
 }
 
 TableExtract DataSets::ticked() const {

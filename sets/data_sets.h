@@ -3,6 +3,8 @@
 #include "shots/run_book.h"
 #include "tables/table_source.h"
 
+#include <functional>
+
 namespace parabolt {
 
 /// The data sets of a book as a table, a row for each: what they are called, what was flown, what
@@ -18,14 +20,18 @@ public:
     void tick(std::size_t row, std::size_t column, bool ticked) override;
     void enter(std::size_t row, std::size_t column, const std::string& text) override;
 
-    /// Ticks these rows and no others.
-    void tickOnly(std::span<const std::size_t> rows);
+    void tickRows(std::span<const std::size_t> rows, bool ticked);
     void tickAll();
 
     /// What a printed page shows: the ticked rows, with name, figures and conditions.
     TableExtract ticked() const;
 
+    /// Set by the view: other data sets are ticked now.
+    std::function<void()> onTicks;
+
 private:
+    void setTick(std::size_t row, bool ticked);
+
     RunBook& book_;
 };
 

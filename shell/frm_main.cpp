@@ -17,6 +17,8 @@ frmMain::frmMain(const FormServices& services)
       defaults_(form, services.messages),
       resultExport_(form.txtResult, services.ccrpFileDialogs1, services.preferences,
                     services.messages, services.applicationFolder),
+      dataSetExport_(form.Runs, services.ccrpFileDialogs1, services.preferences, services.messages,
+                     services.applicationFolder),
       parameters_(form, services.ccrpFileDialogs1, services.preferences, services.messages,
                   services.applicationFolder),
       run_(form, form.clubs, form.txtResult, plot, services.messages),
@@ -47,6 +49,12 @@ void frmMain::wireMenus(Desktop& desktop) {
     form.mnuStyLaunch.Click.connect([this] { studies_.mnuStyLaunch_Click(); });
     form.mnuStySpin.Click.connect([this] { studies_.mnuStySpin_Click(); });
     form.mnuStyMap.Click.connect([this] { showCarryMap(); });
+    form.mnuDataSets.Click.connect([this] { showDataSets(); });
+    form.mnuExportTable.Click.connect([this] { dataSetExport_.mnuExportTable_Click(); });
+    form.mnuExportPaths.Click.connect([this] { dataSetExport_.mnuExportPaths_Click(); });
+    form.mnuExportPlot.Click.connect([this] { dataSetExport_.exportPlot(plotFile); });
+    form.mnuCopyTable.Click.connect([this] { copyTable(); });
+    form.mnuCopyPlot.Click.connect([this] { copyPlot(); });
     form.mnuReset.Click.connect([this] { defaults_.mnuReset_Click(); });
     form.mnuHelp.Click.connect([settle, &desktop] {
         settle();

@@ -8,6 +8,7 @@
 #include "results/result_export.h"
 #include "run/studies.h"
 #include "sessions/session_handlers.h"
+#include "sets/data_set_export.h"
 
 #include <functional>
 
@@ -46,8 +47,13 @@ public:
     std::function<void()> showClubEditor; ///< `frmClubParams`, modal
     std::function<void()> showPrintView;  ///< `frmPrintView`, modal
     std::function<void()> showCarryMap;   ///< beside the form
+    std::function<void()> showDataSets;   ///< likewise
     std::function<void()> showAbout;      ///< `frmSplash`, modal
     std::function<void()> endProgram;     ///< at once, with no question
+    // What only the view can paint, or put on the clipboard.
+    DialogRoutine::Compose plotFile; ///< the plot as a picture file
+    std::function<void()> copyTable; ///< all data sets with all that is known of them
+    std::function<void()> copyPlot;
 
 private:
     void wireMenus(Desktop& desktop);
@@ -57,6 +63,7 @@ private:
     Modes modes_;
     Defaults defaults_;
     ResultExport resultExport_;
+    DataSetExport dataSetExport_;
     ParameterHandlers parameters_;
     ShotRun run_;
     FillInBatch batch_;

@@ -24,7 +24,7 @@ MAY_SEE = {
     "exchange": {"numbers"},
     "measured": {"numbers", "engine", "shots", "clubs", "files", "exchange"},
     "tables": {"numbers", "exchange"},
-    "sets": GROUND | {"engine", "shots", "exchange", "tables", "plots"},
+    "sets": GROUND | {"engine", "shots", "exchange", "tables", "plots", "files"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
