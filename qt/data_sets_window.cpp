@@ -4,6 +4,7 @@
 #include "qt/sheet_dialog.h"
 #include "qt/table_view.h"
 #include "qt/text.h"
+#include "qt/window_parts.h"
 #include "sets/data_set_words.h"
 #include "sets/landing_chart.h"
 #include "tables/table_text.h"
@@ -16,7 +17,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
-#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QToolButton>
@@ -28,25 +28,6 @@ constexpr QSize kUsualSize{1180, 720};
 constexpr std::size_t kDate = 10; ///< characters of "2026-11-23 10:32"
 constexpr std::string_view kWindow = "dataSets";
 
-QAction* command(QMenu* menu, const char* name, const char* text, const char* meaning,
-                 const QKeySequence& key = {}) {
-    QAction* action = menu->addAction(text);
-    action->setObjectName(name);
-    action->setShortcut(key);
-    action->setMenuRole(QAction::NoRole);
-    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-    action->setToolTip(keys.isEmpty() ? QString(meaning) : QString("%1 (%2)").arg(meaning, keys));
-    return action;
-}
-
-QToolButton* buttonOf(QAction* action) {
-    auto* button = new QToolButton;
-    button->setDefaultAction(action);
-    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    button->setFocusPolicy(Qt::TabFocus);
-    return button;
-}
-
 } // namespace
 
 DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Printer& printer)
@@ -54,7 +35,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
       book_(logic.form.Runs),
       printer_(printer),
       messages_(services.messages),
-      preferences_(services.preferences),
+      memory_(services.preferences, kWindow),
       desktop_(services.desktop),
       localTime_(services.sessions.localTime),
       dialogs_(services.ccrpFileDialogs1, services.preferences, services.messages,
@@ -242,10 +223,10 @@ void DataSetsWindow::exportTable() {
 }
 
 void DataSetsWindow::print() {
-    std::string& kept = logic_.form.windows[std::string(kWindow)];
+    SharedText& kept = logic_.form.windows[std::string(kWindow)];
     SheetContent content;
     content.title = "Comparison of Data Sets";
-    content.fields = fieldsOf(kept);
+    content.fields = fieldsOf(kept.text());
     if (content.fields.date.empty())
         content.fields.date = localTime_().substr(0, kDate);
     logic_.plot.PreparePrintPlots();
@@ -263,33 +244,15 @@ void DataSetsWindow::print() {
 
 /// Size and columns as they were left.
 void DataSetsWindow::restore() {
-    const auto read = [this](std::string_view key) {
-        const auto text = GetRegString(preferences_, kApplicationTitle, kWindow, key, "");
-        return text ? *text : std::string();
-    };
-    const auto numbers = [&](std::string_view key) {
-        QList<int> values;
-        for (const QString& word : toQt(read(key)).split(' ', Qt::SkipEmptyParts))
-            values << word.toInt();
-        return values;
-    };
-    table_->setLayoutText(read("Columns"));
-    const auto size = numbers("Size");
-    const QSize wanted = size.size() == 2 ? QSize(size[0], size[1]) : kUsualSize;
-    resize(wanted.expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize() * 0.95));
-    if (const auto heights = numbers("Heights"); heights.size() == 2)
-        halves_->setSizes(heights);
+    memory_.restore(*table_, "Columns");
+    memory_.restoreSize(*this, kUsualSize);
+    memory_.restore(*halves_, "Heights");
 }
 
 void DataSetsWindow::remember() {
-    const auto write = [this](std::string_view key, const std::string& text) {
-        // What can't be remembered is as at first the next time: no reason to stop anybody.
-        static_cast<void>(SaveRegString(preferences_, kApplicationTitle, kWindow, key, text));
-    };
-    write("Columns", table_->layoutText());
-    write("Size", std::to_string(width()) + " " + std::to_string(height()));
-    const auto heights = halves_->sizes();
-    write("Heights", std::to_string(heights[0]) + " " + std::to_string(heights[1]));
+    memory_.remember(*table_, "Columns");
+    memory_.rememberSize(*this);
+    memory_.remember(*halves_, "Heights");
 }
 
 } // namespace parabolt

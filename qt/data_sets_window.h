@@ -1,6 +1,7 @@
 #pragma once
 
 #include "printing/printer.h"
+#include "qt/window_memory.h"
 #include "sets/data_sets.h"
 #include "shell/frm_main.h"
 
@@ -46,7 +47,7 @@ private:
     RunBook& book_;
     Printer& printer_;
     MessageBoxes& messages_;
-    PreferencesStore& preferences_;
+    WindowMemory memory_;
     Desktop& desktop_;
     std::function<std::string()> localTime_;
     DialogRoutine dialogs_;

@@ -122,15 +122,18 @@ MapWindow::~MapWindow() = default;
 
 void MapWindow::buildMenu() {
     QMenu* menu = menuBar()->addMenu("&Map");
-    connect(menuAction(menu, "mapSavePicture", "&Save Picture...", QKeySequence::Save),
+    connect(command(menu, "mapSavePicture", "&Save Picture...",
+                    "Writes the map as PNG, SVG or PDF, on white", QKeySequence::Save),
             &QAction::triggered, this, &MapWindow::savePicture);
-    connect(menuAction(menu, "mapCopyPicture", "&Copy Picture", QKeySequence::Copy),
+    connect(command(menu, "mapCopyPicture", "&Copy Picture", "Puts it on the clipboard",
+                    QKeySequence::Copy),
             &QAction::triggered, this, &MapWindow::copyPicture);
-    connect(menuAction(menu, "mapExportTable", "&Export Table...", Qt::CTRL | Qt::Key_E),
+    connect(command(menu, "mapExportTable", "&Export Table...",
+                    "Writes a row for each point of the map", Qt::CTRL | Qt::Key_E),
             &QAction::triggered, this, &MapWindow::exportTable);
     menu->addSeparator();
-    connect(menuAction(menu, "mapClose", "C&lose", QKeySequence::Close), &QAction::triggered, this,
-            &QWidget::close);
+    connect(command(menu, "mapClose", "C&lose", "Closes this window", QKeySequence::Close),
+            &QAction::triggered, this, &QWidget::close);
 }
 
 MapWindow::AxisFields MapWindow::axisFields(const QString& name) {

@@ -6,20 +6,28 @@
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
+#include <QToolButton>
 
 namespace parabolt {
 
-QAction* menuAction(QMenu* menu, const QString& name, const QString& text, const QKeySequence& key,
-                    const QString& tip) {
+QAction* command(QMenu* menu, const QString& name, const QString& text, const QString& meaning,
+                 const QKeySequence& key) {
     QAction* action = menu->addAction(text);
     action->setObjectName(name);
     action->setShortcut(key);
     action->setMenuRole(QAction::NoRole);
-    if (!tip.isEmpty()) {
-        action->setToolTip(tip);
-        menu->setToolTipsVisible(true);
-    }
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    action->setToolTip(keys.isEmpty() ? meaning : QString("%1 (%2)").arg(meaning, keys));
+    menu->setToolTipsVisible(true);
     return action;
+}
+
+QToolButton* buttonOf(QAction* action) {
+    auto* button = new QToolButton;
+    button->setDefaultAction(action);
+    button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
 }
 
 QLabel* textLabel(const QString& name) {

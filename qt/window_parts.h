@@ -9,14 +9,18 @@ class QDoubleSpinBox;
 class QLabel;
 class QMenu;
 class QPushButton;
+class QToolButton;
 class QWidget;
 
 namespace parabolt {
 
 // Parts of the windows that are no forms, with their names.
 
-QAction* menuAction(QMenu* menu, const QString& name, const QString& text,
-                    const QKeySequence& key = {}, const QString& tip = {});
+/// A command of a menu; its tip tells the meaning and the key.
+QAction* command(QMenu* menu, const QString& name, const QString& text, const QString& meaning,
+                 const QKeySequence& key = {});
+/// A button for a command, which the Tab key reaches.
+QToolButton* buttonOf(QAction* action);
 
 /// A text that wraps and can be selected.
 QLabel* textLabel(const QString& name);
