@@ -152,12 +152,15 @@ struct MenuControls : virtual FormCore {
     MenuItem mnuExportPlot{controls, "mnuExportPlot", "Export Plot..."};
     MenuItem mnuCopyTable{controls, "mnuCopyTable", "&Copy Table"};
     MenuItem mnuCopyPlot{controls, "mnuCopyPlot", "Cop&y Plot"};
+    MenuItem mnuReopenClubs{controls, "mnuReopenClubs", "Reopen Last Cl&ubs File"};
     MenuItem mnuDefault{controls, "mnuDefault", "&DefaultClub"};
     MenuItem mnuStudies{controls, "mnuStudies", "&Studies", WhileBusy::Free};
     MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
     MenuItem mnuStySpin{controls, "mnuStySpin", "Spin &Rate"};
     MenuItem mnuStyMap{controls, "mnuStyMap", "Carry &Map...", WhileBusy::Free};
     MenuItem mnuDataSets{controls, "mnuDataSets", "&Data Sets...", WhileBusy::Free};
+    MenuItem mnuMeasured{controls, "mnuMeasured", "M&easured Shots...", WhileBusy::Free};
+    MenuItem mnuBag{controls, "mnuBag", "&Bag...", WhileBusy::Free};
     MenuItem mnuReset{controls, "mnuReset", "&Reset"};
     MenuItem Help{controls, "Help", "&Help", WhileBusy::Free};
     MenuItem mnuHelp{controls, "mnuHelp", "&Help", WhileBusy::Free};

@@ -166,6 +166,8 @@ void MainWindow::buildMenus() {
     studies->addSeparator();
     add(studies, form.mnuStyMap, Qt::CTRL | Qt::Key_M);
     add(studies, form.mnuDataSets, Qt::CTRL | Qt::Key_L);
+    add(studies, form.mnuMeasured, Qt::CTRL | Qt::SHIFT | Qt::Key_M);
+    add(studies, form.mnuBag, Qt::CTRL | Qt::Key_B);
     add(menuBar(), form.mnuReset, Qt::CTRL | Qt::Key_R);
     QMenu* help = addMenu(form.Help);
     add(help, form.mnuHelp, Qt::Key_F1);
@@ -185,6 +187,8 @@ void MainWindow::addSessionMenus(QMenu& file) {
         ->setToolTip("Saves all that is on the desk: fields, clubs, data sets, table");
     add(&file, form.mnuReopenSession, Qt::CTRL | Qt::SHIFT | Qt::Key_T)
         ->setToolTip("Lays on the desk what was there when the program last ended");
+    add(&file, form.mnuReopenClubs, Qt::CTRL | Qt::SHIFT | Qt::Key_D)
+        ->setToolTip("Takes the set of the clubs file that was opened or saved last");
     file.addSeparator();
     // A field takes these keys for itself: there they take back what was typed.
     add(&file, form.mnuGoBack, QKeySequence::Undo)

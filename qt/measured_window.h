@@ -4,21 +4,23 @@
 #include "fitting/carry_chart.h"
 #include "fitting/import_review.h"
 #include "fitting/measured_table.h"
+#include "printing/printer.h"
+#include "qt/window_memory.h"
 #include "shell/frm_main.h"
 #include "shots/background.h"
 
 #include <QMainWindow>
-#include <array>
 
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
+class QMenu;
+class QSplitter;
 
 namespace parabolt {
 
 class ChartView;
-class Printer;
 class TableView;
 
 /// The window of the shots that a launch monitor has measured, called "measuredShots": beside the
@@ -31,9 +33,6 @@ public:
                    Printer& printer);
     ~MeasuredWindow() override;
 
-    /// Shows what a file of a name would bring, and takes what the user wants of it.
-    void importBytes(const QString& name, std::string_view bytes);
-
 protected:
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
@@ -42,48 +41,58 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // The window.
     QWidget* head();
     QWidget* choices();
-    QWidget* tables();
-    void buildMenus();
-    void connectParts();
-
+    QWidget* parts();
+    void buildCommands();
+    QAction* add(QMenu* menu, const QString& name, const QString& text, const QString& meaning,
+                 const QKeySequence& key, void (MeasuredWindow::*run)());
     void follow();
     void refresh();
     void showChoices();
     void showTexts();
     void takeAir();
+    void remember();
+    std::vector<CarryLine> carryLines() const;
 
+    // Its commands.
     void importFile();
+    Outcome<void, Failure> importNamed(const std::string& fileName);
     void exportFile();
-    void copy();
+    void copyTableInUse();
     void copyChart();
     void print();
     void checkedIntoDataSets();
     void meansIntoDataSets();
-    void runOnForm(std::span<const Shot> shots, const char* none);
-    void drawChart(PictureBox& canvas) const;
-    const TableView& tableInUse() const;
+    void runShots(std::span<const Shot> shots);
+    void strikeSelected();
+    void checkSelected();
+    void checkAll();
 
     frmMain& logic_;
     Fitting& fitting_;
     MessageBoxes& messages_;
-    PreferencesStore& preferences_;
     Desktop& desktop_;
     Printer& printer_;
+    std::function<std::string()> localTime_;
     DialogRoutine dialogs_;
-    ColumnMemory memory_;
+    ColumnMemory columns_;
+    WindowMemory memory_;
     Comparison comparison_;
     MeasuredTable shots_;
     ClubsTable clubs_;
+    std::uint64_t computing_ = 0; ///< generation at which the background is, or was
 
     QLabel* source_;
     QComboBox* weather_;
     QCheckBox* normalise_;
-    std::array<QDoubleSpinBox*, 4> air_; ///< in the order of `CalmAir`
-    TableView* shotsView_ = nullptr;
-    TableView* clubsView_ = nullptr;
-    ChartView* chart_ = nullptr;
+    std::vector<QDoubleSpinBox*> air_; ///< of the calm air
+    TableView* shotsView_;
+    TableView* clubsView_;
+    ChartView* chart_;
+    QSplitter* halves_;
+    QSplitter* below_;
     QLabel* summary_;
     Background background_; ///< last: it ends before what it delivers to
 };

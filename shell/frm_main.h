@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clubs/club_file_handlers.h"
 #include "controls/services.h"
 #include "mainform/defaults.h"
 #include "mainform/modes.h"
@@ -48,6 +49,8 @@ public:
     std::function<void()> showPrintView;  ///< `frmPrintView`, modal
     std::function<void()> showCarryMap;   ///< beside the form
     std::function<void()> showDataSets;   ///< likewise
+    std::function<void()> showMeasured;   ///< likewise
+    std::function<void()> showBag;        ///< likewise
     std::function<void()> showAbout;      ///< `frmSplash`, modal
     std::function<void()> endProgram;     ///< at once, with no question
     // What only the view can paint, or put on the clipboard.
@@ -58,6 +61,7 @@ public:
 private:
     void wireMenus(Desktop& desktop);
     void ResetAll();
+    void reopenClubs(const ClubServices& services);
 
     ClubChoice clubChoice_;
     Modes modes_;
