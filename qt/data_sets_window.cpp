@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
 #include <QToolButton>
@@ -75,7 +76,6 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     base_->setAccessibleName("Base set");
     base_->setToolTip("The set with which the others are compared");
     base_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    landing_->setMinimumHeight(8 * fontMetrics().height());
     table_->setMinimumHeight(6 * fontMetrics().height());
     table_->installEventFilter(this);
     sets_.onTicks = [this] { logic_.plot.redraw(); };
@@ -92,7 +92,11 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     row->addStretch();
     row->addWidget(count_);
     halves_->addWidget(table_);
-    halves_->addWidget(landing_);
+    auto* closeUp = new QScrollArea;
+    closeUp->setWidgetResizable(true);
+    closeUp->setWidget(landing_);
+    closeUp->setMinimumHeight(8 * fontMetrics().height());
+    halves_->addWidget(closeUp);
     halves_->setStretchFactor(0, 3);
     halves_->setStretchFactor(1, 2);
     halves_->setChildrenCollapsible(false);
@@ -202,6 +206,8 @@ void DataSetsWindow::follow() {
 void DataSetsWindow::showState() {
     shownRevision_ = book_.revision();
     table_->refresh();
+    landing_->setMinimumHeight(static_cast<int>((book_.ticked().size() + 5) *
+                                                static_cast<unsigned>(fontMetrics().height())));
     landing_->redraw();
     showBases();
     const auto ticked = book_.ticked();

@@ -47,6 +47,7 @@ protected:
 private:
     void lay(const TableLayout& layout);
     void buildColumnsMenu();
+    int usualWidth(int column) const;
 
     TableSource& source_;
     TableModel model_;

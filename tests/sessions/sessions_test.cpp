@@ -30,6 +30,8 @@ struct WorkingUser : ScriptedForm {
         enter(form.txtWind, "7.3");
         enter(form.txtRange, "250");
         run(2);
+        form.Runs.setTag(1, {"Tr\u00e4ger", false, 2});
+        form.Runs.setBase(form.Runs.count());
         form.reportCaption = "Tuesday";
         form.windows["map"] = "{}";
         auto content = form.txtResult.content();
@@ -79,6 +81,20 @@ TEST(Session, ReadsBackToTheSameBits) {
     before.pop_back();
     desk.shot.COR = session.desk.shot.COR = 0;
     EXPECT_EQ(desk, session.desk);
+}
+
+TEST(Session, OfAWriterThatKnewNoNamesHasThemAsAtFirst) {
+    Session session{WorkingUser(2).desk(), "2026-11-23 10:32"};
+    std::string text = encodeSession(session);
+    for (const char* member :
+         {"\"base\":2,", "\"ball\":2,", "\"name\":\"Tr\u00e4ger\",", "\"ticked\":false",
+          "\"ball\":2,", "\"name\":\"\",", "\"ticked\":true"})
+        text = replaced(text, member, member[1] == 't' ? "\"other\":1" : "");
+    const auto read = decodeSession(text);
+    ASSERT_TRUE(read);
+    session.desk.tags = {2, DataSetTag()};
+    session.desk.base = 1;
+    EXPECT_EQ(read->desk, session.desk);
 }
 
 TEST(Session, GoesOnAsIfItHadNeverBeenClosed) {
