@@ -110,6 +110,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
         book_.setBase(index + 1);
         follow();
     });
+    connect(table_->model(), &QAbstractItemModel::dataChanged, this, &DataSetsWindow::follow);
     // The form changes in this thread alone: before it sleeps, and when it wakes, a look is enough.
     const auto* loop = QAbstractEventDispatcher::instance();
     connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &DataSetsWindow::follow);
@@ -124,6 +125,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
 DataSetsWindow::~DataSetsWindow() {
     if (isVisible())
         remember();
+    delete takeCentralWidget(); // before what it shows
 }
 
 void DataSetsWindow::buildCommands() {

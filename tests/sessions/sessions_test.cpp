@@ -32,6 +32,7 @@ struct WorkingUser : ScriptedForm {
         run(2);
         form.Runs.setTag(1, {"Tr\u00e4ger", false, 2});
         form.Runs.setBase(form.Runs.count());
+        main.plot.redraw();
         form.reportCaption = "Tuesday";
         form.windows["map"] = "{}";
         auto content = form.txtResult.content();
@@ -85,12 +86,15 @@ TEST(Session, ReadsBackToTheSameBits) {
 
 TEST(Session, OfAWriterThatKnewNoNamesHasThemAsAtFirst) {
     Session session{WorkingUser(2).desk(), "2026-11-23 10:32"};
-    std::string text = encodeSession(session);
+    const std::string text = replaced(encodeSession(session), "\"base\":2,", "");
+    const std::size_t sets = text.find("\"dataSets\"");
+    std::string tail = text.substr(sets);
     for (const char* member :
-         {"\"base\":2,", "\"ball\":2,", "\"name\":\"Tr\u00e4ger\",", "\"ticked\":false",
-          "\"ball\":2,", "\"name\":\"\",", "\"ticked\":true"})
-        text = replaced(text, member, member[1] == 't' ? "\"other\":1" : "");
-    const auto read = decodeSession(text);
+         {"\"ball\":2,", "\"name\":\"Tr\u00e4ger\",", "\"ball\":2,", "\"name\":\"\","})
+        tail = replaced(tail, member, "");
+    for (const char* member : {",\"ticked\":false", ",\"ticked\":true"})
+        tail = replaced(tail, member, "");
+    const auto read = decodeSession(text.substr(0, sets) + tail);
     ASSERT_TRUE(read);
     session.desk.tags = {2, DataSetTag()};
     session.desk.base = 1;

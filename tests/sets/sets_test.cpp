@@ -1,4 +1,7 @@
 #include "exchange/shot_columns.h"
+#include "mainform/form_shot.h"
+#include "mainform/modes.h"
+#include "results/result_table.h"
 #include "sets/data_set_words.h"
 #include "sets/data_sets.h"
 #include "sets/landing_chart.h"
@@ -116,8 +119,9 @@ TEST_F(DataSetsTest, AnswerForPointsOfTheirPaths) {
         level.Path.push_back({static_cast<float>(x), 0});
     for (const std::size_t index : {0U, 2U, 3U})
         EXPECT_NEAR(speedAt(level, index), 204.545, 0.001) << index;
-    EXPECT_EQ(readoutOf(book, {2, 1}).substr(0, 60),
-              "Data set 2 Low, \"new\"\nx 50.6 yd, height 30.0 yd\n0.01 s, 1");
+    // From the tee to the landing in two hundredths: 5062.7 yards a second.
+    EXPECT_EQ(readoutOf(book, {2, 1}),
+              "Data set 2 Low, \"new\"\nx 50.6 yd, height 30.0 yd\n0.01 s, 10355.6 mph");
 }
 
 TEST_F(DataSetsTest, StandOnTheLandingChartToScale) {
@@ -148,7 +152,7 @@ TEST_F(DataSetsTest, StandOnTheLandingChartToScale) {
         EXPECT_LE(text.place.x, 9000);
     }
     for (const char* text :
-         {"1", "2 Low, \"new\"", "100.0 / 110.0", "101.2 / 104.2", "base: 1", "105"})
+         {"1", "2 Low, \"new\"", "100.0 / 110.0", "101.2 / 104.2", "base: 1", "106"})
         EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
     canvas.cls();
     drawLandings(canvas, book, {});
