@@ -1,6 +1,10 @@
 #include "bench/bare_loop.h"
 #include "engine/lanes.h"
 #include "engine/many_flights.h"
+#include "exchange/csv_writer.h"
+#include "exchange/shot_columns.h"
+#include "measured/measured_flights.h"
+#include "measured/shot_import.h"
 #include "numbers/rounding.h"
 #include "shots/fly.h"
 
@@ -108,10 +112,36 @@ void many(benchmark::State& state, FlightMeans means, std::size_t count) {
         benchmark::DoNotOptimize(SimulateFlights(shots, {}, means).data());
 }
 
+/// A file of shots with all clubs, as long as a file may be.
+std::string measuredFile() {
+    CsvWriter csv;
+    csv.field(shot_columns::kBallSpeed).field(shot_columns::kLaunchAngle);
+    csv.field(shot_columns::kSpin).endRow();
+    for (const ShotState& shot : clubShots(kMostShotRows - 1)) {
+        csv.field(shot.LaunchSpeed).field(shot.LaunchAngle).field(shot.RPM);
+        csv.endRow();
+    }
+    return csv.text();
+}
+
+void importFile(benchmark::State& state) {
+    const std::string file = measuredFile();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(importShots(file)->rows.data());
+}
+
+void flyFile(benchmark::State& state) {
+    const auto shots = importShots(measuredFile())->taken();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(flyMeasured(shots, Shot(), false).data());
+}
+
 BENCHMARK(bareLoop);
 BENCHMARK(carry);
 BENCHMARK(flight);
 BENCHMARK(bareMany)->Arg(kManyShots)->Arg(kMapShots)->Unit(benchmark::kMillisecond);
+BENCHMARK(importFile)->Unit(benchmark::kMillisecond);
+BENCHMARK(flyFile)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void registerManyFlights() {
     const auto add = [](const std::string& name, FlightMeans means, std::size_t count) {

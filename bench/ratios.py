@@ -25,6 +25,8 @@ MANY = [
      "bareMany/2000"),
     ("map/real_time", "12,000 flights by all that the machine has", "below 0.2 s on two cores",
      "bareMany/12000"),
+    ("importFile", "reading a file of 9,999 measured shots", ""),
+    ("flyFile/real_time", "flying them by all that the machine has", "below 1 s"),
 ]
 FORM = [
     ("spinStudy", "spin study from the defaults, computing alone", "", "bareSpinStudy"),

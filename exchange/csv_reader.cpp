@@ -29,11 +29,11 @@ std::string& freshCell(CsvRow& row, std::size_t number) {
 }
 
 /// Takes the text between quotes from behind the first one on. Where it goes on behind the last; no
-/// place if that isn't there, or if another might follow that makes it one of two.
-std::size_t takeQuoted(std::string_view text, std::size_t at, bool finished, std::string& cell) {
+/// place if that isn't there.
+std::size_t takeQuoted(std::string_view text, std::size_t at, std::string& cell) {
     for (;;) {
         const std::size_t quote = text.find(kCsvQuote, at);
-        if (quote == std::string_view::npos || (quote + 1 == text.size() && !finished))
+        if (quote == std::string_view::npos)
             return std::string_view::npos;
         cell.append(text, at, quote - at);
         at = quote + 1;
@@ -61,7 +61,7 @@ Outcome<bool, CsvFault> CsvReader::next(CsvRow& row) {
     for (bool goesOn = true; goesOn;) {
         std::string& cell = freshCell(row, cells++);
         if (at < text.size() && text[at] == kCsvQuote) {
-            at = takeQuoted(text, at + 1, finished_, cell);
+            at = takeQuoted(text, at + 1, cell);
             if (at == std::string_view::npos)
                 return incomplete(text.size());
         }
@@ -69,7 +69,7 @@ Outcome<bool, CsvFault> CsvReader::next(CsvRow& row) {
         while (at < text.size() && text[at] != delimiter_ && text[at] != '\n' && text[at] != '\r')
             ++at;
         cell.append(text, start, at - start);
-        // A CR that ends a piece may have its LF in the next one.
+        // A CR, or a quote, that ends a piece may have its fellow in the next one.
         if (!finished_ && (at == text.size() || (text[at] == '\r' && at + 1 == text.size())))
             return incomplete(text.size());
         goesOn = at < text.size() && text[at] == delimiter_;
@@ -101,7 +101,7 @@ std::string_view withoutByteOrderMark(std::string_view text) {
 }
 
 char delimiterOf(std::string_view text) {
-    constexpr std::size_t kFirst = 64 * 1024;
+    constexpr std::size_t kFirst = std::size_t{1} << 16;
     text = withoutByteOrderMark(text).substr(0, kFirst);
     if (text.starts_with(kNamesDelimiter) && text.size() > kNamesDelimiter.size())
         return text[kNamesDelimiter.size()];

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string_view>
 
 namespace parabolt {
@@ -11,10 +12,9 @@ inline constexpr std::string_view kCsvLineEnd = "\r\n";
 
 /// True if a field must stand in quotes: it holds what would end it, or a quote.
 constexpr bool needsCsvQuotes(std::string_view field, char delimiter) {
-    for (const char c : field)
-        if (c == delimiter || c == kCsvQuote || c == '\r' || c == '\n')
-            return true;
-    return false;
+    return std::any_of(field.begin(), field.end(), [delimiter](char c) {
+        return c == delimiter || c == kCsvQuote || c == '\r' || c == '\n';
+    });
 }
 
 } // namespace parabolt

@@ -17,6 +17,7 @@ enum BagColumn {
     HeadSpeed,
     Carry,
     Gap,
+    GapIs,
     Total,
     Height,
     LandingAngle,
@@ -26,15 +27,16 @@ enum BagColumn {
     MeasuredTotal,
 };
 
-const std::array<TableColumn, 13>& bagColumns() {
+const std::array<TableColumn, 14>& bagColumns() {
     using Holds = TableColumn::Holds;
-    static const std::array<TableColumn, 13> kColumns = {{
+    static const std::array<TableColumn, 14> kColumns = {{
         {"owned", "Own", "Ticked clubs are in the bag. Key: Space", true, Holds::Ticks},
         {"name", "Name", "Your name of the club: type another one (F2)", true, Holds::Names},
         {"number", "Club", "The club of the editor's set", true, Holds::Texts},
         {"headSpeed", "Head speed [mph]", "Head speed with which the club was flown"},
         {"carry", "Carry [yd]", "Carry that the model computes"},
         {"gap", "Gap [yd]", "Distance to the next shorter carry"},
+        {"gapIs", "Gap is", "Whether it lies within the limits", true, Holds::Texts},
         {"total", "Total [yd]", "Carry and roll"},
         {"height", "Height [yd]", "Greatest height"},
         {"landingAngle", "Landing angle [deg]", "Angle of the path against the ground"},
@@ -49,11 +51,11 @@ const std::array<TableColumn, 13>& bagColumns() {
 std::string_view wordOf(BagGap::Kind kind) {
     switch (kind) {
     case BagGap::Kind::TooNarrow:
-        return " narrow";
+        return "narrow";
     case BagGap::Kind::TooWide:
-        return " wide";
+        return "wide";
     default:
-        return "";
+        return "good";
     }
 }
 
@@ -179,11 +181,10 @@ TableCell BagTable::cell(std::size_t row, std::size_t column) const {
         cell.text = club.name;
     } else if (column == Number) {
         cell.text = (club.club.iron ? "Iron " : "Wood ") + std::to_string(club.club.number);
-    } else if (flight != nullptr && column == Gap) {
-        if (const BagGap* gap = gapBehind(*flight)) {
-            cell = numberCell(gap->yards, kYards);
-            cell.text += wordOf(gap->kind);
-        }
+    } else if (flight != nullptr && (column == Gap || column == GapIs)) {
+        if (const BagGap* gap = gapBehind(*flight))
+            cell = column == Gap ? numberCell(gap->yards, kYards)
+                                 : TableCell{std::string(wordOf(gap->kind))};
     } else if (flight != nullptr) {
         cell = flightCell(*flight, column);
     }

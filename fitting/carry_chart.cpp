@@ -30,6 +30,15 @@ constexpr Rgb kNarrowColour{230, 159, 0};
 constexpr Rgb kWideColour{213, 94, 0};
 constexpr Rgb kQuiet{128, 128, 128};
 
+/// A colour near the ground, for lines that only guide the eye.
+Rgb faint(Rgb ground, Rgb ink) {
+    constexpr double kShare = 0.2;
+    const auto mix = [](std::uint8_t from, std::uint8_t to) {
+        return static_cast<std::uint8_t>(std::lround(std::lerp(from, to, kShare)));
+    };
+    return {mix(ground.red, ink.red), mix(ground.green, ink.green), mix(ground.blue, ink.blue)};
+}
+
 double placeOfLine(const CarryLine& line) {
     return line.computed ? *line.computed : line.measured ? line.measured->mean : 0;
 }
@@ -110,7 +119,7 @@ private:
     void axis() {
         const double foot = kAbove + lineHeight_ * static_cast<double>(order_.size());
         for (const double value : roundValues(low_, high_, step_)) {
-            pen(kQuiet);
+            pen(faint(canvas_.background(), ink_));
             canvas_.line({across(value), kAbove}, {across(value), foot + kTickLength});
             pen(ink_);
             canvas_.label({across(value), foot + kTickLength + kGapToText / 2},

@@ -175,7 +175,8 @@ void MeasuredTable::addFigures() {
             [this, &figure](const MeasuredEntry&, std::size_t row) {
                 return optionalCell(modelFigure(figure, row), patternOf(figure));
             });
-        add({figureKey("difference", figure), figureHeading("Difference of", figure),
+        add({figureKey("difference", figure),
+             std::string(figure.name) + " difference [" + std::string(figure.unit) + "]",
              "Model less device", carry},
             [this, &figure](const MeasuredEntry& entry, std::size_t row) {
                 return row < comparison_.flights().size()

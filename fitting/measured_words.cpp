@@ -18,11 +18,13 @@ std::string counted(std::size_t count, std::string_view what) {
     return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
 }
 
-/// "+4.1 yd on average (SD 5.0, 39 shots)".
-std::string errorInWords(const Spread& error, std::string_view unit) {
-    return withSign(error.mean) + " " + std::string(unit) + " on average (" +
-           (error.deviation ? "SD " + formatPattern(*error.deviation, "0.0") + ", " : "") +
-           counted(error.number, "shot") + ")";
+/// "+4.1 yd (SD 5.0)", with the number of shots where it is another.
+std::string errorInWords(const Spread& error, std::string_view unit, std::size_t shots) {
+    std::string beside = error.deviation ? "SD " + formatPattern(*error.deviation, "0.0") : "";
+    if (error.number != shots)
+        beside += (beside.empty() ? "" : ", ") + counted(error.number, "shot");
+    return withSign(error.mean) + " " + std::string(unit) +
+           (beside.empty() ? "" : " (" + beside + ")");
 }
 
 /// The clubs at both ends, where there are several.
@@ -61,12 +63,18 @@ std::string comparisonInWords(const MeasuredSession& session, const Comparison& 
     if (comparison.flights().size() != session.entries.size())
         return "The flights are being computed.";
     std::string words;
+    std::size_t shots = 0;
     for (const ComparedFigure& figure : comparedFigures()) {
         const auto error = comparison.error(figure);
         if (!error)
             continue;
-        words += words.empty() ? "Model less device: " : "; ";
-        words += lowerCase(figure.name) + " " + errorInWords(*error, figure.unit);
+        if (words.empty()) {
+            shots = error->number;
+            words = "Model less device, mean of " + counted(shots, "shot") + ": ";
+        } else {
+            words += "; ";
+        }
+        words += lowerCase(figure.name) + " " + errorInWords(*error, figure.unit, shots);
     }
     words = words.empty() ? "The file brings no figure to compare with the model's."
                           : words + "." + bestAndWorst(comparison.clubs());

@@ -31,8 +31,6 @@ Shot swingWith(ClubId club, const BagChoice& choice, const ClubTables& tables,
             store32(double{choice.firstSpeed} - static_cast<double>(placeOf(club)) * choice.fall);
     Shot shot = conditions;
     shot.Mode = OperatingMode::Auto;
-    shot.IsWood = !club.iron;
-    shot.ClubNo = club.number;
     shot.sources = {.club = record, .wholeRecord = true, .measuredLaunchAngle = std::nullopt};
     return shot;
 }

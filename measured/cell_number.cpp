@@ -69,9 +69,6 @@ std::optional<double> cellNumber(std::string_view cell, bool decimalComma, bool 
     else if (text.size() > 1 && isSide(text.substr(text.size() - 1)))
         takeSide(text.size() - 1);
 
-    const std::size_t start = text.find_first_not_of("+-");
-    if (start == std::string::npos || start > 1)
-        return std::nullopt;
     const std::size_t end = std::min(text.find_first_not_of(".,0123456789eE+-"), text.size());
     if (end < text.size() && !unitNamed(std::string_view(text).substr(end)))
         return std::nullopt;

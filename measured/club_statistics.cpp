@@ -1,6 +1,7 @@
 #include "measured/club_statistics.h"
 
 #include "numbers/rounding.h"
+#include "numbers/text_number.h"
 #include "shots/run_book.h"
 
 #include <algorithm>
@@ -40,6 +41,15 @@ std::optional<Spread> spreadOver(const ClubShots& club, Tell tell) {
         if (const std::optional<double> figure = tell(entry))
             figures.push_back(*figure);
     return spreadOf(figures);
+}
+
+/// The shot with the values that the fields of the main form hold: those of their shortest texts.
+Shot forFields(Shot shot) {
+    for (auto input :
+         {&ShotInputs::LaunchSpeed, &ShotInputs::LaunchAngle, &ShotInputs::RPM,
+          &ShotInputs::Temperature, &ShotInputs::BaroPressure, &ShotInputs::RH, &ShotInputs::h})
+        shot.*input = store32(leadingNumber(shortestText(shot.*input)));
+    return shot;
 }
 
 constexpr std::size_t kMostDataSets = RunBook::kMost;
@@ -101,7 +111,7 @@ std::vector<Shot> checkedShots(std::span<const MeasuredEntry> entries, const Sho
     std::vector<Shot> shots;
     for (const MeasuredEntry& entry : entries)
         if (entry.checked && !entry.struck && shots.size() < kMostDataSets)
-            shots.push_back(shotOf(entry.shot, conditions, ownAir));
+            shots.push_back(forFields(shotOf(entry.shot, conditions, ownAir)));
     return shots;
 }
 
@@ -117,7 +127,7 @@ std::vector<Shot> meanShots(std::span<const MeasuredEntry> entries, const Shot& 
                 store32(spreadOver(club, [&](std::size_t entry) {
                             return std::optional<double>(entries[entry].shot.*limit.measured);
                         })->mean);
-        shots.push_back(shotOf(mean, conditions, ownAir));
+        shots.push_back(forFields(shotOf(mean, conditions, ownAir)));
     }
     return shots;
 }

@@ -46,10 +46,12 @@ std::vector<ClubStatistics> clubStatistics(std::span<const MeasuredEntry> entrie
                                            std::span<const ModelFlight> flown,
                                            std::span<const std::optional<double>> normalised = {});
 
-/// The checked shots that aren't struck, as shots for data sets: at most as many as a book holds.
+/// The checked shots that aren't struck, as shots for data sets, with the values that the fields of
+/// the main form hold: at most as many as a book holds.
 std::vector<Shot> checkedShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
                                bool ownAir);
-/// The mean launch of each club, in the order of `clubStatistics`; at most as many as a book holds.
+/// The same of the mean launch of each club, in the order of `clubStatistics`. With its own air, it
+/// flies in that of the club's first shot.
 std::vector<Shot> meanShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
                             bool ownAir);
 

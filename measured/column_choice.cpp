@@ -42,7 +42,7 @@ std::optional<Quantity> quantityNamed(const std::string& name) {
     return std::nullopt;
 }
 
-std::optional<ChosenColumn> columnOf(const ChoiceJson& json) {
+std::optional<ChosenColumn> chosenColumnOf(const ChoiceJson& json) {
     const auto quantity = quantityNamed(json.at("quantity").get<std::string>());
     const auto unit = json.at("unit").get<std::string>();
     if (!quantity || (unit.empty() != textOf(*quantity).units.empty()))
@@ -73,7 +73,7 @@ std::optional<ColumnChoice> choiceOf(std::string_view text) {
         const auto json = ChoiceJson::parse(text);
         ColumnChoice choice{json.at("name"), json.at("computesCarry"), {}};
         for (const ChoiceJson& column : json.at("columns")) {
-            const auto chosen = columnOf(column);
+            const auto chosen = chosenColumnOf(column);
             if (!chosen)
                 return std::nullopt;
             choice.columns.push_back(*chosen);

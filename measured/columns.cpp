@@ -27,6 +27,14 @@ void tellUnit(ColumnMeaning& column, std::string_view cell) {
     column.unknownUnit = known ? std::string() : text;
 }
 
+bool standIn(std::span<const HeadingParts> parts, std::span<const std::string_view> marks) {
+    return std::all_of(marks.begin(), marks.end(), [&parts](std::string_view mark) {
+        const std::string name = headingParts(mark).name;
+        return std::any_of(parts.begin(), parts.end(),
+                           [&name](const HeadingParts& part) { return part.name == name; });
+    });
+}
+
 } // namespace
 
 HeadingParts headingParts(std::string_view cell) {
@@ -40,12 +48,7 @@ HeadingParts headingParts(std::string_view cell) {
 }
 
 bool hasMarks(const CsvRow& row, const Device& device) {
-    const auto parts = partsOf(row);
-    return std::all_of(device.marks.begin(), device.marks.end(), [&parts](std::string_view mark) {
-        const std::string name = headingParts(mark).name;
-        return std::any_of(parts.begin(), parts.end(),
-                           [&name](const HeadingParts& part) { return part.name == name; });
-    });
+    return standIn(partsOf(row), device.marks);
 }
 
 std::vector<ColumnMeaning> columnsBelow(const CsvRow& headings, const Device& device) {
@@ -88,10 +91,12 @@ std::span<const CsvRow> firstRows(const ShotFile& file) {
 }
 
 const Device* recognise(const ShotFile& file) {
-    for (const CsvRow& row : firstRows(file))
+    for (const CsvRow& row : firstRows(file)) {
+        const auto parts = partsOf(row);
         for (const Device& device : devices())
-            if (hasMarks(row, device))
+            if (standIn(parts, device.marks))
                 return &device;
+    }
     return nullptr;
 }
 

@@ -102,7 +102,7 @@ void list(Archive& archive, MeasuredSession& session) {
 }
 
 /// Writes the members into an object.
-class Writer {
+class MeasuredWriter {
 public:
     template <class Value>
     void operator()(const char* name, Value& value) {
@@ -119,7 +119,7 @@ private:
         } else if constexpr (std::is_arithmetic_v<Value> || std::is_same_v<Value, std::string>) {
             return value;
         } else {
-            Writer writer;
+            MeasuredWriter writer;
             list(writer, value);
             return std::move(writer.object);
         }
@@ -156,9 +156,11 @@ void demand(bool sound) {
 }
 
 /// Fills the members from an object.
-class Reader {
+class MeasuredReader {
 public:
-    explicit Reader(const MeasuredJson& object) : object_(object) { demand(object.is_object()); }
+    explicit MeasuredReader(const MeasuredJson& object) : object_(object) {
+        demand(object.is_object());
+    }
 
     template <class Value>
     void operator()(const char* name, Value& value) {
@@ -171,8 +173,11 @@ private:
     template <class Value>
     static void read(const MeasuredJson& json, Value& value) {
         if constexpr (std::is_same_v<Value, HeadSpeeds>) {
-            demand(json == 0 || json == 1);
-            value = json == 0 ? HeadSpeeds::OfSet : HeadSpeeds::Falling;
+            const auto last = static_cast<unsigned>(HeadSpeeds::Falling);
+            unsigned number = 0;
+            read(json, number);
+            demand(number <= last);
+            value = static_cast<HeadSpeeds>(number);
         } else if constexpr (std::is_same_v<Value, bool>) {
             demand(json.is_boolean());
             value = json.get<bool>();
@@ -187,7 +192,7 @@ private:
             demand(json.is_string());
             value = json.get<std::string>();
         } else {
-            Reader reader(json);
+            MeasuredReader reader(json);
             list(reader, value);
         }
     }
@@ -218,7 +223,7 @@ private:
     const MeasuredJson& object_;
 };
 
-bool isSound(const MeasuredSession& session) {
+bool isSoundSession(const MeasuredSession& session) {
     const auto set = clubsOfSet();
     const auto isOfSet = [&set](ClubId club) {
         return std::find(set.begin(), set.end(), club) != set.end();
@@ -237,7 +242,7 @@ bool isSound(const MeasuredSession& session) {
 
 std::string encodeMeasured(const MeasuredSession& session) {
     MeasuredSession copy = session;
-    Writer writer;
+    MeasuredWriter writer;
     list(writer, copy);
     return writer.object.dump(-1, ' ', false, MeasuredJson::error_handler_t::replace);
 }
@@ -246,9 +251,9 @@ std::optional<MeasuredSession> decodeMeasured(std::string_view text) {
     try {
         const auto json = MeasuredJson::parse(text);
         MeasuredSession session;
-        Reader reader(json);
+        MeasuredReader reader(json);
         list(reader, session);
-        return isSound(session) ? std::optional(std::move(session)) : std::nullopt;
+        return isSoundSession(session) ? std::optional(std::move(session)) : std::nullopt;
     } catch (const MeasuredJson::exception&) {
         return std::nullopt;
     } catch (const NotMeasured&) {

@@ -30,10 +30,10 @@ struct ComparedFigure {
 std::span<const ComparedFigure> comparedFigures();
 
 /// The shot as the program flies it: mode Launch, in the weather and with the ball of the
-/// conditions. With its own air, temperature, pressure and humidity are those of the file where it
-/// brings them; its pressure is that of the place, so that the altitude becomes 0, or that which
-/// belongs to the pressure where the main form could not show it. The wind is always that of the
-/// conditions.
+/// conditions. With its own air, all of the weather that the file tells takes the place of that of
+/// the conditions. A pressure at the place then flies at no altitude, or, where it lies below what
+/// the main form's field accepts, at the altitude to which it belongs. Where the file tells no
+/// pressure, the density of the air gives it.
 Shot shotOf(const MeasuredShot& shot, const Shot& conditions, bool ownAir);
 
 /// Flies all shots; flights in their order, each equal to the last bit to that of `fly` for

@@ -18,7 +18,7 @@ struct UnitRow {
     double factor;
     double offset;
 };
-constexpr std::array<UnitRow, 17> kUnits = {{
+constexpr std::array<UnitRow, 17> kUnitRows = {{
     {None, "", 1, 0},
     {Mph, "mph", 1, 0},
     {KilometresPerHour, "km/h", 1 / 1.609344, 0},
@@ -89,44 +89,44 @@ constexpr std::array<Spelling, 43> kSpellings = {{
     {"%", Percent},
 }};
 
-constexpr std::array kSpeeds = {Mph, KilometresPerHour, MetresPerSecond};
-constexpr std::array kAngles = {Degrees};
-constexpr std::array kSpins = {Rpm};
-constexpr std::array kLengths = {Yards, Feet, Metres};
-constexpr std::array kTimes = {Seconds};
-constexpr std::array kDensities = {KilogramsPerCubicMetre};
-constexpr std::array kTemperatures = {Fahrenheit, Celsius};
-constexpr std::array kPressures = {InchesOfMercury, Hectopascals, Kilopascals};
-constexpr std::array kShares = {Percent};
+constexpr std::array kSpeedUnits = {Mph, KilometresPerHour, MetresPerSecond};
+constexpr std::array kAngleUnits = {Degrees};
+constexpr std::array kSpinUnits = {Rpm};
+constexpr std::array kLengthUnits = {Yards, Feet, Metres};
+constexpr std::array kTimeUnits = {Seconds};
+constexpr std::array kDensityUnits = {KilogramsPerCubicMetre};
+constexpr std::array kTemperatureUnits = {Fahrenheit, Celsius};
+constexpr std::array kPressureUnits = {InchesOfMercury, Hectopascals, Kilopascals};
+constexpr std::array kShareUnits = {Percent};
 
 constexpr std::array<QuantityText, 19> kQuantities = {{
     {Quantity::Shot, "Shot number", None, {}},
     {Quantity::Club, "Club", None, {}},
-    {Quantity::BallSpeed, "Ball speed", Mph, kSpeeds},
-    {Quantity::LaunchAngle, "Launch angle", Degrees, kAngles},
-    {Quantity::BackSpin, "Back spin", Rpm, kSpins},
-    {Quantity::TotalSpin, "Total spin", Rpm, kSpins},
-    {Quantity::SpinAxis, "Spin axis", Degrees, kAngles},
-    {Quantity::Carry, "Carry", Yards, kLengths},
-    {Quantity::Total, "Total", Yards, kLengths},
-    {Quantity::Height, "Height", Yards, kLengths},
-    {Quantity::LandingAngle, "Landing angle", Degrees, kAngles},
-    {Quantity::Time, "Time", Seconds, kTimes},
-    {Quantity::Wind, "Wind", Mph, kSpeeds},
-    {Quantity::Altitude, "Altitude", Feet, kLengths},
-    {Quantity::AirDensity, "Air density", KilogramsPerCubicMetre, kDensities},
-    {Quantity::Temperature, "Temperature", Fahrenheit, kTemperatures},
-    {Quantity::Pressure, "Pressure at the place", InchesOfMercury, kPressures},
-    {Quantity::SeaLevelPressure, "Pressure at sea level", InchesOfMercury, kPressures},
-    {Quantity::Humidity, "Humidity", Percent, kShares},
+    {Quantity::BallSpeed, "Ball speed", Mph, kSpeedUnits},
+    {Quantity::LaunchAngle, "Launch angle", Degrees, kAngleUnits},
+    {Quantity::BackSpin, "Back spin", Rpm, kSpinUnits},
+    {Quantity::TotalSpin, "Total spin", Rpm, kSpinUnits},
+    {Quantity::SpinAxis, "Spin axis", Degrees, kAngleUnits},
+    {Quantity::Carry, "Carry", Yards, kLengthUnits},
+    {Quantity::Total, "Total", Yards, kLengthUnits},
+    {Quantity::Height, "Height", Yards, kLengthUnits},
+    {Quantity::LandingAngle, "Landing angle", Degrees, kAngleUnits},
+    {Quantity::Time, "Time", Seconds, kTimeUnits},
+    {Quantity::Wind, "Wind", Mph, kSpeedUnits},
+    {Quantity::Altitude, "Altitude", Feet, kLengthUnits},
+    {Quantity::AirDensity, "Air density", KilogramsPerCubicMetre, kDensityUnits},
+    {Quantity::Temperature, "Temperature", Fahrenheit, kTemperatureUnits},
+    {Quantity::Pressure, "Pressure at the place", InchesOfMercury, kPressureUnits},
+    {Quantity::SeaLevelPressure, "Pressure at sea level", InchesOfMercury, kPressureUnits},
+    {Quantity::Humidity, "Humidity", Percent, kShareUnits},
 }};
 
-const UnitRow& rowOf(MeasuredUnit unit) {
-    return *std::find_if(kUnits.begin(), kUnits.end(),
+const UnitRow& unitRow(MeasuredUnit unit) {
+    return *std::find_if(kUnitRows.begin(), kUnitRows.end(),
                          [unit](const UnitRow& row) { return row.unit == unit; });
 }
 
-std::string_view trimmed(std::string_view text, std::string_view what) {
+std::string_view withoutEnds(std::string_view text, std::string_view what) {
     const std::size_t first = text.find_first_not_of(what);
     if (first == std::string_view::npos)
         return {};
@@ -152,15 +152,15 @@ const QuantityText& textOf(Quantity quantity) {
 }
 
 std::string_view nameOf(MeasuredUnit unit) {
-    return rowOf(unit).name;
+    return unitRow(unit).name;
 }
 
 std::optional<MeasuredUnit> unitNamed(std::string_view text) {
-    const std::string lower = lowerCase(trimmed(text, "[]() .\t"));
+    const std::string lower = lowerCase(withoutEnds(text, "[]() .\t"));
     if (const auto unit = spelled(lower))
         return unit;
     // "deg L-/R+": the sense of the sign stands behind the unit.
-    return spelled(trimmed(std::string_view(lower).substr(0, lower.find(' ')), "."));
+    return spelled(withoutEnds(std::string_view(lower).substr(0, lower.find(' ')), "."));
 }
 
 bool suits(MeasuredUnit unit, Quantity quantity) {
@@ -169,8 +169,8 @@ bool suits(MeasuredUnit unit, Quantity quantity) {
 }
 
 double inUnitOf(Quantity quantity, double value, MeasuredUnit unit) {
-    const UnitRow& from = rowOf(unit);
-    const UnitRow& to = rowOf(textOf(quantity).unit);
+    const UnitRow& from = unitRow(unit);
+    const UnitRow& to = unitRow(textOf(quantity).unit);
     return unit == to.unit ? value : (value * from.factor + from.offset - to.offset) / to.factor;
 }
 

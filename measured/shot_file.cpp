@@ -96,7 +96,7 @@ std::string fromUtf16(std::string_view bytes, bool highFirst) {
     return text;
 }
 
-Outcome<std::string, ImportFault> textOf(std::string_view bytes) {
+Outcome<std::string, ImportFault> textOfFile(std::string_view bytes) {
     constexpr std::string_view kHighFirst = "\xFE\xFF";
     constexpr std::string_view kLowFirst = "\xFF\xFE";
     std::string text;
@@ -119,7 +119,7 @@ Outcome<std::string, ImportFault> textOf(std::string_view bytes) {
 Outcome<ShotFile, ImportFault> readShotFile(std::string_view bytes) {
     if (bytes.size() > kLongestShotFile)
         return because(aboutFile("The file is larger than 10 MB."));
-    const auto text = textOf(bytes);
+    const auto text = textOfFile(bytes);
     if (!text)
         return because(text.why());
     ShotFile file{delimiterOf(*text), {}};

@@ -61,14 +61,16 @@ std::string clubOfLabel(const std::string& text) {
 
 /// True if the numbers of a file have decimal commas. Between commas they can't, but in quotes.
 bool hasDecimalCommas(const ShotFile& file) {
-    std::ptrdiff_t commas = 0;
-    std::ptrdiff_t points = 0;
+    int commas = 0;
+    int points = 0;
     for (const CsvRow& row : file.rows)
-        for (const std::string& cell : row.cells)
-            if (cell.find_first_not_of("0123456789.,+- ") == std::string::npos) {
-                commas += std::count(cell.begin(), cell.end(), ',');
-                points += std::count(cell.begin(), cell.end(), '.');
-            }
+        for (const std::string& cell : row.cells) {
+            const std::size_t mark = cell.find_first_of(".,");
+            // A date may have several points.
+            if (mark != std::string::npos && mark == cell.find_last_of(".,") &&
+                cell.find_first_not_of("0123456789.,+- ") == std::string::npos)
+                ++(cell[mark] == ',' ? commas : points);
+        }
     return file.delimiter != ',' && commas > points;
 }
 
@@ -107,7 +109,8 @@ private:
             unitsMayFollow_ = true;
         } else if (std::exchange(unitsMayFollow_, false) && isOfUnits(row)) {
             return;
-        } else if (const std::string label = loneText(row); !label.empty() && !isNumbered(row)) {
+        } else if (const std::string label = loneText(row);
+                   !label.empty() && !isNumbered(row) && !isSummary(row)) {
             takeLabel(label);
         } else if (!columns_.empty()) {
             rows_.push_back(rowOf(row));
@@ -125,8 +128,11 @@ private:
         return true;
     }
 
-    /// A label before the first headings is most often a title: there it must look like a club.
+    /// A label tells the club of the rows that follow where no column does. Before the first
+    /// headings it is most often a title: there it must look like a club.
     void takeLabel(const std::string& label) {
+        if (has(Quantity::Club))
+            return;
         constexpr std::size_t kShort = 4;
         static const ClubTables set = InitClubTables();
         const std::string club = clubOfLabel(label);

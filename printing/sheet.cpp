@@ -21,6 +21,7 @@ constexpr double kCellGap = 0.1;     ///< between columns at the usual size
 constexpr double kLeastPictures = 2; ///< height that the table leaves to them
 constexpr double kLeastChart = 1.6;  ///< height of a chart below the plot
 constexpr double kPlotShare = 0.62;  ///< of the width, beside charts
+constexpr double kLeastAbove = 0.7;  ///< likewise, above them
 
 constexpr double kTitleSize = 16;
 constexpr double kTextSize = 9;
@@ -126,22 +127,24 @@ public:
     void compose() {
         target_.FontName = "Liberation Sans";
         target_.DrawWidth = 1;
-        title();
+        line(kTitleSize, true, content_.title);
+        top_ += kGap / 2;
         fields();
-        remark();
-        const bool pictures = content_.plot || !content_.charts.empty();
-        const double room = bottom_ - top_ - (pictures ? kLeastPictures + kGap : 0);
+        const double remark = content_.remark.empty() ? 0 : heightOfLine() + kGap;
+        const double pictures = content_.plot || !content_.charts.empty() ? kLeastPictures : 0;
+        const double room = kBottom - top_ - remark - pictures;
         double points = kTextSize;
         for (table_.setSize(points);
              points > kSmallestSize && (table_.width() > kAcross || table_.height() > room);
              table_.setSize(points))
             points -= 0.25;
-        bottom_ -= table_.height();
-        const double size = target_.FontSize;
-        if (pictures)
-            paintPictures(bottom_ - kGap - top_);
-        target_.FontSize = size;
-        table_.write(pictures ? bottom_ : top_);
+        if (pictures > 0)
+            paintPictures(kBottom - top_ - remark - table_.height() - kGap);
+        table_.setSize(points);
+        table_.write(top_);
+        top_ += table_.height() + kGap;
+        if (remark > 0)
+            line(kTextSize, false, content_.remark);
     }
 
 private:
@@ -159,7 +162,10 @@ private:
         top_ = target_.CurrentY;
     }
 
-    void title() { line(kTitleSize, true, content_.title); }
+    double heightOfLine() {
+        target_.FontSize = kTextSize * ratio_;
+        return target_.TextHeight("7");
+    }
 
     void fields() {
         std::string people;
@@ -177,18 +183,8 @@ private:
         top_ += kGap;
     }
 
-    void remark() {
-        if (content_.remark.empty())
-            return;
-        target_.FontSize = kTextSize * ratio_;
-        bottom_ -= target_.TextHeight("7");
-        const double top = std::exchange(top_, bottom_);
-        line(kTextSize, false, content_.remark);
-        top_ = top;
-        bottom_ -= kGap;
-    }
-
-    /// The plot above the charts where there is height for both, else beside them.
+    /// The plot above the charts where there is height for both, else beside them. No higher than
+    /// the plot, or a chart with a line for each row of the table, needs it.
     void paintPictures(double height) {
         Place corner{kLeft, top_};
         Place room{kAcross, height};
@@ -196,16 +192,22 @@ private:
             const auto& outer = content_.plot->outer.geometry();
             const double shape = outer.height > 0 ? outer.width / outer.height : 1;
             const bool alone = content_.charts.empty();
-            const bool above = !alone && height - kAcross / shape - kGap >= kLeastChart;
+            const double left = height - kGap - std::max(kLeastChart, wanted());
+            const bool above = !alone && left >= kLeastAbove * kAcross / shape;
             const double widest = alone || above ? kAcross : kAcross * kPlotShare;
-            const double width = std::min(widest, height * shape);
-            target_.PaintPlot(*content_.plot, corner, {width, width / shape});
-            double& from = above ? corner.y : corner.x;
-            double& left = above ? room.y : room.x;
-            const double taken = (above ? width / shape : width) + kGap;
-            from += taken;
-            left -= taken;
+            const double high = std::min(widest / shape, above ? left : height);
+            const Place size{high * shape, high};
+            target_.PaintPlot(*content_.plot, corner, size);
+            if (above) {
+                corner.y += size.y + kGap;
+                room.y -= size.y + kGap;
+            } else {
+                corner.x += size.x + kGap;
+                room.x -= size.x + kGap;
+            }
+            top_ += size.y;
         }
+        room.y = std::min(room.y, std::max(wanted(), kLeastPictures));
         const double count = static_cast<double>(content_.charts.size());
         const double width = (room.x - (count - 1) * kGap) / count;
         for (const DrawChart& draw : content_.charts) {
@@ -216,14 +218,19 @@ private:
             target_.PaintPicture(canvas, corner, {width, room.y});
             corner.x += width + kGap;
         }
+        if (count > 0)
+            top_ = std::max(top_, corner.y + room.y);
+        top_ += kGap;
     }
+
+    /// Height of a chart with a line for each row of the table.
+    double wanted() const { return 0.8 + 0.2 * static_cast<double>(content_.table.size()); }
 
     Page& target_;
     double ratio_;
     const SheetContent& content_;
     SheetTable table_;
     double top_ = kTop; ///< of what isn't used yet
-    double bottom_ = kBottom;
 };
 
 } // namespace

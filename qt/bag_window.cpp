@@ -109,6 +109,7 @@ BagWindow::BagWindow(frmMain& logic, Fitting& fitting, const FormServices& servi
     halves_->setStretchFactor(0, 3);
     halves_->setStretchFactor(1, 2);
     halves_->setChildrenCollapsible(false);
+    halves_->setSizes({3, 2});
     auto* centre = new QWidget;
     auto* rows = new QVBoxLayout(centre);
     rows->addWidget(choices());

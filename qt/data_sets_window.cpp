@@ -17,6 +17,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSplitter>
 #include <QToolButton>
@@ -56,7 +57,6 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     base_->setAccessibleName("Base set");
     base_->setToolTip("The set with which the others are compared");
     base_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    landing_->setMinimumHeight(8 * fontMetrics().height());
     table_->setMinimumHeight(6 * fontMetrics().height());
     table_->installEventFilter(this);
     sets_.onTicks = [this] { logic_.plot.redraw(); };
@@ -73,7 +73,11 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     row->addStretch();
     row->addWidget(count_);
     halves_->addWidget(table_);
-    halves_->addWidget(landing_);
+    auto* closeUp = new QScrollArea;
+    closeUp->setWidgetResizable(true);
+    closeUp->setWidget(landing_);
+    closeUp->setMinimumHeight(8 * fontMetrics().height());
+    halves_->addWidget(closeUp);
     halves_->setStretchFactor(0, 3);
     halves_->setStretchFactor(1, 2);
     halves_->setChildrenCollapsible(false);
@@ -87,6 +91,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
         book_.setBase(index + 1);
         follow();
     });
+    connect(table_->model(), &QAbstractItemModel::dataChanged, this, &DataSetsWindow::follow);
     // The form changes in this thread alone: before it sleeps, and when it wakes, a look is enough.
     const auto* loop = QAbstractEventDispatcher::instance();
     connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &DataSetsWindow::follow);
@@ -101,6 +106,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
 DataSetsWindow::~DataSetsWindow() {
     if (isVisible())
         remember();
+    delete takeCentralWidget(); // before what it shows
 }
 
 void DataSetsWindow::buildCommands() {
@@ -183,6 +189,8 @@ void DataSetsWindow::follow() {
 void DataSetsWindow::showState() {
     shownRevision_ = book_.revision();
     table_->refresh();
+    landing_->setMinimumHeight(static_cast<int>((book_.ticked().size() + 5) *
+                                                static_cast<unsigned>(fontMetrics().height())));
     landing_->redraw();
     showBases();
     const auto ticked = book_.ticked();

@@ -62,7 +62,7 @@ private:
     QLabel* count_;
     TableView* table_;
     ChartView* landing_;
-    QSplitter* halves_;
+    QSplitter* halves_; ///< table and close-up
 };
 
 } // namespace parabolt

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -48,6 +49,7 @@ ImportDialog::ImportDialog(ImportReview& review, const QString& fileName, const 
     setLocale(QLocale::c());
     resize(kPreviewSize.boundedTo(screen()->availableSize() * 0.9));
     rows_ = new TableView(review, "importRows", "Rows of the file", this);
+    rows_->horizontalHeader()->setStretchLastSection(true);
     device_->setAccessibleName("Device");
     clubsTitle_->setObjectName("importClubsTitle");
     clubsRoom_->setObjectName("importClubs");

@@ -232,6 +232,7 @@ QWidget* MeasuredWindow::parts() {
     halves_->setStretchFactor(1, 2);
     for (QSplitter* splitter : {halves_, below_})
         splitter->setChildrenCollapsible(false);
+    below_->setSizes({1, 1});
     return halves_;
 }
 

@@ -75,6 +75,7 @@ SheetDialog::SheetDialog(SheetContent content, Printer& printer, MessageBoxes& m
 QLineEdit* SheetDialog::field(const char* name, std::string SheetFields::*text) {
     auto* edit = new QLineEdit(toQt(content_.fields.*text));
     edit->setObjectName(name);
+    edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance("  2026-12-30  "));
     connect(edit, &QLineEdit::textChanged, this, [this, text](const QString& typed) {
         content_.fields.*text = fromQt(typed);
         sheet_->update();

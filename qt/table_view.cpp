@@ -104,13 +104,20 @@ void TableView::lay(const TableLayout& layout) {
                 continue;
             horizontalHeader()->moveSection(horizontalHeader()->visualIndex(i), place++);
             setColumnHidden(i, false); // a hidden one has no width
-            setColumnWidth(i, column.width > 0 ? column.width
-                                               : std::max(horizontalHeader()->sectionSizeHint(i),
-                                                          sizeHintForColumn(i)));
+            setColumnWidth(i, column.width > 0 ? column.width : usualWidth(i));
             setColumnHidden(i, !column.shown);
             if (column.key == layout.sortedBy)
                 sortByColumn(i, layout.descending ? Qt::DescendingOrder : Qt::AscendingOrder);
         }
+}
+
+/// Fits the heading and what stands below it; leaves room for names to come.
+int TableView::usualWidth(int column) const {
+    constexpr int kName = 16; // characters
+    const bool named =
+        source_.columns()[static_cast<std::size_t>(column)].holds == TableColumn::Holds::Names;
+    return std::max({horizontalHeader()->sectionSizeHint(column), sizeHintForColumn(column),
+                     named ? kName * fontMetrics().averageCharWidth() : 0});
 }
 
 std::string TableView::layoutText() const {

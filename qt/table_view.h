@@ -20,6 +20,7 @@ class TableView : public QTableView {
     Q_OBJECT
 
 public:
+    /// The source must outlive the view.
     TableView(TableSource& source, const QString& name, const QString& accessibleName,
               QWidget* parent = nullptr);
 
@@ -47,6 +48,7 @@ protected:
 private:
     void lay(const TableLayout& layout);
     void buildColumnsMenu();
+    int usualWidth(int column) const;
 
     TableSource& source_;
     TableModel model_;

@@ -90,6 +90,14 @@ private:
         return static_cast<double>(characterCount(text)) * kFigure;
     }
 
+    /// As much of a name as there is room for.
+    std::string fitting(const std::string& name) const {
+        const auto most = static_cast<std::size_t>((left_ - 2 * kMargin) / kFigure);
+        if (characterCount(name) <= most)
+            return name;
+        return name.substr(0, characterStart(name, most - 1)) + "\u2026";
+    }
+
     void layOut(double width, double height) {
         double names = 0;
         double figures = 0;
@@ -159,7 +167,7 @@ private:
         canvas_.line({total.x, y - half}, {total.x, y + half});
         drawDisc(canvas_, carry, half, book_[landing.number].CurveColor, ink_);
         pen(ink_);
-        canvas_.label({left_ - kMargin, y}, landing.name, kRightMiddle);
+        canvas_.label({left_ - kMargin, y}, fitting(landing.name), kRightMiddle);
         canvas_.label({right_ + kMargin, y}, landing.words, kLeftMiddle);
     }
 

@@ -75,11 +75,12 @@ double speedAt(const RunRecord& run, std::size_t index) {
 }
 
 std::string readoutOf(const RunBook& book, PathPoint point) {
+    const std::string name = "Data set " + dataSetName(book, point.number);
     const auto& path = book[point.number].Path;
     if (point.index >= path.size())
-        return dataSetName(book, point.number);
+        return name;
     const TrajectoryPoint& at = path[point.index];
-    return dataSetName(book, point.number) + "\nx " + formatPattern(at.x, "0.0") + " yd, height " +
+    return name + "\nx " + formatPattern(at.x, "0.0") + " yd, height " +
            formatPattern(at.y, "0.0") + " yd\n" + formatPattern(timeAt(point.index), "0.00") +
            " s, " + formatPattern(speedAt(book[point.number], point.index), "0.0") + " mph";
 }

@@ -33,8 +33,8 @@ PathPoint toNeighbour(const RunBook& book, std::span<const int> numbers, PathPoi
 /// Speed over the ground at a point, mph; 0 for a path of one point.
 double speedAt(const RunRecord& run, std::size_t index);
 
-/// The data set of a point, and what the ball does there: "3 Low spin", then x, height, time and
-/// speed.
+/// The data set of a point, and what the ball does there, in three lines: number and name, x and
+/// height, time and speed.
 std::string readoutOf(const RunBook& book, PathPoint point);
 
 } // namespace parabolt

@@ -97,6 +97,7 @@ TEST(Import, ReadsNumbersAsDevicesWriteThem) {
         {"2,345", true, true, 2345},
         {"2.345", true, true, 2345},
         {"2.345", false, false, 2.345},
+        {"1,234.567", false, false, 1234.567},
         {"1.234,5", true, false, 1234.5},
         {"1,234.5", false, false, 1234.5},
         {"1.234.567", true, false, 1234567},
@@ -116,6 +117,21 @@ TEST(Import, ReadsNumbersAsDevicesWriteThem) {
     };
     for (const Case& c : cases)
         EXPECT_EQ(cellNumber(c.cell, c.decimalComma, c.whole), c.value) << c.cell;
+}
+
+TEST(Import, UnderstandsWhatIsNoUtf8) {
+    const std::pair<std::string, std::string> cases[] = {
+        {{"\xFE\xFF\0\xFC\xD8\x3D\xDE\0\xD8\x3D\0a\xDE\0", 14}, "\u00FC\U0001F600?a?"},
+        {{"\xFF\xFE\xFC\0", 4}, "\u00FC"},
+        {{"a\0b\0", 4}, "ab"},
+        {"\xEF\xBB\xBF\xC3\xBC", "\u00FC"},
+        {"\xFC", "\u00FC"},
+        {"\xC3", "\u00C3"},                     // ends inside a character
+        {"\xED\xA0\x80", "\u00ED\u00A0\u20AC"}, // half a pair
+        {"\xC1\x81", "\u00C1\u0081"},           // longer than it must be
+        {"\xF4\x8F\xBF\xBF", "\U0010FFFF"}};
+    for (const auto& [bytes, text] : cases)
+        EXPECT_EQ(readShotFile(bytes)->rows.at(0).cells.at(0), text);
 }
 
 TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
@@ -151,6 +167,80 @@ TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
     EXPECT_FALSE(importShots("one more\n" + title + headings + "200,140,3000,12\n"));
 }
 
+/// The club of the only shot of a file, or why there is none.
+std::string clubIn(const std::string& text) {
+    const ShotFile file = *readShotFile(text);
+    const auto preview = previewOf(file, *recognise(file));
+    return preview.rows.size() == 1 ? preview.rows[0].shot.club + preview.rows[0].reason : "rows";
+}
+
+TEST(Import, TellsLabelsOfClubsFromTitlesAndSummaries) {
+    const std::string headings = "BallSpeed,BackSpin,VLA,Carry,Tags\n";
+    const std::string row = "140,3000,12,200,x\n";
+    const std::pair<std::string, std::string> cases[] = {
+        {"My day\n" + headings + row, ""},
+        {"sep=,\n" + headings + row, ""},
+        {"7 Iron\n" + headings + row, "7 Iron"},
+        {"H4\n" + headings + row, "H4"},
+        {"PLAYER: H4\n" + headings + row, ""},
+        {headings + "Rescue 21 soft\n" + row, "Rescue 21 soft"},
+        {headings + "Club: Hybrid 4\n" + row, "Hybrid 4"},
+        {headings + "9i\nPLAYER: Ann\n" + row, "9i"},
+        {headings + headings + row, ""},
+        {headings + "Average\n", "average row"},
+        {"Club," + headings + "2026-06-09\n," + row, ""},
+        {headings + "140,3000,12,200,AVERAGE\n", "average row"},
+        {headings + "140,3000,12,200,Std. Dev.:\n", "average row"},
+        {headings + "140,3000,12,200,Average Joe\n", ""}};
+    for (const auto& [text, club] : cases)
+        EXPECT_EQ(clubIn(text), club) << text;
+}
+
+TEST(Import, TakesUnitsFromWhereTheyStand) {
+    struct Case {
+        const char* heading;
+        const char* unit; ///< below the heading
+        const char* value;
+        std::optional<double> yards; ///< of the height
+    };
+    const Case cases[] = {{"Peak Height", "", "30", {}}, // nobody tells the unit
+                          {"Peak Height", "[ft]", "30", 10},
+                          {"Peak Height (yds)", "", "30", 30},
+                          {"Peak Height [ft]", "m", "9.144", 10},
+                          {"PEAK  HEIGHT", "[ft]", "30", {}}, // another heading
+                          {"peak height [Feet]", "", "30", 10},
+                          {"Peak Height", "[rpm]", "30", {}},
+                          {"Peak Height", "[ft]", "--", {}}};
+    for (const Case& c : cases) {
+        const auto preview = importShots(
+            std::string("Ball Speed,Launch Angle,Back Spin,Spin Axis Tilt,") + c.heading + "\n" +
+            "[km/h],[deg],[rpm],[deg]," + c.unit + "\n160.9344,12,3000,0," + c.value + "\n");
+        ASSERT_TRUE(preview) << c.heading;
+        const MeasuredShot& shot = preview->rows.front().shot;
+        EXPECT_FLOAT_EQ(shot.ballSpeed, 100);
+        ASSERT_EQ(shot.device.height.has_value(), c.yards.has_value()) << c.heading << c.unit;
+        EXPECT_NEAR(shot.device.height.value_or(0), c.yards.value_or(0), 1e-9);
+    }
+    // By definition of the units, and of a standard atmosphere in each of them.
+    const std::tuple<Quantity, double, const char*, double> known[] = {
+        {Quantity::BallSpeed, 44.704, "m/s", 100},
+        {Quantity::Temperature, -40, "\u00B0C", -40},
+        {Quantity::Temperature, 100, "deg C", 212},
+        {Quantity::Pressure, 101.325, "kPa", 29.9213},
+        {Quantity::Pressure, 1013.25, "mbar", 29.9213},
+        {Quantity::Altitude, 1609.344, "m", 5280},
+        {Quantity::Altitude, 5280, "ft", 5280},
+        {Quantity::Carry, 91.44, "metres", 100},
+        {Quantity::AirDensity, 1.2, "g/L", 1.2}};
+    for (const auto& [quantity, value, unit, program] : known) {
+        EXPECT_TRUE(suits(*unitNamed(unit), quantity)) << unit;
+        EXPECT_NEAR(inUnitOf(quantity, value, *unitNamed(unit)), program, 1e-4) << unit;
+    }
+    for (const QuantityText& text : quantities()) // what a choice writes, it reads
+        for (const MeasuredUnit unit : text.units)
+            EXPECT_EQ(unitNamed(nameOf(unit)), unit) << text.name;
+}
+
 TEST(Import, AnUnknownFileIsReadByColumnsOfTheUsersChoice) {
     const ShotFile file = *readShotFile(bytesOf("unknown.csv"));
     EXPECT_EQ(recognise(file), nullptr);
@@ -177,8 +267,21 @@ TEST(Import, AnUnknownFileIsReadByColumnsOfTheUsersChoice) {
     const ShotFile bare = *readShotFile("Seven;50;18;6000;140\n");
     EXPECT_FALSE(recognises(choice, bare));
     EXPECT_EQ(previewOf(bare, choice).count(), 1U);
+    choice.columns[1].unit = MeasuredUnit::Mph; // the user knows better than the file
+    EXPECT_EQ(previewOf(file, choice).rows[0].shot.ballSpeed, 50);
     choice.columns[4].heading = "Range";
     EXPECT_FALSE(recognises(choice, file));
+    // A known device's headings in another company: all are guessed, with their units.
+    const ShotFile kin =
+        *readShotFile("Title\nBall Speed,Launch Angle,Spin,Spin,Height\n[km/h],,,,[m]\n");
+    const ColumnChoice guess = guessedChoice(kin);
+    EXPECT_EQ(guess.columns,
+              (std::vector<ChosenColumn>{
+                  {0, "Ball Speed", Quantity::BallSpeed, MeasuredUnit::KilometresPerHour},
+                  {1, "Launch Angle", Quantity::LaunchAngle, MeasuredUnit::Degrees},
+                  {2, "Spin", Quantity::TotalSpin, MeasuredUnit::Rpm},
+                  {4, "Height", Quantity::Height, MeasuredUnit::Metres}}));
+    EXPECT_TRUE(guessedChoice(*readShotFile("1;2;3\n")).columns.empty());
     for (const char* text : {"", "[]", "{}", "{\"name\":1,\"computesCarry\":true,\"columns\":[]}",
                              R"({"name":"","computesCarry":true,"columns":[{"column":0,)"
                              R"("heading":"","quantity":"Carry","unit":"rpm"}]})"})

@@ -101,6 +101,23 @@ TEST(MeasuredFlights, FlyInTheAirOfTheFile) {
               figuresOf(fly(shot)->record).carry);
 }
 
+TEST(MeasuredFlights, GiveNoneOnceStopped) {
+    std::stop_source stop;
+    stop.request_stop();
+    const std::vector shots = {measured("", 140, 12, 2600, carried(200))};
+    const auto flown = flyMeasured(shots, Shot(), false);
+    EXPECT_EQ(flown.size(), 1U);
+    EXPECT_TRUE(flyMeasured(shots, Shot(), false, stop.get_token()).empty());
+    EXPECT_TRUE(normalisedCarries(shots, flown, Shot(), {}, stop.get_token()).empty());
+    Shot noAir;
+    noAir.Temperature = -460; // no air has this temperature
+    EXPECT_TRUE(flyMeasured(shots, noAir, false).front().fault);
+    EXPECT_FALSE(
+        comparedFigures().front().difference(shots.front(), flyMeasured(shots, noAir, false)[0]));
+    EXPECT_NEAR(*comparedFigures().front().difference(shots.front(), flown.front()),
+                flown.front().figures.carry - 200, 1e-12);
+}
+
 TEST(MeasuredFlights, NormaliseByTheRatioOfTheModel) {
     const std::vector shots = {measured("D", 150, 12, 2600, carried(200)),
                                measured("D", 150, 12, 2600), measured("D", 150, 12, 2600)};
@@ -156,6 +173,9 @@ TEST(ClubStatistics, TellOfTheShotsThatCount) {
     ASSERT_EQ(checked.size(), 3U) << "what is struck stays out";
     EXPECT_EQ(checked[2], shotOf(entries[3].shot, windy(), false));
     EXPECT_EQ(checked[2].Mode, OperatingMode::Launch);
+    EXPECT_FALSE(checked[2].sources.club);
+    entries[3].shot.ballSpeed = 122.00001F; // its field shows seven digits
+    EXPECT_EQ(checkedShots(entries, windy(), false)[2].LaunchSpeed, 122);
     const auto means = meanShots(entries, windy(), false);
     ASSERT_EQ(means.size(), 2U);
     EXPECT_EQ(means[0].LaunchSpeed, 120);
@@ -243,7 +263,9 @@ TEST(Bag, FliesTheClubsOwnedAndTellsTheGaps) {
     EXPECT_EQ(flights[1].headSpeed, 99.5); // seven woods come before
     EXPECT_EQ(flights[2].headSpeed, 90.5); // thirteen irons
 
+    bag.clubs[flights[2].at].name = "My lob";
     const std::vector<MeasuredEntry> entries = {
+        {measured("My lob", 80, 35, 9000, carried(60)), false, false},
         {measured("Dr", 150, 12, 2600, carried(240, 260)), false, false},
         {measured("driver", 150, 12, 2600, carried(250)), false, false},
         {measured("Driver", 150, 12, 2600, carried(10)), true, false},
@@ -254,10 +276,11 @@ TEST(Bag, FliesTheClubsOwnedAndTellsTheGaps) {
     EXPECT_EQ(flights[0].measuredCarry->mean, 245);
     EXPECT_EQ(flights[0].measuredTotal->number, 1U);
     EXPECT_EQ(flights[1].measuredCarry->mean, 180);
-    EXPECT_FALSE(flights[2].measuredCarry);
+    EXPECT_EQ(flights[2].measuredCarry, (Spread{1, 60, {}, 60, 60}));
+    EXPECT_FALSE(flights[2].measuredTotal);
 
     using Kind = BagGap::Kind;
-    EXPECT_EQ(gapsBetween(std::vector<double>{150, 240, 162, 142, 160}, 8, 18),
+    EXPECT_EQ(gapsBetween(std::vector<double>{150, 240, 162, 142, 160}, 8, 10),
               (std::vector<BagGap>{{2, 1, 78, Kind::TooWide},
                                    {4, 2, 2, Kind::TooNarrow},
                                    {0, 4, 10, Kind::Good},

@@ -1,3 +1,4 @@
+#include "plots/chart_parts.h"
 #include "plots/curves.h"
 #include "plots/plot_frame.h"
 #include "tests/support/golden.h"
@@ -148,6 +149,14 @@ TEST(Curves, TheMarkGrowsWithTheCanvasAndAFailureLeavesWhatWasDrawn) {
         EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).size(), 1U);
         EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).at(0).pen, pen) << width;
     }
+}
+
+TEST(ChartParts, StepsAreRound) {
+    EXPECT_EQ(roundStep(0, 5), 1);
+    for (const auto& [range, step] :
+         {std::pair(120.0, 10.0), {121.0, 20.0}, {250.0, 50.0}, {0.9, 0.1}})
+        EXPECT_NEAR(roundStep(range, 12), step, 1e-12) << range;
+    EXPECT_EQ(roundValues(-7, 10, 5), (std::vector<double>{-5, 0, 5, 10}));
 }
 
 } // namespace
