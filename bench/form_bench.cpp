@@ -230,7 +230,7 @@ void mapFirstPicture(benchmark::State& state) {
         });
         QPainter painter(&image);
         constexpr double kTextPixels = 13;
-        MapPicture(map, kSize, kTextPixels, kWhite, kBlack)
+        ChartPicture(drawingOf(map), kSize, kTextPixels, kWhite, kBlack)
             .paint(painter, QRectF(QPointF(), kSize));
     }
 }

@@ -323,7 +323,10 @@ TEST_F(MainWindowTest, WhatIsShownIsAlsoTold) {
     EXPECT_EQ(told("Picture1"), "0 data sets.");
     click("Command1");
     click("Command1");
-    EXPECT_EQ(told("Picture1"), "2 data sets. 1: carry 233 yards. 2: carry 233 yards.");
+    const std::string came =
+        ": carry 232.6 yd, total 241.1 yd, height 30.9 yd, landing angle 38.0 degrees, altitude "
+        "0 ft.";
+    EXPECT_EQ(told("Picture1"), "2 data sets. 1" + came + " 2" + came);
     user.messages.answers = {MessageBoxes::Answer::Yes};
     click("Command2");
     EXPECT_EQ(told("Picture1"), "0 data sets.");

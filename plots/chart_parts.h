@@ -1,0 +1,20 @@
+#pragma once
+
+#include "plots/picture_box.h"
+
+namespace parabolt {
+
+// What charts have in common.
+
+/// The round step, 1, 2 or 5 times a power of ten, that divides a range into at most `most` parts.
+double roundStep(double range, int most);
+/// The whole multiples of a step from `low` to `high`.
+std::vector<double> roundValues(double low, double high, double step);
+
+/// Black or white, whichever can be read on a colour.
+Rgb inkOn(Rgb ground);
+
+/// A disc with a rim, which shows on any ground. Changes the canvas's pen; lengths in twips.
+void drawDisc(PictureBox& canvas, Place at, double radius, Rgb colour, Rgb rim);
+
+} // namespace parabolt
