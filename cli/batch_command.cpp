@@ -120,7 +120,7 @@ public:
             return console_.complain("There is no table: the input is empty.");
         if (const auto columns = BatchColumns::of(**headings))
             return flyTable(table, *columns);
-        return flyMonitorFile(std::move(head));
+        return flyMonitorFile(head);
     }
 
 private:
@@ -157,7 +157,7 @@ private:
         };
         Outcome<bool, CsvFault> more{true};
         for (CsvRow row; writable && (more = table.next(row, submit)) && *more;) {
-            rows.push_back(std::move(row));
+            rows.push_back(std::exchange(row, {}));
             if (rows.size() == kMostRows)
                 submit();
         }
@@ -172,7 +172,7 @@ private:
     }
 
     /// The file as a whole; what its preview would leave out is told and left out.
-    ExitStatus flyMonitorFile(std::string head) {
+    ExitStatus flyMonitorFile(const std::string& head) {
         const auto rest =
             input_.readAll(kLongestShotFile - std::min(kLongestShotFile, head.size()));
         if (!rest)

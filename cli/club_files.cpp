@@ -19,7 +19,7 @@ using nlohmann::json;
 
 /// A field of a club in files for people.
 struct ClubField {
-    float ClubRecord::*member;
+    float ClubRecord::*member = nullptr;
     Column column;
 };
 constexpr std::array<ClubField, 6> kFields = {{
@@ -90,7 +90,7 @@ Outcome<ClubTables, std::string> clubsOfJson(std::string_view text) {
                               ? clubOfName(name->get<std::string>())
                               : std::nullopt;
         if (!club)
-            return because("A club without a known name, such as \"Driver\" or \"7i\": " +
+            return because(R"(A club without a known name, such as "Driver" or "7i": )" +
                            entry.dump(-1, ' ', false, json::error_handler_t::replace));
         for (const ClubField& field : kFields) {
             const auto value = entry.find(field.column.key);

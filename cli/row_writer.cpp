@@ -127,7 +127,10 @@ std::string shownCell(const Cell& cell, std::string_view pattern) {
     if (const auto* narrow = std::get_if<float>(&cell))
         return formatPattern(*narrow, pattern);
     const auto* words = std::get_if<std::string_view>(&cell);
-    return words != nullptr ? std::string(*words) : std::string();
+    std::string shown(words != nullptr ? *words : std::string_view());
+    std::replace_if(
+        shown.begin(), shown.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, ' ');
+    return shown;
 }
 
 void appendJsonText(std::string& text, std::string_view value) {

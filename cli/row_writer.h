@@ -41,7 +41,7 @@ private:
     std::vector<Column> columns_;
 };
 
-/// A cell as people read it, in the digits of a pattern.
+/// A cell as people read it, in the digits of a pattern; nothing in it moves a terminal's cursor.
 std::string shownCell(const Cell& cell, std::string_view pattern);
 /// Appends a JSON text, in quotes; what is no UTF-8 becomes a replacement character.
 void appendJsonText(std::string& text, std::string_view value);

@@ -13,7 +13,7 @@ namespace {
 
 using Of = ShotInput::Of;
 
-enum Place : std::size_t { kBallSpeed, kLaunchAngle, kSpin };
+enum Place : std::size_t { BallSpeed, LaunchAngle, Spin };
 
 constexpr std::array<ShotInput, kShotInputs> kInputs = {{
     {limits::kLaunchSpeed, Of::Launch, "ball_speed_mph", "Ball speed [mph]",
@@ -103,7 +103,7 @@ Outcome<void, std::string> ShotRequest::setBall(std::string_view text) {
 }
 
 bool ShotRequest::givesLaunch() const {
-    return given_.test(kBallSpeed) || given_.test(kSpin);
+    return given_.test(BallSpeed) || given_.test(Spin);
 }
 
 bool ShotRequest::asksForSwing() const {
@@ -127,11 +127,11 @@ Outcome<Shot, std::string> ShotRequest::shot() const {
     for (std::size_t i = 0; i < kInputs.size(); ++i)
         if (given_.test(i))
             store(shot, kInputs.at(i), values_.at(i));
-    if (shot.Mode != OperatingMode::Launch && given_.test(kLaunchAngle)) {
+    if (shot.Mode != OperatingMode::Launch && given_.test(LaunchAngle)) {
         shot.Mode = OperatingMode::Actual;
         shot.sources = {.club = std::nullopt,
                         .wholeRecord = false,
-                        .measuredLaunchAngle = values_.at(kLaunchAngle)};
+                        .measuredLaunchAngle = values_.at(LaunchAngle)};
     }
     return shot;
 }

@@ -62,7 +62,7 @@ public:
     int columns() const { return columns_; }
     int rows() const { return rows_; }
     const Node& at(int column, int row) const { return nodes_[index(column, row)]; }
-    void put(int column, int row, MapCell cell) { nodes_[index(column, row)] = std::move(cell); }
+    void put(int column, int row, MapCell cell) { nodes_[index(column, row)] = cell; }
     MapPoint point(int column, int row) const {
         return {ranges_.across.at(column), ranges_.up.at(row)};
     }

@@ -23,9 +23,9 @@ std::optional<MapBest> findBest(const MapGrid& grid, MapKind kind, const Shot& b
 
 /// A swing with one of the lofts that it could have.
 struct ReachNode {
-    double loft;  ///< degrees
-    Shot shot;    ///< with the launch that comes of it
-    MapCell cell; ///< of its flight
+    double loft = 0; ///< degrees
+    Shot shot;       ///< with the launch that comes of it
+    MapCell cell;    ///< of its flight
 };
 
 /// A loft, and what it brings.
@@ -50,8 +50,8 @@ Reach reachOf(const Shot& swing, const std::stop_token& stop);
 
 /// What one step of an input does to the carry.
 struct StepEffect {
-    const MapInput* input;
-    double value;               ///< of the input now
+    const MapInput* input = nullptr;
+    double value = 0;           ///< of the input now
     std::optional<double> less; ///< yards that one step down gains; none where it can't be flown
     std::optional<double> more; ///< yards that one step up gains
 

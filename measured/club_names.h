@@ -15,6 +15,8 @@ namespace parabolt {
 struct ClubId {
     bool iron = false;
     std::int16_t number = 1; ///< the club's own
+    // clang-tidy judges what this expands to.
+    // NOLINTNEXTLINE(modernize-use-nullptr,readability-implicit-bool-conversion)
     friend auto operator<=>(const ClubId&, const ClubId&) = default;
 };
 
