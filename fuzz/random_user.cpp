@@ -20,6 +20,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -61,11 +62,15 @@ private:
         return *(list.begin() + roll(static_cast<int>(list.size())));
     }
 
-    static QWidget* front() {
+    QWidget* front() {
         if (QWidget* popup = QApplication::activePopupWidget())
             return popup;
         if (QWidget* modal = QApplication::activeModalWidget())
             return modal;
+        const bool beside = roll(3) == 0; // in a window beside the main form, if one is open
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (beside && window->objectName() == "dataSets" && window->isVisible())
+                return window;
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window->objectName() == "frmMain") {
                 if (!window->isVisible()) // it was closed; so the user starts again
@@ -132,7 +137,8 @@ private:
              Qt::Key_Up,  Qt::Key_Down,    Qt::Key_Left,      Qt::Key_Right,  Qt::Key_F2,
              Qt::Key_F5,  Qt::Key_F10,     Qt::Key_Backspace, Qt::Key_R,      Qt::Key_D,
              Qt::Key_P,   Qt::Key_S,       Qt::Key_O,         Qt::Key_E,      Qt::Key_Y,
-             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T});
+             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T,      Qt::Key_L,
+             Qt::Key_F6,  Qt::Key_Home,    Qt::Key_A,         Qt::Key_C});
         const auto modifier = pick<Qt::KeyboardModifiers>(
             {Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier});
         QTest::keyClick(&widget, static_cast<Qt::Key>(key), modifier);
@@ -140,10 +146,10 @@ private:
 
     void nameFile(QWidget& dialog) {
         if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit"))
-            name->setText(folder_ +
-                          pick<const char*>({"/good.opt", "/short.opt", "/noise.clb", "/new.clb",
-                                             "/table.txt", "/report.pdf", "/nowhere/x.opt",
-                                             "/plain", "/a.pbs", "/b"}));
+            name->setText(folder_ + pick<const char*>({"/good.opt", "/short.opt", "/noise.clb",
+                                                       "/new.clb", "/table.txt", "/report.pdf",
+                                                       "/nowhere/x.opt", "/plain", "/a.pbs", "/b",
+                                                       "/sets.csv", "/plot.png", "/plot.svg"}));
         QTest::keyClick(&dialog, Qt::Key_Return);
     }
 
@@ -153,9 +159,16 @@ private:
         const int sets = form_.Runs.count();
         require(sets == runNumber(form_), "the counter shows another number of data sets");
         require(sets <= 24, "there are more than 24 data sets");
-        if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr)
+        if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr) {
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
+            const auto& shapes = form_.Picture2.drawings();
+            const auto curves =
+                std::count_if(shapes.begin(), shapes.end(), [](const Drawing& drawing) {
+                    return std::holds_alternative<DrawnCurve>(drawing);
+                });
+            require(curves == std::ssize(form_.Runs.ticked()), "the plot shows other data sets");
+        }
     }
     void tellDesk(const char* what) const {
         if (desks_ == nullptr)
