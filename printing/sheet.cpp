@@ -169,10 +169,10 @@ private:
 
     void fields() {
         std::string people;
-        const std::pair<const char*, const std::string&> fields[] = {
-            {"Player: ", content_.fields.player},
-            {"Fitter: ", content_.fields.fitter},
-            {"Date: ", content_.fields.date}};
+        const auto fields = std::to_array<std::pair<const char*, std::string>>(
+            {{"Player: ", content_.fields.player},
+             {"Fitter: ", content_.fields.fitter},
+             {"Date: ", content_.fields.date}});
         for (const auto& [name, text] : fields)
             if (!text.empty())
                 people += (people.empty() ? "" : "     ") + (name + text);
@@ -208,14 +208,14 @@ private:
             top_ += size.y;
         }
         room.y = std::min(room.y, std::max(wanted(), kLeastPictures));
-        const double count = static_cast<double>(content_.charts.size());
+        const auto count = static_cast<double>(content_.charts.size());
         const double width = (room.x - (count - 1) * kSheetGap) / count;
         for (const DrawChart& draw : content_.charts) {
             ControlSet controls;
             PictureBox canvas(controls, "chart", kWhite, kBlack);
             canvas.setGeometry({0, 0, width * kTwipsPerInch, room.y * kTwipsPerInch});
             draw(canvas);
-            target_.PaintPicture(canvas, corner, {width, room.y});
+            target_.paintPicture(canvas, corner, {width, room.y});
             corner.x += width + kSheetGap;
         }
         if (count > 0)
@@ -251,7 +251,7 @@ SheetFields fieldsOf(std::string_view text) {
     return fields;
 }
 
-void ComposeSheet(Page& target, double Ratio, const SheetContent& content) {
+void composeSheet(Page& target, double Ratio, const SheetContent& content) {
     SheetComposer(target, Ratio, content).compose();
 }
 

@@ -27,25 +27,25 @@ TableCell textCell(std::string_view text) {
 }
 
 /// The cell of a figure; empty for a flight that failed.
-template <double Figures::*figure>
+template <double Figures::*Figure>
 TableCell figureCell(const SetRow& row, std::string_view pattern) {
     if (!(row.run().CarryTime > 0))
         return {};
-    return numberCell(figuresOf(row.run()).*figure, pattern);
+    return numberCell(figuresOf(row.run()).*Figure, pattern);
 }
 
-template <double Figures::*figure>
+template <double Figures::*Figure>
 TableCell tenths(const SetRow& row) {
-    return figureCell<figure>(row, "0.0");
+    return figureCell<Figure>(row, "0.0");
 }
 
 /// How far a figure lies above that of the base set.
-template <double Figures::*figure>
+template <double Figures::*Figure>
 TableCell difference(const SetRow& row) {
     const RunRecord& base = row.book[row.book.base()];
     if (!(row.run().CarryTime > 0 && base.CarryTime > 0))
         return {};
-    const double more = figuresOf(row.run()).*figure - figuresOf(base).*figure;
+    const double more = figuresOf(row.run()).*Figure - figuresOf(base).*Figure;
     TableCell cell = numberCell(more, "0.0");
     if (cell.text.find_first_not_of("-0.") == std::string::npos)
         cell.text = "0.0"; // without the sign of what is less than a twentieth
@@ -54,27 +54,27 @@ TableCell difference(const SetRow& row) {
     return cell;
 }
 
-template <float RunRecord::*value>
+template <float RunRecord::*Value>
 TableCell shortest(const SetRow& row) {
-    return {shortestText(row.run().*value), row.run().*value};
+    return {shortestText(row.run().*Value), row.run().*Value};
 }
 
 /// A value that the impact model may have computed: with one digit behind the point.
-template <float RunRecord::*value>
+template <float RunRecord::*Value>
 TableCell tenth(const SetRow& row) {
-    return numberCell(row.run().*value, "0.0");
+    return numberCell(row.run().*Value, "0.0");
 }
 
-template <float RunRecord::*value>
+template <float RunRecord::*Value>
 TableCell whole(const SetRow& row) {
-    return numberCell(row.run().*value, "0");
+    return numberCell(row.run().*Value, "0");
 }
 
 /// A quantity that the air of the shot has; empty where there is no such air.
-template <float ShotState::*quantity>
+template <float ShotState::*Quantity>
 TableCell ofAir(const SetRow& row, std::string_view pattern) {
     const auto state = deriveAir(shotOf(row.book, row.number));
-    return state ? numberCell((*state).*quantity, pattern) : TableCell();
+    return state ? numberCell((*state).*Quantity, pattern) : TableCell();
 }
 
 struct SetColumn {

@@ -8,6 +8,7 @@
 #include "shots/figures.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace parabolt {
 namespace {
@@ -23,6 +24,7 @@ constexpr double kLandingTick = 80;
 constexpr double kNarrowestScale = 1500; ///< else the names give way
 constexpr double kLeastRange = 4;        ///< yards
 constexpr int kMostTicks = 10;
+constexpr double kDashes = 120; ///< from one to the next
 
 /// A data set that has landed.
 struct Landing {
@@ -111,7 +113,7 @@ private:
         const double room = std::max(kLeastRange - (high_ - low_), (high_ - low_) * 0.1) / 2;
         low_ -= room;
         high_ += room;
-        const double rows = static_cast<double>(landings_.size());
+        const auto rows = static_cast<double>(landings_.size());
         row_ = std::min(kTallestRow, (height - kAboveRows - kBelowRows) / rows);
         foot_ = kAboveRows + row_ * rows;
     }
@@ -145,9 +147,12 @@ private:
         if (of == landings_.end() || landings_.size() < 2)
             return;
         pen(mixed(canvas_.background(), ink_, 0.55));
+        const auto dashes = static_cast<int>(std::ceil((foot_ - kAboveRows) / kDashes));
         for (const double yards : {of->figures.carry, of->figures.total})
-            for (double y = kAboveRows; y < foot_; y += 120)
-                canvas_.line({x(yards), y}, {x(yards), std::min(y + 60, foot_)});
+            for (int dash = 0; dash < dashes; ++dash) {
+                const double y = kAboveRows + dash * kDashes;
+                canvas_.line({x(yards), y}, {x(yards), std::min(y + kDashes / 2, foot_)});
+            }
         canvas_.label({x((of->figures.carry + of->figures.total) / 2), kAboveRows - 90},
                       "base: " + std::to_string(of->number), kBottomMiddle);
     }
