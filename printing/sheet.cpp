@@ -20,7 +20,7 @@ constexpr double kSheetGap = 0.12;
 constexpr double kCellGap = 0.1;     ///< between columns at the usual size
 constexpr double kLeastPictures = 2; ///< height that the table leaves to them
 constexpr double kLeastChart = 1.6;  ///< height of a chart below the plot
-constexpr double kPlotShare = 0.62;  ///< of the width, beside charts
+constexpr double kPlotShare = 0.5;  ///< of the width, beside charts
 constexpr double kLeastAbove = 0.7;  ///< likewise, above them
 
 constexpr double kTitleSize = 16;
