@@ -20,6 +20,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -61,11 +62,15 @@ private:
         return *(list.begin() + roll(static_cast<int>(list.size())));
     }
 
-    static QWidget* front() {
+    QWidget* front() {
         if (QWidget* popup = QApplication::activePopupWidget())
             return popup;
         if (QWidget* modal = QApplication::activeModalWidget())
             return modal;
+        const bool beside = roll(3) == 0; // in a window beside the main form, if one is open
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (beside && window->objectName() == "dataSets" && window->isVisible())
+                return window;
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window->objectName() == "frmMain") {
                 if (!window->isVisible()) // it was closed; so the user starts again
@@ -138,7 +143,8 @@ private:
              Qt::Key_Up,  Qt::Key_Down,    Qt::Key_Left,      Qt::Key_Right,  Qt::Key_F2,
              Qt::Key_F5,  Qt::Key_F10,     Qt::Key_Backspace, Qt::Key_R,      Qt::Key_D,
              Qt::Key_P,   Qt::Key_S,       Qt::Key_O,         Qt::Key_E,      Qt::Key_Y,
-             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T});
+             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T,      Qt::Key_L,
+             Qt::Key_F6,  Qt::Key_Home,    Qt::Key_A,         Qt::Key_C});
         const auto modifier = pick<Qt::KeyboardModifiers>(
             {Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier});
         QTest::keyClick(&widget, static_cast<Qt::Key>(key), modifier);
@@ -146,10 +152,10 @@ private:
 
     void nameFile(QWidget& dialog) {
         if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit"))
-            name->setText(folder_ +
-                          pick<const char*>({"/good.opt", "/short.opt", "/noise.clb", "/new.clb",
-                                             "/table.txt", "/report.pdf", "/nowhere/x.opt",
-                                             "/plain", "/a.pbs", "/b"}));
+            name->setText(folder_ + pick<const char*>({"/good.opt", "/short.opt", "/noise.clb",
+                                                       "/new.clb", "/table.txt", "/report.pdf",
+                                                       "/nowhere/x.opt", "/plain", "/a.pbs", "/b",
+                                                       "/sets.csv", "/plot.png", "/plot.svg"}));
         QTest::keyClick(&dialog, Qt::Key_Return);
     }
 
@@ -159,31 +165,40 @@ private:
         const int sets = form_.Runs.count();
         require(sets == runNumber(form_), "the counter shows another number of data sets");
         require(sets <= 24, "there are more than 24 data sets");
+<<<<<<< HEAD
         if (desks_ == nullptr && !form_.Timer1.enabled() &&
             QApplication::activeModalWidget() == nullptr)
+=======
+        if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr) {
+>>>>>>> w_sets
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
+        const auto& shapes = form_.Picture2.drawings();
+        const auto curves = std::count_if(shapes.begin(), shapes.end(), [](const Drawing& drawing) {
+            return std::holds_alternative<DrawnCurve>(drawing);
+        });
+        require(curves == std::ssize(form_.Runs.ticked()), "the plot shows other data sets");
     }
-    void tellDesk(const char* what) const {
-        if (desks_ == nullptr)
-            return;
-        std::fprintf(desks_, "%s %016llx\n", what, fingerprint(form_));
-        std::fflush(desks_);
-    }
-    void require(bool holds, const char* fault) const {
-        if (holds)
-            return;
-        std::fprintf(stderr, "With %ld events to go, %s.\n", left_, fault);
-        std::exit(EXIT_FAILURE);
-    }
+} void tellDesk(const char* what) const {
+    if (desks_ == nullptr)
+        return;
+    std::fprintf(desks_, "%s %016llx\n", what, fingerprint(form_));
+    std::fflush(desks_);
+}
+void require(bool holds, const char* fault) const {
+    if (holds)
+        return;
+    std::fprintf(stderr, "With %ld events to go, %s.\n", left_, fault);
+    std::exit(EXIT_FAILURE);
+}
 
-    Program& program_;
-    const MainForm& form_;
-    std::mt19937 dice_;
-    long left_;
-    QString folder_;
-    std::FILE* desks_;
-    int unsafe_ = 0; ///< looks in a row that found the desk unsafe
+Program& program_;
+const MainForm& form_;
+std::mt19937 dice_;
+long left_;
+QString folder_;
+std::FILE* desks_;
+int unsafe_ = 0; ///< looks in a row that found the desk unsafe
 };
 
 void putFile(const QString& name, const QByteArray& content) {

@@ -50,14 +50,16 @@ TEST(Look, AtIt) {
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     window.grab().save(out + "_empty.png");
     user.files.choose(dataFile(qPrintable(qEnvironmentVariable("LOOK_FILE", "trackman.csv"))));
-    asSoonAs(window, [] { return QApplication::activeModalWidget() != nullptr; }, [out] {
-        QWidget* modal = QApplication::activeModalWidget();
-        modal->grab().save(out + "_import.png");
-        if (auto* take = modal->findChild<QPushButton*>("importTake"))
-            take->click();
-        else
-            modal->close();
-    });
+    asSoonAs(
+        window, [] { return QApplication::activeModalWidget() != nullptr; },
+        [out] {
+            QWidget* modal = QApplication::activeModalWidget();
+            modal->grab().save(out + "_import.png");
+            if (auto* take = modal->findChild<QPushButton*>("importTake"))
+                take->click();
+            else
+                modal->close();
+        });
     window.findChild<QAction*>("measuredImport")->trigger();
     for (const auto& text : user.messages.texts)
         std::printf("message: %s\n", text.c_str());
@@ -72,11 +74,13 @@ TEST(Look, AtIt) {
     bag.findChild<QAction*>("bagFlyCommand")->trigger();
     QTest::qWait(100);
     bag.grab().save(out + "_bag.png");
-    asSoonAs(window, [] { return QApplication::activeModalWidget() != nullptr; }, [out] {
-        QWidget* modal = QApplication::activeModalWidget();
-        modal->grab().save(out + "_sheet.png");
-        modal->close();
-    });
+    asSoonAs(
+        window, [] { return QApplication::activeModalWidget() != nullptr; },
+        [out] {
+            QWidget* modal = QApplication::activeModalWidget();
+            modal->grab().save(out + "_sheet.png");
+            modal->close();
+        });
     bag.findChild<QAction*>("bagPrint")->trigger();
 }
 
