@@ -165,12 +165,8 @@ private:
         const int sets = form_.Runs.count();
         require(sets == runNumber(form_), "the counter shows another number of data sets");
         require(sets <= 24, "there are more than 24 data sets");
-<<<<<<< HEAD
         if (desks_ == nullptr && !form_.Timer1.enabled() &&
-            QApplication::activeModalWidget() == nullptr)
-=======
-        if (!form_.Timer1.enabled() && QApplication::activeModalWidget() == nullptr) {
->>>>>>> w_sets
+            QApplication::activeModalWidget() == nullptr) {
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
         const auto& shapes = form_.Picture2.drawings();
