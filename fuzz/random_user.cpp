@@ -165,8 +165,9 @@ private:
         const int sets = form_.Runs.count();
         require(sets == runNumber(form_), "the counter shows another number of data sets");
         require(sets <= 24, "there are more than 24 data sets");
-        if (desks_ == nullptr && !form_.Timer1.enabled() &&
-            QApplication::activeModalWidget() == nullptr) {
+        if (form_.Timer1.enabled() || QApplication::activeModalWidget() != nullptr)
+            return;
+        if (desks_ == nullptr)
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
         const auto& shapes = form_.Picture2.drawings();
@@ -175,26 +176,26 @@ private:
         });
         require(curves == std::ssize(form_.Runs.ticked()), "the plot shows other data sets");
     }
-} void tellDesk(const char* what) const {
-    if (desks_ == nullptr)
-        return;
-    std::fprintf(desks_, "%s %016llx\n", what, fingerprint(form_));
-    std::fflush(desks_);
-}
-void require(bool holds, const char* fault) const {
-    if (holds)
-        return;
-    std::fprintf(stderr, "With %ld events to go, %s.\n", left_, fault);
-    std::exit(EXIT_FAILURE);
-}
+    void tellDesk(const char* what) const {
+        if (desks_ == nullptr)
+            return;
+        std::fprintf(desks_, "%s %016llx\n", what, fingerprint(form_));
+        std::fflush(desks_);
+    }
+    void require(bool holds, const char* fault) const {
+        if (holds)
+            return;
+        std::fprintf(stderr, "With %ld events to go, %s.\n", left_, fault);
+        std::exit(EXIT_FAILURE);
+    }
 
-Program& program_;
-const MainForm& form_;
-std::mt19937 dice_;
-long left_;
-QString folder_;
-std::FILE* desks_;
-int unsafe_ = 0; ///< looks in a row that found the desk unsafe
+    Program& program_;
+    const MainForm& form_;
+    std::mt19937 dice_;
+    long left_;
+    QString folder_;
+    std::FILE* desks_;
+    int unsafe_ = 0; ///< looks in a row that found the desk unsafe
 };
 
 void putFile(const QString& name, const QByteArray& content) {
