@@ -61,11 +61,18 @@ private:
         return *(list.begin() + roll(static_cast<int>(list.size())));
     }
 
-    static QWidget* front() {
+    /// Of the windows that are no forms one now and then, where it is open.
+    QWidget* front() {
         if (QWidget* popup = QApplication::activePopupWidget())
             return popup;
         if (QWidget* modal = QApplication::activeModalWidget())
             return modal;
+        const auto wanted =
+            roll(4) == 0 ? pick<const char*>({"carryMap", "dataSets", "measuredShots", "bag"})
+                         : "frmMain";
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->objectName() == wanted && window->isVisible())
+                return window;
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window->objectName() == "frmMain") {
                 if (!window->isVisible()) // it was closed; so the user starts again
@@ -132,9 +139,11 @@ private:
              Qt::Key_Up,  Qt::Key_Down,    Qt::Key_Left,      Qt::Key_Right,  Qt::Key_F2,
              Qt::Key_F5,  Qt::Key_F10,     Qt::Key_Backspace, Qt::Key_R,      Qt::Key_D,
              Qt::Key_P,   Qt::Key_S,       Qt::Key_O,         Qt::Key_E,      Qt::Key_Y,
-             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T});
-        const auto modifier = pick<Qt::KeyboardModifiers>(
-            {Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier});
+             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T,      Qt::Key_M,
+             Qt::Key_B,   Qt::Key_L,       Qt::Key_Delete});
+        const auto modifier =
+            pick<Qt::KeyboardModifiers>({Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier,
+                                         Qt::AltModifier, Qt::ControlModifier | Qt::ShiftModifier});
         QTest::keyClick(&widget, static_cast<Qt::Key>(key), modifier);
     }
 
@@ -143,7 +152,7 @@ private:
             name->setText(folder_ +
                           pick<const char*>({"/good.opt", "/short.opt", "/noise.clb", "/new.clb",
                                              "/table.txt", "/report.pdf", "/nowhere/x.opt",
-                                             "/plain", "/a.pbs", "/b"}));
+                                             "/plain", "/a.pbs", "/b", "/shots.csv"}));
         QTest::keyClick(&dialog, Qt::Key_Return);
     }
 
@@ -225,6 +234,9 @@ int main(int argc, char** argv) {
     putFile(folder + "/good.opt", QByteArray(66, '\0'));
     putFile(folder + "/short.opt", "short");
     putFile(folder + "/noise.clb", QByteArray(900, '\x7F'));
+    putFile(folder + "/shots.csv",
+            "Club,Ball speed [mph],Launch angle [deg],Spin [rpm],Carry [yd]\n"
+            "7i,120,17,6500,158\nGamer,140,13,4000,\n7i,12,17,6500,9\n");
     QTextBrowser nowhere; // takes the addresses that would leave the program
     for (const char* scheme : {"http", "https", "callto"})
         QDesktopServices::setUrlHandler(scheme, &nowhere, "setSource");
