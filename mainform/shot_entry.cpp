@@ -5,6 +5,7 @@
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 
+#include <algorithm>
 #include <array>
 
 namespace parabolt {
@@ -99,10 +100,9 @@ bool ShotEntry::ready(Fields fields, const ShotInputs& shot) {
     // What waits is held back as the Run button is; what is being edited is judged first.
     if (!form_.Command1.enabled() || !form_.focus.give(rest_))
         return false;
-    for (const Field& field : fields)
-        if (!validators_.accepts(form_.*field.field, field.of(shot)))
-            return false;
-    return true;
+    return std::all_of(fields.begin(), fields.end(), [&](const Field& field) {
+        return validators_.accepts(form_.*field.field, field.of(shot));
+    });
 }
 
 void ShotEntry::choose(OperatingMode::Number mode) {

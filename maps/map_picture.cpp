@@ -31,12 +31,6 @@ constexpr double kRingRadius = 200; ///< around the present setting
 constexpr int kBarPixels = 128;
 constexpr int kMostLevels = 12; ///< about as many contours
 
-constexpr Place kLeftMiddle{0, 0.5};
-constexpr Place kRightMiddle{1, 0.5};
-constexpr Place kMiddle{0.5, 0.5};
-constexpr Place kTopMiddle{0.5, 0};
-constexpr Place kBottomMiddle{0.5, 1};
-
 /// A round value with as many decimals as it needs.
 std::string label(double value) {
     return shortestText(store32(value));

@@ -32,9 +32,11 @@ double roundStep(double range, int most) {
 
 std::vector<double> roundValues(double low, double high, double step) {
     constexpr double kSlack = 1e-9;
+    const double first = std::ceil(low / step - kSlack);
+    const auto count = static_cast<int>(std::floor(high / step + kSlack) - first) + 1;
     std::vector<double> values;
-    for (double i = std::ceil(low / step - kSlack); i <= high / step + kSlack; ++i)
-        values.push_back(i * step);
+    for (int i = 0; i < count; ++i)
+        values.push_back((first + i) * step);
     return values;
 }
 

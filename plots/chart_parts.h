@@ -6,6 +6,13 @@ namespace parabolt {
 
 // What charts have in common.
 
+// Anchors of labels.
+inline constexpr Place kLeftMiddle{0, 0.5};
+inline constexpr Place kRightMiddle{1, 0.5};
+inline constexpr Place kMiddle{0.5, 0.5};
+inline constexpr Place kTopMiddle{0.5, 0};
+inline constexpr Place kBottomMiddle{0.5, 1};
+
 /// The round step, 1, 2 or 5 times a power of ten, that divides a range into at most `most` parts.
 double roundStep(double range, int most);
 /// The whole multiples of a step from `low` to `high`.

@@ -37,7 +37,7 @@ public:
     /// The plot with its inner canvas set into the outer one, stretched over a rectangle.
     virtual void PaintPlot(const PlotCanvases& plot, Place corner, Place size) = 0;
     /// A single canvas, likewise.
-    virtual void PaintPicture(const PictureBox& picture, Place corner, Place size) = 0;
+    virtual void paintPicture(const PictureBox& picture, Place corner, Place size) = 0;
 };
 
 } // namespace parabolt

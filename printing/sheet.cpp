@@ -11,28 +11,28 @@ namespace parabolt {
 namespace {
 
 // Inches from the corner of the printable area; sizes in points.
-constexpr double kLeft = 0.2;
-constexpr double kTop = 0.2;
-constexpr double kRight = 11;
-constexpr double kBottom = 7.5;
-constexpr double kAcross = kRight - kLeft;
-constexpr double kGap = 0.12;
+constexpr double kSheetLeft = 0.2;
+constexpr double kSheetTop = 0.2;
+constexpr double kSheetRight = 11;
+constexpr double kSheetBottom = 7.5;
+constexpr double kSheetAcross = kSheetRight - kSheetLeft;
+constexpr double kSheetGap = 0.12;
 constexpr double kCellGap = 0.1;     ///< between columns at the usual size
 constexpr double kLeastPictures = 2; ///< height that the table leaves to them
 constexpr double kLeastChart = 1.6;  ///< height of a chart below the plot
-constexpr double kPlotShare = 0.62;  ///< of the width, beside charts
+constexpr double kPlotShare = 0.5;  ///< of the width, beside charts
 constexpr double kLeastAbove = 0.7;  ///< likewise, above them
 
 constexpr double kTitleSize = 16;
-constexpr double kTextSize = 9;
+constexpr double kSheetTextSize = 9;
 constexpr double kSmallestSize = 4;
 
 // Each is a line of the text.
-constexpr std::array<std::string SheetFields::*, 4> kFields = {
+constexpr std::array<std::string SheetFields::*, 4> kFieldLines = {
     &SheetFields::player, &SheetFields::fitter, &SheetFields::date, &SheetFields::note};
 
 /// Name and unit of a heading, in a line each; a heading without unit stands in the second.
-std::pair<std::string, std::string> linesOf(const std::string& heading) {
+std::pair<std::string, std::string> headingLines(const std::string& heading) {
     const std::size_t unit = heading.rfind(" [");
     if (unit == std::string::npos)
         return {{}, heading};
@@ -52,7 +52,7 @@ public:
     void setSize(double points) {
         target_.FontSize = points * ratio_;
         line_ = target_.TextHeight("7");
-        gap_ = kCellGap * points / kTextSize;
+        gap_ = kCellGap * points / kSheetTextSize;
         widths_.clear();
         for (std::size_t column = 0; !rows_.empty() && column < rows_.front().size(); ++column)
             widths_.push_back(widthOf(column));
@@ -66,7 +66,7 @@ public:
     }
 
     void write(double top) const {
-        double left = kLeft;
+        double left = kSheetLeft;
         for (std::size_t column = 0; column < widths_.size(); ++column) {
             const double right = left + widths_[column];
             const bool numbers = holdsNumbers(column);
@@ -76,7 +76,7 @@ public:
                 target_.Print(text);
             };
             target_.FontBold = true;
-            const auto [name, unit] = linesOf(rows_.front()[column]);
+            const auto [name, unit] = headingLines(rows_.front()[column]);
             put(top, name);
             put(top + line_, unit);
             target_.FontBold = false;
@@ -86,14 +86,14 @@ public:
             left = right + gap_;
         }
         const double rule = top + (kHeadingLines - 0.15) * line_;
-        target_.Box({kLeft, rule}, {kRight, rule});
+        target_.Box({kSheetLeft, rule}, {kSheetRight, rule});
     }
 
 private:
     static constexpr double kHeadingLines = 2.4;
 
     double widthOf(std::size_t column) const {
-        const auto [name, unit] = linesOf(rows_.front()[column]);
+        const auto [name, unit] = headingLines(rows_.front()[column]);
         target_.FontBold = true;
         double width = std::max(target_.TextWidth(name), target_.TextWidth(unit));
         target_.FontBold = false;
@@ -128,23 +128,23 @@ public:
         target_.FontName = "Liberation Sans";
         target_.DrawWidth = 1;
         line(kTitleSize, true, content_.title);
-        top_ += kGap / 2;
+        top_ += kSheetGap / 2;
         fields();
-        const double remark = content_.remark.empty() ? 0 : heightOfLine() + kGap;
+        const double remark = content_.remark.empty() ? 0 : heightOfLine() + kSheetGap;
         const double pictures = content_.plot || !content_.charts.empty() ? kLeastPictures : 0;
-        const double room = kBottom - top_ - remark - pictures;
-        double points = kTextSize;
+        const double room = kSheetBottom - top_ - remark - pictures;
+        double points = kSheetTextSize;
         for (table_.setSize(points);
-             points > kSmallestSize && (table_.width() > kAcross || table_.height() > room);
+             points > kSmallestSize && (table_.width() > kSheetAcross || table_.height() > room);
              table_.setSize(points))
             points -= 0.25;
         if (pictures > 0)
-            paintPictures(kBottom - top_ - remark - table_.height() - kGap);
+            paintPictures(kSheetBottom - top_ - remark - table_.height() - kSheetGap);
         table_.setSize(points);
         table_.write(top_);
-        top_ += table_.height() + kGap;
+        top_ += table_.height() + kSheetGap;
         if (remark > 0)
-            line(kTextSize, false, content_.remark);
+            line(kSheetTextSize, false, content_.remark);
     }
 
 private:
@@ -153,9 +153,9 @@ private:
         target_.FontSize = points * ratio_;
         target_.FontBold = bold;
         const double width = target_.TextWidth(text);
-        if (width > kAcross)
-            target_.FontSize *= kAcross / width;
-        target_.CurrentX = kLeft;
+        if (width > kSheetAcross)
+            target_.FontSize *= kSheetAcross / width;
+        target_.CurrentX = kSheetLeft;
         target_.CurrentY = top_;
         target_.Print(text);
         target_.FontBold = false;
@@ -163,64 +163,64 @@ private:
     }
 
     double heightOfLine() {
-        target_.FontSize = kTextSize * ratio_;
+        target_.FontSize = kSheetTextSize * ratio_;
         return target_.TextHeight("7");
     }
 
     void fields() {
         std::string people;
-        const std::pair<const char*, const std::string&> fields[] = {
-            {"Player: ", content_.fields.player},
-            {"Fitter: ", content_.fields.fitter},
-            {"Date: ", content_.fields.date}};
+        const auto fields = std::to_array<std::pair<const char*, std::string>>(
+            {{"Player: ", content_.fields.player},
+             {"Fitter: ", content_.fields.fitter},
+             {"Date: ", content_.fields.date}});
         for (const auto& [name, text] : fields)
             if (!text.empty())
                 people += (people.empty() ? "" : "     ") + (name + text);
         if (!people.empty())
-            line(kTextSize, false, people);
+            line(kSheetTextSize, false, people);
         if (!content_.fields.note.empty())
-            line(kTextSize, false, "Note: " + content_.fields.note);
-        top_ += kGap;
+            line(kSheetTextSize, false, "Note: " + content_.fields.note);
+        top_ += kSheetGap;
     }
 
     /// The plot above the charts where there is height for both, else beside them. No higher than
     /// the plot, or a chart with a line for each row of the table, needs it.
     void paintPictures(double height) {
-        Place corner{kLeft, top_};
-        Place room{kAcross, height};
+        Place corner{kSheetLeft, top_};
+        Place room{kSheetAcross, height};
         if (content_.plot) {
             const auto& outer = content_.plot->outer.geometry();
             const double shape = outer.height > 0 ? outer.width / outer.height : 1;
             const bool alone = content_.charts.empty();
-            const double left = height - kGap - std::max(kLeastChart, wanted());
-            const bool above = !alone && left >= kLeastAbove * kAcross / shape;
-            const double widest = alone || above ? kAcross : kAcross * kPlotShare;
+            const double left = height - kSheetGap - std::max(kLeastChart, wanted());
+            const bool above = !alone && left >= kLeastAbove * kSheetAcross / shape;
+            const double widest = alone || above ? kSheetAcross : kSheetAcross * kPlotShare;
             const double high = std::min(widest / shape, above ? left : height);
             const Place size{high * shape, high};
             target_.PaintPlot(*content_.plot, corner, size);
             if (above) {
-                corner.y += size.y + kGap;
-                room.y -= size.y + kGap;
+                corner.y += size.y + kSheetGap;
+                room.y -= size.y + kSheetGap;
             } else {
-                corner.x += size.x + kGap;
-                room.x -= size.x + kGap;
+                corner.x += size.x + kSheetGap;
+                room.x -= size.x + kSheetGap;
             }
             top_ += size.y;
         }
         room.y = std::min(room.y, std::max(wanted(), kLeastPictures));
-        const double count = static_cast<double>(content_.charts.size());
-        const double width = (room.x - (count - 1) * kGap) / count;
+        const auto count = static_cast<double>(content_.charts.size());
+        const double width = (room.x - (count - 1) * kSheetGap) / count;
         for (const DrawChart& draw : content_.charts) {
             ControlSet controls;
             PictureBox canvas(controls, "chart", kWhite, kBlack);
             canvas.setGeometry({0, 0, width * kTwipsPerInch, room.y * kTwipsPerInch});
             draw(canvas);
-            target_.PaintPicture(canvas, corner, {width, room.y});
-            corner.x += width + kGap;
+            target_.paintPicture(canvas, corner, {width, room.y});
+            corner.x += width + kSheetGap;
         }
         if (count > 0)
             top_ = std::max(top_, corner.y + room.y);
-        top_ += kGap;
+        top_ += kSheetGap;
     }
 
     /// Height of a chart with a line for each row of the table.
@@ -230,28 +230,28 @@ private:
     double ratio_;
     const SheetContent& content_;
     SheetTable table_;
-    double top_ = kTop; ///< of what isn't used yet
+    double top_ = kSheetTop; ///< of what isn't used yet
 };
 
 } // namespace
 
 std::string fieldsText(const SheetFields& fields) {
     std::string text;
-    for (const auto field : kFields)
+    for (const auto field : kFieldLines)
         text += fields.*field + '\n';
     return text;
 }
 
 SheetFields fieldsOf(std::string_view text) {
     SheetFields fields;
-    for (const auto field : kFields) {
+    for (const auto field : kFieldLines) {
         fields.*field = text.substr(0, text.find('\n'));
         text.remove_prefix(std::min((fields.*field).size() + 1, text.size()));
     }
     return fields;
 }
 
-void ComposeSheet(Page& target, double Ratio, const SheetContent& content) {
+void composeSheet(Page& target, double Ratio, const SheetContent& content) {
     SheetComposer(target, Ratio, content).compose();
 }
 

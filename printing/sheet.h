@@ -34,6 +34,6 @@ struct SheetContent {
 /// Draws a sheet on a page whose units are inches from the corner of the printable area; all fits
 /// into the report's frame. `Ratio` is the size of the target relative to the page, 1 for a
 /// printer. The table shrinks as far as it must; pictures share the room that it leaves.
-void ComposeSheet(Page& target, double Ratio, const SheetContent& content);
+void composeSheet(Page& target, double Ratio, const SheetContent& content);
 
 } // namespace parabolt

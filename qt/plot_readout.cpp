@@ -12,9 +12,10 @@
 namespace parabolt {
 namespace {
 
-constexpr double kReach = 32; ///< pixels from the pointer to a curve
-constexpr int kMarker = 5;    ///< radius of the ring at the point, pixels
-constexpr int kRim = 5;       ///< pens of the lifted curve
+constexpr double kReach = 32;      ///< pixels from the pointer to a curve
+constexpr int kMarker = 5;         ///< radius of the ring at the point, pixels
+constexpr double kPointsApart = 5; ///< of the lifted curve, pixels
+constexpr int kRim = 5;            ///< pens of the lifted curve
 constexpr int kCurve = 3;
 constexpr int kGap = 14;         ///< between the point and the label
 constexpr int kPointsOfKey = 10; ///< a tenth of a second
@@ -219,7 +220,7 @@ void PlotReadout::takePicture() {
     paintPicture(painter, form_.Picture2, rect());
 }
 
-void PlotReadout::paintEvent(QPaintEvent*) {
+void PlotReadout::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
     painter.drawPixmap(QRectF(-shift_ / ratio, QSizeF(picture_.size()) / ratio), picture_,
@@ -227,10 +228,13 @@ void PlotReadout::paintEvent(QPaintEvent*) {
     if (!point_)
         return;
     const RunRecord& run = form_.Runs[point_->number];
+    // Each point would take longer, and look the same.
     QPolygonF curve;
-    curve.reserve(static_cast<qsizetype>(run.Path.size()));
     for (const TrajectoryPoint& point : run.Path)
-        curve.append(placeOf(point));
+        if (const QPointF place = placeOf(point);
+            curve.isEmpty() || &point == &run.Path.back() ||
+            (place - curve.back()).manhattanLength() >= kPointsApart)
+            curve.append(place);
     painter.setRenderHint(QPainter::Antialiasing);
     // White around the colour, which may be dark, as the ground is.
     const QColor colour(run.CurveColor.red, run.CurveColor.green, run.CurveColor.blue);

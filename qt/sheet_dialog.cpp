@@ -35,7 +35,7 @@ SheetDialog::SheetDialog(SheetContent content, Printer& printer, MessageBoxes& m
       page_(inLayoutInches(printer.paper())),
       room_(new QWidget),
       sheet_(new PageSheet([this] { return scale_; },
-                           [this](Page& page) { ComposeSheet(page, scale_.Ratio, content_); },
+                           [this](Page& page) { composeSheet(page, scale_.Ratio, content_); },
                            room_)),
       told_(new QLabel) {
     setObjectName("sheetPreview");
@@ -98,7 +98,7 @@ void SheetDialog::fitPage() {
 
 void SheetDialog::print() {
     const auto printed =
-        printer_.print(content_.title, [this](Page& page) { ComposeSheet(page, 1, content_); });
+        printer_.print(content_.title, [this](Page& page) { composeSheet(page, 1, content_); });
     told_->setText(printed ? toQt(*printed) : QString());
     told_->setToolTip(told_->text());
     if (!printed)

@@ -8,9 +8,9 @@
 namespace parabolt {
 namespace {
 
-template <std::size_t count>
-std::string_view entryOf(const std::array<std::string_view, count>& names, int index) {
-    return index >= 0 && static_cast<std::size_t>(index) < count
+template <std::size_t Count>
+std::string_view entryOf(const std::array<std::string_view, Count>& names, int index) {
+    return index >= 0 && static_cast<std::size_t>(index) < Count
                ? names.at(static_cast<std::size_t>(index))
                : std::string_view();
 }

@@ -12,7 +12,7 @@ namespace parabolt {
 namespace {
 
 /// A data set in its book.
-struct Row {
+struct SetRow {
     const RunBook& book;
     int number;
 
@@ -20,32 +20,32 @@ struct Row {
     const DataSetTag& tag() const { return book.tag(number); }
 };
 
-using Cell = TableCell (*)(const Row&);
+using SetCell = TableCell (*)(const SetRow&);
 
 TableCell textCell(std::string_view text) {
     return {.text = std::string(text)};
 }
 
 /// The cell of a figure; empty for a flight that failed.
-template <double Figures::*figure>
-TableCell figureCell(const Row& row, std::string_view pattern) {
+template <double Figures::*Figure>
+TableCell figureCell(const SetRow& row, std::string_view pattern) {
     if (!(row.run().CarryTime > 0))
         return {};
-    return numberCell(figuresOf(row.run()).*figure, pattern);
+    return numberCell(figuresOf(row.run()).*Figure, pattern);
 }
 
-template <double Figures::*figure>
-TableCell tenths(const Row& row) {
-    return figureCell<figure>(row, "0.0");
+template <double Figures::*Figure>
+TableCell tenths(const SetRow& row) {
+    return figureCell<Figure>(row, "0.0");
 }
 
 /// How far a figure lies above that of the base set.
-template <double Figures::*figure>
-TableCell difference(const Row& row) {
+template <double Figures::*Figure>
+TableCell difference(const SetRow& row) {
     const RunRecord& base = row.book[row.book.base()];
     if (!(row.run().CarryTime > 0 && base.CarryTime > 0))
         return {};
-    const double more = figuresOf(row.run()).*figure - figuresOf(base).*figure;
+    const double more = figuresOf(row.run()).*Figure - figuresOf(base).*Figure;
     TableCell cell = numberCell(more, "0.0");
     if (cell.text.find_first_not_of("-0.") == std::string::npos)
         cell.text = "0.0"; // without the sign of what is less than a twentieth
@@ -54,32 +54,32 @@ TableCell difference(const Row& row) {
     return cell;
 }
 
-template <float RunRecord::*value>
-TableCell shortest(const Row& row) {
-    return {shortestText(row.run().*value), row.run().*value};
+template <float RunRecord::*Value>
+TableCell shortest(const SetRow& row) {
+    return {shortestText(row.run().*Value), row.run().*Value};
 }
 
 /// A value that the impact model may have computed: with one digit behind the point.
-template <float RunRecord::*value>
-TableCell tenth(const Row& row) {
-    return numberCell(row.run().*value, "0.0");
+template <float RunRecord::*Value>
+TableCell tenth(const SetRow& row) {
+    return numberCell(row.run().*Value, "0.0");
 }
 
-template <float RunRecord::*value>
-TableCell whole(const Row& row) {
-    return numberCell(row.run().*value, "0");
+template <float RunRecord::*Value>
+TableCell whole(const SetRow& row) {
+    return numberCell(row.run().*Value, "0");
 }
 
 /// A quantity that the air of the shot has; empty where there is no such air.
-template <float ShotState::*quantity>
-TableCell ofAir(const Row& row, std::string_view pattern) {
+template <float ShotState::*Quantity>
+TableCell ofAir(const SetRow& row, std::string_view pattern) {
     const auto state = deriveAir(shotOf(row.book, row.number));
-    return state ? numberCell((*state).*quantity, pattern) : TableCell();
+    return state ? numberCell((*state).*Quantity, pattern) : TableCell();
 }
 
-struct Column {
+struct SetColumn {
     TableColumn column;
-    Cell cell;
+    SetCell cell;
     bool printed = false; ///< on the page of comparison
 };
 
@@ -88,26 +88,26 @@ std::string headingOf(std::string_view heading) {
 }
 
 /// The columns, in the order in which a table has them at first.
-const std::vector<Column>& allColumns() {
+const std::vector<SetColumn>& allColumns() {
     using enum TableColumn::Holds;
     namespace headings = shot_columns;
-    static const std::vector<Column> kColumns = {
+    static const std::vector<SetColumn> kSetColumns = {
         {{"ticked", "Show", "Ticked sets stand in the plot, in the close-up and on paper", true,
           Ticks},
-         [](const Row& row) { return TableCell{.ticked = row.tag().ticked}; }},
+         [](const SetRow& row) { return TableCell{.ticked = row.tag().ticked}; }},
         {{"number", "No.", "Number of the data set, and the colour of its curve"},
-         [](const Row& row) {
+         [](const SetRow& row) {
              return TableCell{std::to_string(row.number), double(row.number), row.run().CurveColor};
          },
          true},
         {{"name", "Name", "What you call it: double-click, or F2, to type", true, Names},
-         [](const Row& row) { return textCell(row.tag().name); },
+         [](const SetRow& row) { return textCell(row.tag().name); },
          true},
         {{"club", headingOf(headings::kClub), "Wood or iron, and its number", true, Texts},
-         [](const Row& row) { return textCell(clubName(row.run())); },
+         [](const SetRow& row) { return textCell(clubName(row.run())); },
          true},
         {{"mode", "Mode", "What was given of the shot", true, Texts},
-         [](const Row& row) { return textCell(modeName(row.run().Mode)); },
+         [](const SetRow& row) { return textCell(modeName(row.run().Mode)); },
          true},
         {{"carry", headingOf(headings::kCarry), "Distance to the landing"},
          tenths<&Figures::carry>,
@@ -130,7 +130,7 @@ const std::vector<Column>& allColumns() {
          tenths<&Figures::landingAngle>,
          true},
         {{"time", headingOf(headings::kTime), "Time in the air"},
-         [](const Row& row) { return figureCell<&Figures::time>(row, "0.00"); },
+         [](const SetRow& row) { return figureCell<&Figures::time>(row, "0.00"); },
          true},
         {{"launchAngle", headingOf(headings::kLaunchAngle), "Angle at which the ball starts"},
          tenth<&RunRecord::LaunchAngle>,
@@ -151,7 +151,7 @@ const std::vector<Column>& allColumns() {
          shortest<&RunRecord::Temperature>,
          true},
         {{"ball", "Ball", "Ball option; none where an old session doesn't tell it", true, Texts},
-         [](const Row& row) { return textCell(ballName(row.tag().ball)); },
+         [](const SetRow& row) { return textCell(ballName(row.tag().ball)); },
          true},
         {{"heightMore", "Height diff. [yd]", "Greatest height, less that of the base set", false},
          difference<&Figures::height>},
@@ -181,14 +181,14 @@ const std::vector<Column>& allColumns() {
          shortest<&RunRecord::RH>},
         {{"stationPressure", "Station pressure [inHg]", "Pressure of the air at the altitude",
           false},
-         [](const Row& row) { return ofAir<&ShotState::StationPressure>(row, "0.00"); }},
+         [](const SetRow& row) { return ofAir<&ShotState::StationPressure>(row, "0.00"); }},
         {{"density", "Air density [kg/m3]", "Density of the air, as the model computes it", false},
-         [](const Row& row) { return ofAir<&ShotState::AirDensity>(row, "0.0000"); }},
+         [](const SetRow& row) { return ofAir<&ShotState::AirDensity>(row, "0.0000"); }},
         {{"viscosity", "Air viscosity [Pa s]", "Viscosity of the air, as the model computes it",
           false},
-         [](const Row& row) { return ofAir<&ShotState::AirViscosity>(row, "0.00000000"); }},
+         [](const SetRow& row) { return ofAir<&ShotState::AirViscosity>(row, "0.00000000"); }},
     };
-    return kColumns;
+    return kSetColumns;
 }
 
 int numberOf(std::size_t row) {
@@ -198,13 +198,13 @@ int numberOf(std::size_t row) {
 } // namespace
 
 std::span<const TableColumn> DataSets::columns() const {
-    static const std::vector<TableColumn> kColumns = [] {
+    static const std::vector<TableColumn> kSetColumns = [] {
         std::vector<TableColumn> columns;
-        for (const Column& column : allColumns())
+        for (const SetColumn& column : allColumns())
             columns.push_back(column.column);
         return columns;
     }();
-    return kColumns;
+    return kSetColumns;
 }
 
 TableCell DataSets::cell(std::size_t row, std::size_t column) const {

@@ -8,27 +8,23 @@
 #include "shots/figures.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace parabolt {
 namespace {
 
 // In twips: a line of text is some 200 high, a figure of it 92 wide.
-constexpr double kMargin = 120;
+constexpr double kLandingMargin = 120;
 constexpr double kFigure = 92;
 constexpr double kAboveRows = 330;
 constexpr double kBelowRows = 560;
 constexpr double kTallestRow = 420;
-constexpr double kMark = 75; ///< half the height of a mark
-constexpr double kTick = 80;
-constexpr double kNarrowestScale = 1500; ///< else the names give way
+constexpr double kLandingMark = 75; ///< half the height of a mark
+constexpr double kLandingTick = 80;
+constexpr double kNarrowestScale = 2200; ///< else the names give way
 constexpr double kLeastRange = 4;        ///< yards
 constexpr int kMostTicks = 10;
-
-constexpr Place kLeftMiddle{0, 0.5};
-constexpr Place kRightMiddle{1, 0.5};
-constexpr Place kTopMiddle{0.5, 0};
-constexpr Place kBottomMiddle{0.5, 1};
-constexpr Place kMiddle{0.5, 0.5};
+constexpr double kDashes = 120; ///< from one to the next
 
 /// A data set that has landed.
 struct Landing {
@@ -92,7 +88,7 @@ private:
 
     /// As much of a name as there is room for.
     std::string fitting(const std::string& name) const {
-        const auto most = static_cast<std::size_t>((left_ - 2 * kMargin) / kFigure);
+        const auto most = static_cast<std::size_t>((left_ - 2 * kLandingMargin) / kFigure);
         if (characterCount(name) <= most)
             return name;
         return name.substr(0, characterStart(name, most - 1)) + "\u2026";
@@ -111,13 +107,13 @@ private:
                 high_ = std::max(high_, yards);
             }
         }
-        right_ = width - 2 * kMargin - figures;
-        left_ = std::max(kMargin * 2 + kFigure * 2,
-                         std::min(2 * kMargin + names, right_ - kNarrowestScale));
+        right_ = width - 2 * kLandingMargin - figures;
+        left_ = std::max(kLandingMargin * 2 + kFigure * 2,
+                         std::min(2 * kLandingMargin + names, right_ - kNarrowestScale));
         const double room = std::max(kLeastRange - (high_ - low_), (high_ - low_) * 0.1) / 2;
         low_ -= room;
         high_ += room;
-        const double rows = static_cast<double>(landings_.size());
+        const auto rows = static_cast<double>(landings_.size());
         row_ = std::min(kTallestRow, (height - kAboveRows - kBelowRows) / rows);
         foot_ = kAboveRows + row_ * rows;
     }
@@ -133,13 +129,14 @@ private:
             pen(faint_);
             canvas_.line({x(yards), kAboveRows}, {x(yards), foot_});
             pen(ink_);
-            canvas_.line({x(yards), foot_}, {x(yards), foot_ + kTick});
-            canvas_.label({x(yards), foot_ + kTick + 20}, shortestText(store32(yards)), kTopMiddle);
+            canvas_.line({x(yards), foot_}, {x(yards), foot_ + kLandingTick});
+            canvas_.label({x(yards), foot_ + kLandingTick + 20}, shortestText(store32(yards)),
+                          kTopMiddle);
         }
         canvas_.line({left_, foot_}, {right_, foot_});
         canvas_.label({(left_ + right_) / 2, foot_ + kBelowRows - 20}, "Yards from the tee",
                       kBottomMiddle);
-        canvas_.label({right_ + kMargin, kAboveRows - 90}, "Carry / total", {0, 1});
+        canvas_.label({right_ + kLandingMargin, kAboveRows - 90}, "Carry / total", {0, 1});
     }
 
     /// Where the base set landed and came to rest, through all rows.
@@ -150,16 +147,19 @@ private:
         if (of == landings_.end() || landings_.size() < 2)
             return;
         pen(mixed(canvas_.background(), ink_, 0.55));
+        const auto dashes = static_cast<int>(std::ceil((foot_ - kAboveRows) / kDashes));
         for (const double yards : {of->figures.carry, of->figures.total})
-            for (double y = kAboveRows; y < foot_; y += 120)
-                canvas_.line({x(yards), y}, {x(yards), std::min(y + 60, foot_)});
+            for (int dash = 0; dash < dashes; ++dash) {
+                const double y = kAboveRows + dash * kDashes;
+                canvas_.line({x(yards), y}, {x(yards), std::min(y + kDashes / 2, foot_)});
+            }
         canvas_.label({x((of->figures.carry + of->figures.total) / 2), kAboveRows - 90},
                       "base: " + std::to_string(of->number), kBottomMiddle);
     }
 
     /// A disc in the colour of the curve where the ball lands, a bar to where it comes to rest.
     void mark(const Landing& landing, double y) {
-        const double half = std::min(kMark, row_ * 0.4);
+        const double half = std::min(kLandingMark, row_ * 0.4);
         const Place carry{x(landing.figures.carry), y};
         const Place total{x(landing.figures.total), y};
         pen(ink_, 2);
@@ -167,8 +167,8 @@ private:
         canvas_.line({total.x, y - half}, {total.x, y + half});
         drawDisc(canvas_, carry, half, book_[landing.number].CurveColor, ink_);
         pen(ink_);
-        canvas_.label({left_ - kMargin, y}, fitting(landing.name), kRightMiddle);
-        canvas_.label({right_ + kMargin, y}, landing.words, kLeftMiddle);
+        canvas_.label({left_ - kLandingMargin, y}, fitting(landing.name), kRightMiddle);
+        canvas_.label({right_ + kLandingMargin, y}, landing.words, kLeftMiddle);
     }
 
     PictureBox& canvas_;

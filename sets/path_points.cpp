@@ -75,7 +75,7 @@ double speedAt(const RunRecord& run, std::size_t index) {
 }
 
 std::string readoutOf(const RunBook& book, PathPoint point) {
-    const std::string name = "Data set " + dataSetName(book, point.number);
+    std::string name = "Data set " + dataSetName(book, point.number);
     const auto& path = book[point.number].Path;
     if (point.index >= path.size())
         return name;

@@ -184,7 +184,9 @@ TEST_F(MainWindowTest, AStudyIsShownAtWork) {
         };
         user.form.mnuStyLaunch.Click();
         EXPECT_FALSE(progress->isVisible());
-        EXPECT_EQ(window.statusBar()->currentMessage(), "");
+        EXPECT_EQ(fromQt(window.statusBar()->currentMessage().section(':', 0, 0)),
+                  steps == 3 ? "" : "Data set 1")
+            << "what came of it";
         EXPECT_EQ(table->textInteractionFlags(), Qt::TextEditorInteraction);
         EXPECT_EQ(field("txtLaunchAngle")->text(), steps == 3 ? "4" : "14");
         EXPECT_EQ(runs(), steps == 3 ? 0 : 1);

@@ -79,7 +79,7 @@ struct RecordedPage : Page {
     void PaintPlot(const PlotCanvases&, Place corner, Place size) override {
         plot = {corner, size, DrawWidth};
     }
-    void PaintPicture(const PictureBox&, Place corner, Place size) override {
+    void paintPicture(const PictureBox&, Place corner, Place size) override {
         charts.push_back({corner, size, DrawWidth});
     }
     /// What stands below caption and heading.
@@ -211,7 +211,7 @@ TEST_F(Report, ASheetOfOurOwnFitsWhateverStandsOnIt) {
                 sheet.table.emplace_back(columns, row == 0 ? "9.5" : "141.25");
             sheet.remark = "Remark";
             RecordedPage page;
-            ComposeSheet(page, 1, sheet);
+            composeSheet(page, 1, sheet);
             const std::string at = std::to_string(rows) + " by " + std::to_string(columns);
             EXPECT_EQ(page.lines.at(0).text + page.lines.at(1).text,
                       "ComparisonPlayer: Ann     Date: 2026-11-23");
