@@ -1,5 +1,6 @@
 #include "fitting/bag_table.h"
 
+#include "fitting/comparison.h"
 #include "numbers/text_number.h"
 
 #include <algorithm>
@@ -105,14 +106,13 @@ BagChoice BagTable::decisive(BagChoice bag) {
 
 void BagTable::fly(const ClubTables& tables, const Shot& conditions) {
     const BagChoice& bag = fitting_.session().bag;
-    flown_ = Flown{decisive(bag), tables, shotOf(MeasuredShot(), conditions, false)};
+    flown_ = Flown{decisive(bag), tables, conditionsOf(conditions)};
     flights_ = flyBag(bag, tables, conditions);
     refresh();
 }
 
 bool BagTable::isCurrent(const ClubTables& tables, const Shot& conditions) const {
-    return flown_ && flown_->tables == tables &&
-           flown_->conditions == shotOf(MeasuredShot(), conditions, false) &&
+    return flown_ && flown_->tables == tables && flown_->conditions == conditionsOf(conditions) &&
            flown_->bag == decisive(fitting_.session().bag);
 }
 

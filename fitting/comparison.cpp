@@ -4,6 +4,19 @@
 
 namespace parabolt {
 
+Shot conditionsOf(const Shot& shot) {
+    Shot conditions;
+    conditions.WindSpeed = shot.WindSpeed;
+    conditions.Temperature = shot.Temperature;
+    conditions.BaroPressure = shot.BaroPressure;
+    conditions.RH = shot.RH;
+    conditions.h = shot.h;
+    conditions.Slope1 = shot.Slope1;
+    conditions.CD1 = shot.CD1;
+    conditions.BallType = shot.BallType;
+    return conditions;
+}
+
 std::optional<ComparisonResult> computeComparison(const ComparisonRequest& request,
                                                   const std::stop_token& stop) {
     ComparisonResult result;
@@ -29,8 +42,7 @@ bool Comparison::follow(const Shot& conditions) {
         shotsNumber_ = fitting_.shotsNumber();
         result_ = {};
     }
-    // Of the form only the weather and the ball count.
-    request.conditions = shotOf(MeasuredShot(), conditions, false);
+    request.conditions = conditionsOf(conditions);
     request.ownAir = session.ownAir;
     request.air = session.normalise ? std::optional(session.air) : std::nullopt;
     if (!otherShots && request == request_)

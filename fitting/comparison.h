@@ -6,6 +6,10 @@
 
 namespace parabolt {
 
+/// The weather and the ball of a shot, and nothing else of it: all that measured shots and the bag
+/// take from the main form.
+Shot conditionsOf(const Shot& shot);
+
 /// What the model makes of the measured shots: computed off the form's thread, from values alone.
 struct ComparisonRequest {
     std::shared_ptr<const std::vector<MeasuredShot>> shots;

@@ -62,14 +62,17 @@ private:
         return *(list.begin() + roll(static_cast<int>(list.size())));
     }
 
+    /// Of the windows beside the main form one now and then, where it is open.
     QWidget* front() {
         if (QWidget* popup = QApplication::activePopupWidget())
             return popup;
         if (QWidget* modal = QApplication::activeModalWidget())
             return modal;
-        const bool beside = roll(3) == 0; // in a window beside the main form, if one is open
+        const auto wanted =
+            roll(3) == 0 ? pick<const char*>({"carryMap", "dataSets", "measuredShots", "bag"})
+                         : "frmMain";
         for (QWidget* window : QApplication::topLevelWidgets())
-            if (beside && window->objectName() == "dataSets" && window->isVisible())
+            if (window->objectName() == wanted && window->isVisible())
                 return window;
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window->objectName() == "frmMain") {
@@ -143,19 +146,22 @@ private:
              Qt::Key_Up,  Qt::Key_Down,    Qt::Key_Left,      Qt::Key_Right,  Qt::Key_F2,
              Qt::Key_F5,  Qt::Key_F10,     Qt::Key_Backspace, Qt::Key_R,      Qt::Key_D,
              Qt::Key_P,   Qt::Key_S,       Qt::Key_O,         Qt::Key_E,      Qt::Key_Y,
-             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T,      Qt::Key_L,
-             Qt::Key_F6,  Qt::Key_Home,    Qt::Key_A,         Qt::Key_C});
-        const auto modifier = pick<Qt::KeyboardModifiers>(
-            {Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier});
+             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T,      Qt::Key_M,
+             Qt::Key_B,   Qt::Key_L,       Qt::Key_Delete,    Qt::Key_F6,     Qt::Key_Home,
+             Qt::Key_A,   Qt::Key_C});
+        const auto modifier =
+            pick<Qt::KeyboardModifiers>({Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier,
+                                         Qt::AltModifier, Qt::ControlModifier | Qt::ShiftModifier});
         QTest::keyClick(&widget, static_cast<Qt::Key>(key), modifier);
     }
 
     void nameFile(QWidget& dialog) {
         if (auto* name = dialog.findChild<QLineEdit*>("fileNameEdit"))
-            name->setText(folder_ + pick<const char*>({"/good.opt", "/short.opt", "/noise.clb",
-                                                       "/new.clb", "/table.txt", "/report.pdf",
-                                                       "/nowhere/x.opt", "/plain", "/a.pbs", "/b",
-                                                       "/sets.csv", "/plot.png", "/plot.svg"}));
+            name->setText(folder_ +
+                          pick<const char*>({"/good.opt", "/short.opt", "/noise.clb", "/new.clb",
+                                             "/table.txt", "/report.pdf", "/nowhere/x.opt",
+                                             "/plain", "/a.pbs", "/b", "/sets.csv", "/plot.png",
+                                             "/plot.svg", "/shots.csv"}));
         QTest::keyClick(&dialog, Qt::Key_Return);
     }
 
@@ -245,6 +251,9 @@ int main(int argc, char** argv) {
     putFile(folder + "/good.opt", QByteArray(66, '\0'));
     putFile(folder + "/short.opt", "short");
     putFile(folder + "/noise.clb", QByteArray(900, '\x7F'));
+    putFile(folder + "/shots.csv",
+            "Club,Ball speed [mph],Launch angle [deg],Spin [rpm],Carry [yd]\n"
+            "7i,120,17,6500,158\nGamer,140,13,4000,\n7i,12,17,6500,9\n");
     QTextBrowser nowhere; // takes the addresses that would leave the program
     for (const char* scheme : {"http", "https", "callto"})
         QDesktopServices::setUrlHandler(scheme, &nowhere, "setSource");

@@ -217,8 +217,8 @@ constexpr std::array<Device, 14> kDevices = {{
     {"FlightScope trajectories", true, kTrajectoryMarks, kTrajectoryColumns},
     {"TrackMan", false, kTrackManMarks, kTrackManColumns},
     {"TrackMan", false, kTrackManPlainMarks, kTrackManColumns},
-    {"Parabolt", false, kOwnMeasuredMarks, kOwnColumns},
-    {"Parabolt", true, kOwnMarks, kOwnColumns},
+    {"Parabolt", false, kOwnMeasuredMarks, kOwnColumns, true},
+    {"Parabolt", true, kOwnMarks, kOwnColumns, true},
 }};
 
 } // namespace

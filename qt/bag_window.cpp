@@ -133,6 +133,7 @@ BagWindow::BagWindow(frmMain& logic, Fitting& fitting, const FormServices& servi
 BagWindow::~BagWindow() {
     if (isVisible())
         remember();
+    delete takeCentralWidget(); // its tables read what goes before it otherwise
 }
 
 void BagWindow::buildCommands() {

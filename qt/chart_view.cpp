@@ -71,7 +71,7 @@ FilePicture ChartView::onPaper() const {
             [chart](QPainter& painter, const QRectF& target) { chart->paint(painter, target); }};
 }
 
-void ChartView::paintEvent(QPaintEvent*) {
+void ChartView::paintEvent(QPaintEvent* /*event*/) {
     const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
     if (drawn_.size() != pixels) {
         drawn_ = QPixmap(pixels);

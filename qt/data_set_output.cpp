@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QInputDialog>
+#include <array>
 
 namespace parabolt {
 namespace {
@@ -29,9 +30,11 @@ std::optional<double> askDensity(QWidget& window) {
         const char* words;
         double density;
     };
-    static constexpr Choice kChoices[] = {{"As on the screen (96 per inch)", 1},
-                                          {"For documents (192 per inch)", kUsualDensity},
-                                          {"For print (300 per inch)", 3.125}};
+    static constexpr std::array<Choice, 3> kChoices = {{
+        {"As on the screen (96 per inch)", 1},
+        {"For documents (192 per inch)", kUsualDensity},
+        {"For print (300 per inch)", 3.125},
+    }};
     QInputDialog dialog(&window);
     dialog.setObjectName("exportDensity");
     dialog.setWindowTitle(toQt(kApplicationTitle));
@@ -43,7 +46,7 @@ std::optional<double> askDensity(QWidget& window) {
     dialog.setTextValue(items[1]);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return kChoices[items.indexOf(dialog.textValue())].density;
+    return kChoices.at(static_cast<std::size_t>(items.indexOf(dialog.textValue()))).density;
 }
 
 } // namespace

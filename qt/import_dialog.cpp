@@ -126,6 +126,7 @@ QWidget* ImportDialog::columnsPanel() {
     }
     for (std::size_t i = 0; i < columns_.size(); ++i)
         columns_[i].unit->setEnabled(columns_[i].unit->count() > 0);
+    cells->setRowStretch(3, 1);
     auto* room = new QScrollArea;
     room->setObjectName("importColumns");
     room->setFrameShape(QFrame::NoFrame);

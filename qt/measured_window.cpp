@@ -119,6 +119,7 @@ MeasuredWindow::MeasuredWindow(frmMain& logic, Fitting& fitting, const FormServi
 MeasuredWindow::~MeasuredWindow() {
     if (isVisible())
         remember();
+    delete takeCentralWidget(); // its tables read what goes before it otherwise
 }
 
 QAction* MeasuredWindow::add(QMenu* menu, const QString& name, const QString& text,
@@ -171,7 +172,7 @@ void MeasuredWindow::buildCommands() {
     columns->addMenu(clubsView_->columnsMenu());
 }
 
-/// Where the shots come from, and the commands most wanted.
+/// The commands most wanted, the weather, and where the shots come from.
 QWidget* MeasuredWindow::head() {
     auto* panel = new QWidget;
     auto* row = new QHBoxLayout(panel);
@@ -179,6 +180,13 @@ QWidget* MeasuredWindow::head() {
     for (const char* name :
          {"measuredImport", "measuredToDataSets", "measuredMeansToDataSets", "measuredPrint"})
         row->addWidget(buttonOf(findChild<QAction*>(name)));
+    weather_->setObjectName("measuredWeather");
+    weather_->setAccessibleName("Weather in which the shots are flown");
+    weather_->setToolTip("Weather in which the shots are flown. The file's counts where it brings "
+                         "some; the rest is the main form's.");
+    weather_->addItems({"of the main form", "of the file"});
+    row->addSpacing(12);
+    addLabelled(row, "&Weather:", weather_);
     row->addSpacing(12);
     source_->setWordWrap(false);
     source_->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -191,13 +199,6 @@ QWidget* MeasuredWindow::choices() {
     auto* panel = new QWidget;
     auto* row = new QHBoxLayout(panel);
     row->setContentsMargins({});
-    weather_->setObjectName("measuredWeather");
-    weather_->setAccessibleName("Weather in which the shots are flown");
-    weather_->setToolTip("Weather in which the shots are flown. The file's counts where it brings "
-                         "some; the rest is the main form's.");
-    weather_->addItems({"of the main form", "of the file"});
-    addLabelled(row, "&Weather:", weather_);
-    row->addSpacing(16);
     normalise_->setObjectName("measuredNormalise");
     normalise_->setToolTip(toQt(kNormalisedNote));
     row->addWidget(normalise_);

@@ -13,7 +13,7 @@ PageSheet::PageSheet(std::function<std::optional<PreviewScale>()> scale,
       scale_(std::move(scale)),
       compose_(std::move(compose)) {}
 
-void PageSheet::paintEvent(QPaintEvent*) {
+void PageSheet::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     painter.setPen(palette().color(QPalette::Mid));

@@ -220,7 +220,7 @@ void PlotReadout::takePicture() {
     paintPicture(painter, form_.Picture2, rect());
 }
 
-void PlotReadout::paintEvent(QPaintEvent*) {
+void PlotReadout::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     const double ratio = devicePixelRatioF();
     painter.drawPixmap(QRectF(-shift_ / ratio, QSizeF(picture_.size()) / ratio), picture_,

@@ -25,7 +25,7 @@ struct Desk {
     float scale = 300;                         ///< width of the plot, yards
     ClubTables clubs;
     std::vector<RunRecord> runs;  ///< the data sets in their order
-    std::vector<DataSetTag> tags; ///< of each
+    std::vector<DataSetTag> tags; ///< of each; what lacks is as at first
     int base = 1;                 ///< number of the data set with which others are compared
 
     ColouredTexts table;
@@ -34,6 +34,9 @@ struct Desk {
 
     std::string reportCaption;
     std::map<std::string, SharedText> windows; ///< state of windows that are no forms, by name
+
+    /// Of an element of the runs.
+    DataSetTag tagOf(std::size_t run) const { return run < tags.size() ? tags[run] : DataSetTag(); }
 
     friend bool operator==(const Desk&, const Desk&) = default;
 };

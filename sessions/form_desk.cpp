@@ -67,7 +67,7 @@ void layDesk(MainForm& form, const Desk& desk) {
     for (std::size_t i = 0; i < desk.runs.size(); ++i) {
         form.Runs.add();
         form.Runs.newest() = desk.runs[i];
-        form.Runs.setTag(form.Runs.count(), desk.tags.at(i));
+        form.Runs.setTag(form.Runs.count(), desk.tagOf(i));
     }
     form.Runs.setBase(desk.base);
     form.txtRun.layText(std::to_string(form.Runs.count()));

@@ -201,7 +201,7 @@ Json writeRuns(const Desk& desk) {
     Json json = Json::array();
     for (std::size_t i = 0; i < desk.runs.size(); ++i) {
         const RunRecord& run = desk.runs[i];
-        const DataSetTag& tag = desk.tags.at(i);
+        const DataSetTag tag = desk.tagOf(i);
         Json record = writeMembers(run, kRecord);
         record["CurveColor"] = writeColour(run.CurveColor);
         record["Path"] = writePath(run.Path);
