@@ -11,6 +11,7 @@
 #include "shots/fly.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <benchmark/benchmark.h>
@@ -194,6 +195,36 @@ void pressRun(benchmark::State& state) {
     }
 }
 
+/// One move of the pointer over 24 curves, to painted pixels of the whole plot; each lifts another
+/// curve than the one before. The plot fills most of a screen.
+void movePointer(benchmark::State& state) {
+    LoadedForm loaded(24);
+    MainWindow window(loaded.main);
+    window.resize(1920, 1030);
+    window.show();
+    QApplication::processEvents();
+    const RunBook& book = loaded.main.form.Runs;
+    auto* plot = window.findChild<QWidget*>("Picture2");
+    const CanvasScale& scale = loaded.main.form.Picture2.scale();
+    int number = 1;
+    const auto move = [&] {
+        number = number % book.count() + 1;
+        const auto& path = book[number].Path;
+        const TrajectoryPoint at = path[path.size() * 3 / 4];
+        const QPointF place((double{at.x} - scale.left) / scale.width * plot->width(),
+                            (double{at.y} - scale.top) / scale.height * plot->height());
+        QMouseEvent event(QEvent::MouseMove, place, plot->mapToGlobal(place), Qt::NoButton,
+                          Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(plot, &event);
+        QApplication::processEvents();
+    };
+    move();
+    for (auto _ : state)
+        move();
+    if (!window.findChild<QWidget*>("plotReadout")->isVisible())
+        state.SkipWithError("No curve has been lifted.");
+}
+
 /// What an action costs the form when it has ended and changed something: the desk with 24 data
 /// sets is taken, compared and handed to the thread that writes it. With `synced` up to the file on
 /// the disk, which the form doesn't wait for.
@@ -230,7 +261,7 @@ void mapFirstPicture(benchmark::State& state) {
         });
         QPainter painter(&image);
         constexpr double kTextPixels = 13;
-        MapPicture(map, kSize, kTextPixels, kWhite, kBlack)
+        ChartPicture(drawingOf(map), kSize, kTextPixels, kWhite, kBlack)
             .paint(painter, QRectF(QPointF(), kSize));
     }
 }
@@ -274,6 +305,7 @@ BENCHMARK(bareBatch)->Unit(benchmark::kMicrosecond);
 BENCHMARK(batch)->Unit(benchmark::kMicrosecond);
 BENCHMARK(draw)->ArgsProduct({{1, 12, 24}, {1, 2}})->Unit(benchmark::kMicrosecond);
 BENCHMARK(pressRun)->Unit(benchmark::kMillisecond)->Iterations(20);
+BENCHMARK(movePointer)->Unit(benchmark::kMicrosecond);
 BENCHMARK(keepDesk)
     ->ArgName("synced")
     ->Arg(0)

@@ -42,6 +42,7 @@ FORM = [
     ("draw/12/2", "drawing 12 data sets at twice the density", ""),
     ("draw/24/2", "drawing 24 data sets at twice the density", ""),
     ("pressRun/iterations:20", "Run with 24 data sets, click to pixels", "below 16.7 ms"),
+    ("movePointer", "the pointer over 24 curves, a move to pixels", "below 4 ms"),
     ("keepDesk/synced:0/real_time", "keeping the desk safe, 24 data sets, the form's time", "below 5 ms"),
     ("keepDesk/synced:1/real_time", "the same up to the synced file, off the form's way", ""),
     ("mapFirstPicture/1/real_time", "first picture of the carry map after a change", "below 16.7 ms"),

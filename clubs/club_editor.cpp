@@ -1,5 +1,6 @@
 #include "clubs/club_editor.h"
 
+#include "clubs/grid_paste.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 
@@ -41,7 +42,15 @@ ClubEditor::ClubEditor(ClubForm& form, ClubTables& clubs, MessageBoxes& messages
         form_.focus.give(form_.txtDescription);
         desktop.openHelp();
     });
+    for (Grid* grid : {&form_.GridIrons, &form_.GridWoods})
+        grid->Paste.connect([this, grid](const std::string& cells) { paste(*grid, cells); });
     showClubs(form_, clubs_);
+}
+
+void ClubEditor::paste(Grid& grid, const std::string& cells) {
+    settle();
+    if (!pasteCells(grid, cells))
+        messages_.show("The clipboard holds no row of numbers. Nothing has been pasted.");
 }
 
 bool ClubEditor::ValidateClubGrids() {

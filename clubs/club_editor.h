@@ -42,6 +42,7 @@ public:
     [[nodiscard]] bool queryUnload();
 
 private:
+    void paste(Grid& grid, const std::string& cells);
     void Command2_Click();
     void Command3_Click();
     void unload() const;

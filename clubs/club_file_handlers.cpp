@@ -7,6 +7,14 @@
 #include <tuple>
 
 namespace parabolt {
+namespace {
+
+// Where the name of the last clubs file is kept.
+constexpr std::string_view kStore = "Parabolt";
+constexpr std::string_view kSection = "Startup";
+constexpr std::string_view kLastFile = "LastClubsFile";
+
+} // namespace
 
 ClubFileHandlers::ClubFileHandlers(ClubForm& form, const ClubTables& clubs, ClubEditor& editor,
                                    const ClubServices& services)
@@ -15,6 +23,7 @@ ClubFileHandlers::ClubFileHandlers(ClubForm& form, const ClubTables& clubs, Club
       editor_(editor),
       messages_(services.messages),
       dialog_(services.ccrpFileDialogs1),
+      preferences_(services.preferences),
       routine_(services.ccrpFileDialogs1, services.preferences, services.messages,
                services.applicationFolder),
       showInMainForm_(services.showInMainForm) {
@@ -26,7 +35,8 @@ void ClubFileHandlers::mnuOpenClub_Click() {
     editor_.settle();
     const auto load = [this](const std::string& fileName,
                              std::string_view) -> Outcome<void, Failure> {
-        ReadClubFile(fileName);
+        if (ReadClubFile(fileName))
+            rememberFile(fileName);
         showPickedName(); // whether or not it could be read
         return {};
     };
@@ -34,14 +44,37 @@ void ClubFileHandlers::mnuOpenClub_Click() {
         messages_.show(done.why().description);
 }
 
-void ClubFileHandlers::ReadClubFile(const std::string& FileName) {
+bool ClubFileHandlers::ReadClubFile(const std::string& FileName) {
     const auto data = readFileStart(FileName, kLongestClubsFile);
-    if (!data)
-        return messages_.show(readFailureMessage(data.why()));
-    if (const auto clubs = decodeClubs(*data))
+    if (!data) {
+        messages_.show(readFailureMessage(data.why()));
+        return false;
+    }
+    const auto clubs = decodeClubs(*data);
+    if (clubs)
         showClubs(form_, *clubs);
     else
         messages_.show(kFileMismatch);
+    return static_cast<bool>(clubs);
+}
+
+bool ClubFileHandlers::readLastFile() {
+    const auto last = GetRegString(preferences_, kStore, kSection, kLastFile, "");
+    if (!last || last->empty()) {
+        messages_.show("There is no last clubs file to reopen.");
+        return false;
+    }
+    // The given way of opening would make a file where there is none any more.
+    if (const auto there = readFile(*last, 1); !there) {
+        messages_.show(*last + ": " + there.why().description);
+        return false;
+    }
+    return ReadClubFile(*last);
+}
+
+/// What the store refuses is as if no file had been picked.
+void ClubFileHandlers::rememberFile(const std::string& fileName) {
+    static_cast<void>(SaveRegString(preferences_, kStore, kSection, kLastFile, fileName));
 }
 
 void ClubFileHandlers::mnuSave_Click() {
@@ -66,6 +99,8 @@ void ClubFileHandlers::SaveClubFile() {
             return {};
         }
         if (written) {
+            if (ending == "clb")
+                rememberFile(fileName);
             showPickedName();
             showInMainForm_();
         }

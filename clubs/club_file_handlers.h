@@ -25,8 +25,11 @@ public:
                      const ClubServices& services);
 
     /// Fills grids and texts from a clubs file; the club set itself stays as it is. Tells the user
-    /// if that fails, and leaves grids and texts alone then.
-    void ReadClubFile(const std::string& FileName);
+    /// if that fails (false), and leaves grids and texts alone then.
+    bool ReadClubFile(const std::string& FileName);
+    /// Fills grids and texts from the clubs file that was opened or saved last; false, and told, if
+    /// that fails.
+    bool readLastFile();
     /// Asks for a name and writes the club set, which must have been applied before: as a clubs
     /// file or, for reading, as text. A failed write ends without a word.
     void SaveClubFile();
@@ -35,12 +38,14 @@ private:
     void mnuOpenClub_Click();
     void mnuSave_Click();
     void showPickedName();
+    void rememberFile(const std::string& fileName);
 
     ClubForm& form_;
     const ClubTables& clubs_;
     ClubEditor& editor_;
     MessageBoxes& messages_;
     FileDialog& dialog_;
+    PreferencesStore& preferences_;
     DialogRoutine routine_;
     std::function<void()> showInMainForm_;
 };

@@ -58,6 +58,7 @@ public:
     Event<int> KeyDown; ///< the key code
     Event<KeyStroke&> KeyPress;
     Event<> DblClick;
+    Event<const std::string&> Paste; ///< cells from elsewhere, between tabs and line ends
 
     /// Set by the view: text or colour of this cell have changed.
     std::function<void(int row, int col)> onCellChange;

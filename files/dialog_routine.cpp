@@ -1,5 +1,6 @@
 #include "files/dialog_routine.h"
 
+#include "files/file_access.h"
 #include "numbers/characters.h"
 
 #include <algorithm>
@@ -15,14 +16,14 @@ struct DialogRule {
     void (FileDialog::*show)();
     std::string_view title;
     std::string_view filter;
-    std::array<std::string_view, 3> endings; ///< in lower case, without a dot; all but one may lack
+    std::array<std::string_view, 4> endings; ///< in lower case, without a dot; all but one may lack
     std::string_view refusal;
 };
 
 constexpr std::string_view kCannotOpen = "The file type is not correct!";
 constexpr std::string_view kCannotSave = "The file type is not support!";
 
-constexpr std::array<DialogRule, 9> kRules{{
+constexpr std::array<DialogRule, 14> kRules{{
     {DialogPurpose::OpenParameters,
      &FileDialog::showOpen,
      "Open Parameters File",
@@ -77,6 +78,37 @@ constexpr std::array<DialogRule, 9> kRules{{
      "Session(*.pbs)|*.pbs",
      {"pbs"},
      kCannotSave},
+    {DialogPurpose::ExportTable,
+     &FileDialog::showSave,
+     "Export Table",
+     "Comma-Separated Values(*.csv)|*.csv",
+     {"csv"},
+     kCannotSave},
+    {DialogPurpose::ExportPaths,
+     &FileDialog::showSave,
+     "Export Paths",
+     "Comma-Separated Values(*.csv)|*.csv",
+     {"csv"},
+     kCannotSave},
+    {DialogPurpose::ExportPlot,
+     &FileDialog::showSave,
+     "Export Plot",
+     "PNG Picture(*.png)|*.png|SVG Drawing(*.svg)|*.svg|PDF Document(*.pdf)|*.pdf",
+     {"png", "svg", "pdf"},
+     kCannotSave},
+    {DialogPurpose::ImportShots,
+     &FileDialog::showOpen,
+     "Import Launch Monitor File",
+     "Launch Monitor Files|*.csv *.txt *.tsv",
+     {"csv", "txt", "tsv"},
+     kCannotOpen},
+    {DialogPurpose::ExportTableOrChart,
+     &FileDialog::showSave,
+     "Export Table Or Chart",
+     "Table As Comma-Separated Values(*.csv)|*.csv|Chart As PNG Picture(*.png)|*.png|"
+     "Chart As SVG Drawing(*.svg)|*.svg|Chart As PDF Document(*.pdf)|*.pdf",
+     {"csv", "png", "svg", "pdf"},
+     kCannotSave},
 }};
 
 constexpr std::string_view kAppName = "Parabolt";
@@ -125,6 +157,18 @@ Outcome<void, Failure> DialogRoutine::run(DialogPurpose purpose, const Work& wor
     if (saved)
         dialog_.initialFolder.clear();
     return saved;
+}
+
+void DialogRoutine::save(DialogPurpose purpose, std::string_view suggestedName,
+                         const Compose& compose) {
+    const auto write = [&compose](const std::string& fileName,
+                                  std::string_view ending) -> Outcome<void, Failure> {
+        if (const auto bytes = compose(ending))
+            return replaceFile(fileName, *bytes);
+        return {};
+    };
+    if (const auto done = run(purpose, write, suggestedName); !done)
+        messages_.show(done.why().description);
 }
 
 std::string_view readFailureMessage(const Failure& failure) {

@@ -4,6 +4,7 @@
 #include "files/preferences.h"
 
 #include <functional>
+#include <optional>
 #include <string_view>
 
 namespace parabolt {
@@ -19,6 +20,11 @@ enum class DialogPurpose {
     SaveMapTable,
     OpenSession,
     SaveSession,
+    ExportTable,
+    ExportPaths,
+    ExportPlot,
+    ImportShots,
+    ExportTableOrChart,
 };
 
 /// What all file dialogs of the program have in common: they start in the folder where the last one
@@ -41,6 +47,11 @@ public:
     /// names that it gives have endings then.
     Outcome<void, Failure> run(DialogPurpose purpose, const Work& work,
                                std::string_view suggestedName = {});
+
+    /// Makes the bytes of a file with this ending; nothing if there is to be no file after all.
+    using Compose = std::function<std::optional<std::string>(std::string_view ending)>;
+    /// Replaces the content of the file that the user names. A failure is shown.
+    void save(DialogPurpose purpose, std::string_view suggestedName, const Compose& compose);
 
 private:
     FileDialog& dialog_;

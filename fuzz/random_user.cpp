@@ -20,6 +20,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -61,11 +62,18 @@ private:
         return *(list.begin() + roll(static_cast<int>(list.size())));
     }
 
-    static QWidget* front() {
+    /// Of the windows beside the main form one now and then, where it is open.
+    QWidget* front() {
         if (QWidget* popup = QApplication::activePopupWidget())
             return popup;
         if (QWidget* modal = QApplication::activeModalWidget())
             return modal;
+        const auto wanted =
+            roll(3) == 0 ? pick<const char*>({"carryMap", "dataSets", "measuredShots", "bag"})
+                         : "frmMain";
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (window->objectName() == wanted && window->isVisible())
+                return window;
         for (QWidget* window : QApplication::topLevelWidgets())
             if (window->objectName() == "frmMain") {
                 if (!window->isVisible()) // it was closed; so the user starts again
@@ -138,9 +146,12 @@ private:
              Qt::Key_Up,  Qt::Key_Down,    Qt::Key_Left,      Qt::Key_Right,  Qt::Key_F2,
              Qt::Key_F5,  Qt::Key_F10,     Qt::Key_Backspace, Qt::Key_R,      Qt::Key_D,
              Qt::Key_P,   Qt::Key_S,       Qt::Key_O,         Qt::Key_E,      Qt::Key_Y,
-             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T});
-        const auto modifier = pick<Qt::KeyboardModifiers>(
-            {Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier, Qt::AltModifier});
+             Qt::Key_N,   Qt::Key_7,       Qt::Key_Z,         Qt::Key_T,      Qt::Key_M,
+             Qt::Key_B,   Qt::Key_L,       Qt::Key_Delete,    Qt::Key_F6,     Qt::Key_Home,
+             Qt::Key_A,   Qt::Key_C});
+        const auto modifier =
+            pick<Qt::KeyboardModifiers>({Qt::NoModifier, Qt::NoModifier, Qt::ControlModifier,
+                                         Qt::AltModifier, Qt::ControlModifier | Qt::ShiftModifier});
         QTest::keyClick(&widget, static_cast<Qt::Key>(key), modifier);
     }
 
@@ -149,7 +160,8 @@ private:
             name->setText(folder_ +
                           pick<const char*>({"/good.opt", "/short.opt", "/noise.clb", "/new.clb",
                                              "/table.txt", "/report.pdf", "/nowhere/x.opt",
-                                             "/plain", "/a.pbs", "/b"}));
+                                             "/plain", "/a.pbs", "/b", "/sets.csv", "/plot.png",
+                                             "/plot.svg", "/shots.csv"}));
         QTest::keyClick(&dialog, Qt::Key_Return);
     }
 
@@ -159,10 +171,16 @@ private:
         const int sets = form_.Runs.count();
         require(sets == runNumber(form_), "the counter shows another number of data sets");
         require(sets <= 24, "there are more than 24 data sets");
-        if (desks_ == nullptr && !form_.Timer1.enabled() &&
-            QApplication::activeModalWidget() == nullptr)
+        if (form_.Timer1.enabled() || QApplication::activeModalWidget() != nullptr)
+            return;
+        if (desks_ == nullptr)
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
+        const auto& shapes = form_.Picture2.drawings();
+        const auto curves = std::count_if(shapes.begin(), shapes.end(), [](const Drawing& drawing) {
+            return std::holds_alternative<DrawnCurve>(drawing);
+        });
+        require(curves == std::ssize(form_.Runs.ticked()), "the plot shows other data sets");
     }
     void tellDesk(const char* what) const {
         if (desks_ == nullptr)
@@ -233,6 +251,9 @@ int main(int argc, char** argv) {
     putFile(folder + "/good.opt", QByteArray(66, '\0'));
     putFile(folder + "/short.opt", "short");
     putFile(folder + "/noise.clb", QByteArray(900, '\x7F'));
+    putFile(folder + "/shots.csv",
+            "Club,Ball speed [mph],Launch angle [deg],Spin [rpm],Carry [yd]\n"
+            "7i,120,17,6500,158\nGamer,140,13,4000,\n7i,12,17,6500,9\n");
     QTextBrowser nowhere; // takes the addresses that would leave the program
     for (const char* scheme : {"http", "https", "callto"})
         QDesktopServices::setUrlHandler(scheme, &nowhere, "setSource");

@@ -6,6 +6,7 @@
 #include "controls/rich_text_box.h"
 #include "controls/simple_controls.h"
 #include "controls/text_box.h"
+#include "numbers/shared_text.h"
 #include "plots/curves.h"
 #include "shots/run_book.h"
 
@@ -146,11 +147,20 @@ struct MenuControls : virtual FormCore {
     MenuItem mnuReopenSession{controls, "mnuReopenSession", "Reopen &Last Session"};
     MenuItem mnuGoBack{controls, "mnuGoBack", "Go &Back"};
     MenuItem mnuRewriteTable{controls, "mnuRewriteTable", "Rewrite &Table"};
+    MenuItem mnuExportTable{controls, "mnuExportTable", "Export T&able..."};
+    MenuItem mnuExportPaths{controls, "mnuExportPaths", "Export Pat&hs..."};
+    MenuItem mnuExportPlot{controls, "mnuExportPlot", "Export Plot..."};
+    MenuItem mnuCopyTable{controls, "mnuCopyTable", "&Copy Table"};
+    MenuItem mnuCopyPlot{controls, "mnuCopyPlot", "Cop&y Plot"};
+    MenuItem mnuReopenClubs{controls, "mnuReopenClubs", "Reopen Last Cl&ubs File"};
     MenuItem mnuDefault{controls, "mnuDefault", "&DefaultClub"};
     MenuItem mnuStudies{controls, "mnuStudies", "&Studies", WhileBusy::Free};
     MenuItem mnuStyLaunch{controls, "mnuStyLaunch", "Launch &Angle"};
     MenuItem mnuStySpin{controls, "mnuStySpin", "Spin &Rate"};
     MenuItem mnuStyMap{controls, "mnuStyMap", "Carry &Map...", WhileBusy::Free};
+    MenuItem mnuDataSets{controls, "mnuDataSets", "&Data Sets...", WhileBusy::Free};
+    MenuItem mnuMeasured{controls, "mnuMeasured", "M&easured Shots...", WhileBusy::Free};
+    MenuItem mnuBag{controls, "mnuBag", "&Bag...", WhileBusy::Free};
     MenuItem mnuReset{controls, "mnuReset", "&Reset"};
     MenuItem Help{controls, "Help", "&Help", WhileBusy::Free};
     MenuItem mnuHelp{controls, "mnuHelp", "&Help", WhileBusy::Free};
@@ -167,7 +177,7 @@ struct MainForm : InputControls, ResultControls, MenuControls {
     std::string reportCaption;      ///< what was typed last into `txtCaption` of the print view
     bool reportCaptionLaid = false; ///< it came with a desk: the next print view begins with it
     /// State of windows that are no forms, by the names of the windows; each knows its own.
-    std::map<std::string, std::string> windows;
+    std::map<std::string, SharedText> windows;
     bool blFormLoaded = false; ///< read by the splash: is there a main form already?
     std::string caption{kApplicationTitle};
     std::function<void()> onCaption; ///< set by the view

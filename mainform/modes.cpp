@@ -118,6 +118,13 @@ void Modes::txtMode_Change() {
     walkModeTable(form_, [this] { clubs_.cmbClubNo_Click(); });
 }
 
+OptionButton& modeButton(ShotControls& form, int mode) {
+    constexpr std::array<OptionButton ShotControls::*, 5> kButtons = {
+        &ShotControls::optLaunch, &ShotControls::optStandard, &ShotControls::optManual,
+        &ShotControls::optAuto, &ShotControls::optActual};
+    return form.*kButtons.at(static_cast<std::size_t>(mode));
+}
+
 void enableForMode(ShotControls& form) {
     walkModeTable(form, [] {});
 }

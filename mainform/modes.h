@@ -26,6 +26,9 @@ private:
     ClubChoice& clubs_;
 };
 
+/// The button of a mode, 0 to 4.
+OptionButton& modeButton(ShotControls& form, int mode);
+
 /// Enables and disables the controls for the mode in `txtMode`, and does nothing else.
 void enableForMode(ShotControls& form);
 

@@ -1,6 +1,6 @@
 #include "mainform/plot_panel.h"
 
-#include "numbers/text_number.h"
+#include "sets/data_set_words.h"
 
 namespace parabolt {
 
@@ -23,8 +23,15 @@ void PlotPanel::DrawPlotFrame() {
 void PlotPanel::DrawCurves() {
     if (runNumber(run_) < 1)
         return;
-    if (const auto drawn = parabolt::DrawCurves(results_.screenPlot(), run_.Runs.records()); !drawn)
+    if (const auto drawn =
+            parabolt::DrawCurves(results_.screenPlot(), run_.Runs.records(), run_.Runs.ticked());
+        !drawn)
         messages_.show(drawn.why());
+}
+
+void PlotPanel::redraw() {
+    DrawPlotFrame();
+    DrawCurves();
 }
 
 void PlotPanel::PreparePrintPlots() {
@@ -33,15 +40,19 @@ void PlotPanel::PreparePrintPlots() {
     results_.Picture4.setGeometry({390, 420, inner.width, inner.height});
     DrawPrintFrame(results_.printPlot(), run_.sRange);
     if (runNumber(run_) >= 1)
-        DrawPrintCurves(results_.printPlot(), run_.Runs.records());
+        DrawPrintCurves(results_.printPlot(), run_.Runs.records(), run_.Runs.ticked());
+}
+
+void PlotPanel::tellNewest() {
+    const int newest = run_.Runs.count();
+    results_.StatusBar1.setCaption(newest == 0 ? "" : "Data set " + wordsOf(run_.Runs, newest));
 }
 
 std::string PlotPanel::inWords() const {
     const int count = run_.Runs.count();
     std::string words = std::to_string(count) + (count == 1 ? " data set." : " data sets.");
     for (int number = 1; number <= count; ++number)
-        words += " " + std::to_string(number) + ": carry " +
-                 formatPattern(run_.Runs[number].CarryDist, "0") + " yards.";
+        words += " " + wordsOf(run_.Runs, number) + ".";
     return words;
 }
 

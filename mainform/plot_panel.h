@@ -21,12 +21,16 @@ public:
 
     /// Erases the plot and draws its frame at the scale `sRange`.
     void DrawPlotFrame();
-    /// Draws all data sets, and their legend, over the frame. A failure is shown.
+    /// Draws the ticked data sets, and their legend, over the frame. A failure is shown.
     void DrawCurves();
+    /// Both: the plot anew.
+    void redraw();
     /// Gives the print twin the present geometry and draws it completely.
     void PreparePrintPlots();
-    /// What the plot shows, in words: the number of data sets, and the carry of each.
+    /// What the plot shows, in words: the number of data sets, and what came of each.
     std::string inWords() const;
+    /// Tells in the status bar what came of the newest data set; nothing where there is none.
+    void tellNewest();
 
 private:
     RunControls& run_;

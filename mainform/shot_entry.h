@@ -21,11 +21,21 @@ public:
     bool enterLaunch(const ShotInputs& shot);
     /// Swing and club of a shot, in the mode Manual.
     bool enterSwing(const ShotInputs& shot);
+    /// All that a shot was flown with: club, ball and weather, and the launch or the swing in its
+    /// mode. A shot of the mode Auto, which flies whole sets, is entered in the mode Manual; one
+    /// whose ball nobody knows keeps the ball of the form.
+    bool enterShot(const Shot& shot);
+    /// Weather and altitude of a shot; the mode stays.
+    bool enterAir(const ShotInputs& shot);
 
 private:
     struct Field;
-    bool enter(OptionButton& option, OperatingMode::Number mode, std::span<const Field> fields,
-               const ShotInputs& shot);
+    using Fields = std::span<const Field>;
+    bool ready(Fields fields, const ShotInputs& shot);
+    void choose(OperatingMode::Number mode);
+    void chooseClub(const Shot& shot);
+    void write(Fields fields, const ShotInputs& shot);
+    bool enter(OperatingMode::Number mode, Fields fields, const ShotInputs& shot);
 
     InputControls& form_;
     Control& rest_;

@@ -90,8 +90,7 @@ void Validators::store(const FieldRule& rule, double value) {
 
 void Validators::rescale(float RunControls::*scale, float yards) {
     form_.*scale = yards;
-    plot_.DrawPlotFrame();
-    plot_.DrawCurves();
+    plot_.redraw();
 }
 
 } // namespace parabolt

@@ -32,10 +32,4 @@ Rgb scaleColour(double share) {
     return {mix(from.red, to.red), mix(from.green, to.green), mix(from.blue, to.blue)};
 }
 
-Rgb inkOn(Rgb ground) {
-    // Luma by the weights of ITU-R BT.601.
-    const double luma = 0.299 * ground.red + 0.587 * ground.green + 0.114 * ground.blue;
-    return luma < 128 ? kWhite : kBlack;
-}
-
 } // namespace parabolt

@@ -12,7 +12,4 @@ inline constexpr Rgb kNoValue{160, 160, 160};
 /// Nathaniel Smith (CC0), by ten of its points.
 Rgb scaleColour(double share);
 
-/// Black or white, whichever can be read on a colour.
-Rgb inkOn(Rgb ground);
-
 } // namespace parabolt

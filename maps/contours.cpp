@@ -115,23 +115,4 @@ std::vector<Contour> contoursOf(const ValueField& field, double level) {
     return Marcher(field, level).march();
 }
 
-double roundStep(double range, int most) {
-    if (!(range > 0))
-        return 1;
-    const double least = range / most;
-    const double power = std::pow(10, std::floor(std::log10(least)));
-    for (const double factor : {1, 2, 5})
-        if (factor * power >= least)
-            return factor * power;
-    return 10 * power;
-}
-
-std::vector<double> roundValues(double low, double high, double step) {
-    constexpr double kSlack = 1e-9;
-    std::vector<double> values;
-    for (double i = std::ceil(low / step - kSlack); i <= high / step + kSlack; ++i)
-        values.push_back(i * step);
-    return values;
-}
-
 } // namespace parabolt

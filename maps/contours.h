@@ -13,10 +13,4 @@ using Contour = std::vector<MapPoint>;
 /// share of the way. Where a corner has no value there is no line.
 std::vector<Contour> contoursOf(const ValueField& field, double level);
 
-/// The round step, 1, 2 or 5 times a power of ten, that divides a range into at most `most` parts.
-double roundStep(double range, int most);
-
-/// The whole multiples of a step from `low` to `high`.
-std::vector<double> roundValues(double low, double high, double step);
-
 } // namespace parabolt

@@ -6,6 +6,7 @@
 #include "maps/map_words.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
+#include "plots/chart_parts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -27,15 +28,8 @@ constexpr double kImagePixel = 30; ///< of the coloured ground
 constexpr double kMarkRadius = 130;
 constexpr double kDotRadius = 45;
 constexpr double kRingRadius = 200; ///< around the present setting
-constexpr double kRim = 15;         ///< around a mark
 constexpr int kBarPixels = 128;
 constexpr int kMostLevels = 12; ///< about as many contours
-
-constexpr Place kLeftMiddle{0, 0.5};
-constexpr Place kRightMiddle{1, 0.5};
-constexpr Place kMiddle{0.5, 0.5};
-constexpr Place kTopMiddle{0.5, 0};
-constexpr Place kBottomMiddle{0.5, 1};
 
 /// A round value with as many decimals as it needs.
 std::string label(double value) {
@@ -265,7 +259,7 @@ private:
         };
         for (const auto& [degree, at] : degrees) {
             if (degree % every(kDotsApart) == 0)
-                disc(at, kDotRadius, kWhite, kBlack);
+                drawDisc(canvas_, at, kDotRadius, kWhite, kBlack);
             // A map of lofts has the numbers on its axis.
             if (kind == MapKind::Launch && degree % every(kNumbersApart) == 0)
                 name({at.x + 2 * kTextGap, at.y + kTextGap}, std::to_string(degree), {0, 0.2});
@@ -286,29 +280,16 @@ private:
         if (!frame_.holds(point))
             return;
         const Place at = frame_.place(point);
-        disc(at, 2 * kDotRadius, kWhite, kBlack);
+        drawDisc(canvas_, at, 2 * kDotRadius, kWhite, kBlack);
         name({at.x - 3 * kTextGap, at.y - 2 * kTextGap},
              "best loft " + label(best->loft) + "\u00b0", {1, 1});
-    }
-
-    /// A disc with a rim, which shows on any ground.
-    void disc(Place at, double radius, Rgb colour, Rgb rim) {
-        filled(at, radius + kRim, rim);
-        filled(at, radius, colour);
-    }
-
-    /// A ring whose pen closes it.
-    void filled(Place at, double radius, Rgb colour) {
-        const double pixels = std::ceil(radius / kTwipsPerPixel);
-        pen(colour, static_cast<int>(pixels));
-        canvas_.circle(at, radius - pixels * kTwipsPerPixel / 2);
     }
 
     void dataSet(const DataMark& mark) {
         if (!frame_.holds(mark.point))
             return;
         const Place at = frame_.place(mark.point);
-        disc(at, kMarkRadius, mark.colour, inkOn(mark.colour));
+        drawDisc(canvas_, at, kMarkRadius, mark.colour, inkOn(mark.colour));
         pen(inkOn(mark.colour));
         canvas_.label(at, std::to_string(mark.number), kMiddle);
     }

@@ -1,10 +1,7 @@
 #pragma once
 
 #include "maps/map_result.h"
-
-#include <condition_variable>
-#include <mutex>
-#include <thread>
+#include "shots/background.h"
 
 namespace parabolt {
 
@@ -15,29 +12,14 @@ public:
     /// `deliver` is called on the worker's thread, with the passes of a request in their order. One
     /// that is under way when a new request comes may still arrive: its generation tells.
     explicit MapWorker(DeliverMap deliver);
-    /// Ends the work and waits for the flight in hand.
-    ~MapWorker();
-    MapWorker(const MapWorker&) = delete;
-    MapWorker& operator=(const MapWorker&) = delete;
 
     /// Never waits.
     void begin(const MapRequest& request, std::uint64_t generation);
-    void cancel();
+    void cancel() { background_.cancel(); }
 
 private:
-    struct Job {
-        MapRequest request;
-        std::uint64_t generation;
-        std::stop_token stop;
-    };
-    void work(const std::stop_token& end);
-
     DeliverMap deliver_;
-    std::mutex mutex_;
-    std::condition_variable_any changed_;
-    std::optional<Job> next_;
-    std::stop_source current_{std::nostopstate}; ///< of the newest job
-    std::jthread thread_;                        ///< last: it works on all of the above
+    Background background_; ///< last: it works on the above
 };
 
 } // namespace parabolt

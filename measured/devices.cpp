@@ -171,7 +171,11 @@ constexpr std::array<DeviceColumn, 7> kGsProColumns = {{
 
 constexpr std::array<std::string_view, 3> kOwnMarks = {
     shot_columns::kBallSpeed, shot_columns::kLaunchAngle, shot_columns::kSpin};
-constexpr std::array<DeviceColumn, 14> kOwnColumns = {{
+// The table of measured shots holds the device's figures beside the model's.
+constexpr std::array<std::string_view, 4> kOwnMeasuredMarks = {
+    shot_columns::kBallSpeed, shot_columns::kLaunchAngle, shot_columns::kSpin,
+    "Measured carry [yd]"};
+constexpr std::array<DeviceColumn, 24> kOwnColumns = {{
     {shot_columns::kClub, Quantity::Club, None},
     {shot_columns::kBallSpeed, Quantity::BallSpeed, Mph},
     {shot_columns::kLaunchAngle, Quantity::LaunchAngle, Degrees},
@@ -186,11 +190,21 @@ constexpr std::array<DeviceColumn, 14> kOwnColumns = {{
     {shot_columns::kTemperature, Quantity::Temperature, Fahrenheit},
     {shot_columns::kPressure, Quantity::SeaLevelPressure, InchesOfMercury},
     {shot_columns::kHumidity, Quantity::Humidity, Percent},
+    {"Measured carry [yd]", Quantity::Carry, Yards},
+    {"Measured total [yd]", Quantity::Total, Yards},
+    {"Measured height [yd]", Quantity::Height, Yards},
+    {"Measured landing angle [deg]", Quantity::LandingAngle, Degrees},
+    {"Measured time [s]", Quantity::Time, Seconds},
+    {"Device carry [yd]", Quantity::Carry, Yards},
+    {"Device total [yd]", Quantity::Total, Yards},
+    {"Device height [yd]", Quantity::Height, Yards},
+    {"Device landing angle [deg]", Quantity::LandingAngle, Degrees},
+    {"Device time [s]", Quantity::Time, Seconds},
 }};
 
 // name, computes its carry, marks, columns. Where the marks of one are among those of another, the
 // one with more stands first.
-constexpr std::array<Device, 13> kDevices = {{
+constexpr std::array<Device, 14> kDevices = {{
     {"Garmin", true, kGarminMarks, kGarminColumns},
     {"Garmin", true, kGarminGermanMarks, kGarminGermanColumns},
     {"Rapsodo MLM2PRO", true, kRapsodoMarks, kRapsodoColumns},
@@ -203,7 +217,8 @@ constexpr std::array<Device, 13> kDevices = {{
     {"FlightScope trajectories", true, kTrajectoryMarks, kTrajectoryColumns},
     {"TrackMan", false, kTrackManMarks, kTrackManColumns},
     {"TrackMan", false, kTrackManPlainMarks, kTrackManColumns},
-    {"Parabolt", true, kOwnMarks, kOwnColumns},
+    {"Parabolt", false, kOwnMeasuredMarks, kOwnColumns, true},
+    {"Parabolt", true, kOwnMarks, kOwnColumns, true},
 }};
 
 } // namespace

@@ -22,6 +22,8 @@ struct Device {
     /// Headings that its row of headings must have, in any order and letters.
     std::span<const std::string_view> marks;
     std::span<const DeviceColumn> columns;
+    bool plainNumbers =
+        false; ///< as the program writes them: a point never stands between thousands
 };
 /// All that are known; the first whose marks stand in a row recognises it.
 std::span<const Device> devices();

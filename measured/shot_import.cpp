@@ -91,9 +91,10 @@ public:
 
     /// Columns are given where the rows begin without headings.
     ShotRows(const ShotFile& file, FindColumns findColumns, Units units,
-             std::vector<ColumnMeaning> columns = {})
+             std::vector<ColumnMeaning> columns = {}, bool plainNumbers = false)
         : findColumns_(std::move(findColumns)),
           units_(units),
+          plainNumbers_(plainNumbers),
           decimalComma_(hasDecimalCommas(file)),
           columns_(std::move(columns)) {
         for (const CsvRow& row : file.rows)
@@ -158,6 +159,7 @@ private:
 
     FindColumns findColumns_;
     Units units_;
+    bool plainNumbers_;
     bool decimalComma_;
     std::vector<ColumnMeaning> columns_;
     bool unitsMayFollow_ = false;
@@ -167,7 +169,8 @@ private:
 
 Reading ShotRows::read(const CsvRow& row, Quantity quantity) const {
     const QuantityText& text = textOf(quantity);
-    const bool whole = quantity == Quantity::BackSpin || quantity == Quantity::TotalSpin;
+    const bool whole =
+        !plainNumbers_ && (quantity == Quantity::BackSpin || quantity == Quantity::TotalSpin);
     Reading reading;
     for (const ColumnMeaning& column : columns_) {
         const std::string_view cell = cellOf(row, column.column);
@@ -276,7 +279,7 @@ ImportPreview previewOf(const ShotFile& file, const Device& device) {
         return columnsBelow(row, device);
     };
     return {std::string(device.name), device.computesCarry,
-            ShotRows(file, find, ShotRows::Units::OfFile).rows()};
+            ShotRows(file, find, ShotRows::Units::OfFile, {}, device.plainNumbers).rows()};
 }
 
 ImportPreview previewOf(const ShotFile& file, const ColumnChoice& choice) {

@@ -4,6 +4,7 @@
 #include "engine/shot_state.h"
 #include "numbers/rgb.h"
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -132,5 +133,9 @@ private:
     int drawWidth_ = 1;
     std::vector<Drawing> drawings_;
 };
+
+/// Draws a chart on an empty canvas that has its size, in twips. The canvas's fore colour is that
+/// of axes and texts, of which a line is some 200 twips high.
+using DrawChart = std::function<void(PictureBox&)>;
 
 } // namespace parabolt

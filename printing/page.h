@@ -36,6 +36,8 @@ public:
     virtual void Box(Place corner, Place opposite) = 0;
     /// The plot with its inner canvas set into the outer one, stretched over a rectangle.
     virtual void PaintPlot(const PlotCanvases& plot, Place corner, Place size) = 0;
+    /// A single canvas, likewise.
+    virtual void paintPicture(const PictureBox& picture, Place corner, Place size) = 0;
 };
 
 } // namespace parabolt

@@ -16,6 +16,7 @@ public:
 
     /// While it is busy nothing counts as done. When it no longer is, what went before has ended.
     void setBusy(bool busy);
+    bool busy() const { return busy_; }
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

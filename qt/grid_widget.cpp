@@ -2,6 +2,8 @@
 
 #include "qt/text.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -213,11 +215,23 @@ bool GridBinding::eventFilter(QObject* watched, QEvent* event) {
         return false;
     case QEvent::KeyPress: {
         const auto& key = *static_cast<QKeyEvent*>(event);
+        if (key.matches(QKeySequence::Paste) && pasteCells(ofEdit))
+            return true;
         return !isCommand(key) && (ofEdit ? editKey(key) : gridKey(key));
     }
     default:
         return false;
     }
+}
+
+/// Pastes cells of a spreadsheet; a text without tabs or lines goes into an open edit box (false).
+bool GridBinding::pasteCells(bool ofEdit) {
+    const QString text = QGuiApplication::clipboard()->text();
+    if (text.isEmpty() ||
+        (ofEdit && !text.trimmed().contains('\t') && !text.trimmed().contains('\n')))
+        return false;
+    grid_.Paste(fromQt(text));
+    return true;
 }
 
 /// True if the table must not see the key: it would search for what is typed.

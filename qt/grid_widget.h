@@ -30,6 +30,7 @@ private:
     void showCurrent();
     void showCell(int row, int col);
     void placeEdit();
+    bool pasteCells(bool ofEdit);
     bool gridKey(const QKeyEvent& key);
     bool editKey(const QKeyEvent& key);
 

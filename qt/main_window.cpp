@@ -1,8 +1,11 @@
 #include "qt/main_window.h"
 
 #include "controls/units.h"
+#include "qt/column_tips.h"
+#include "qt/data_set_output.h"
 #include "qt/form_binding.h"
 #include "qt/picture_widget.h"
+#include "qt/plot_readout.h"
 #include "qt/rich_text_binding.h"
 #include "qt/text.h"
 
@@ -111,7 +114,9 @@ MainWindow::MainWindow(frmMain& logic)
     binding_->settleBefore(*menuBar());
     tableBinding_ = std::make_unique<RichTextBinding>(logic.form.txtResult,
                                                       *findChild<QPlainTextEdit*>("txtResult"));
+    new ColumnTips(*findChild<QPlainTextEdit*>("txtResult"));
     connectLogic();
+    output_ = std::make_unique<DataSetOutput>(logic, *this);
     describePlot();
 
     setLeastSize();
@@ -133,7 +138,8 @@ void MainWindow::showKeeping(const QString& trouble) {
 void MainWindow::buildPlots() {
     auto* outer = new PictureWidget(logic_.form.Picture1, centre_);
     outer->setAccessibleName("Plot of the flights");
-    new PictureWidget(logic_.form.Picture2, outer);
+    auto* inner = new PictureWidget(logic_.form.Picture2, outer);
+    readout_ = new PlotReadout(logic_.form, *outer, *inner);
 }
 
 void MainWindow::buildMenus() {
@@ -152,12 +158,16 @@ void MainWindow::buildMenus() {
     file->addSeparator();
     add(file, form.mnuExit, Qt::CTRL | Qt::Key_Q);
     addSessionMenus(*file);
+    addExportMenus(*file);
     add(menuBar(), form.mnuDefault, Qt::CTRL | Qt::Key_D);
     QMenu* studies = addMenu(form.mnuStudies);
     add(studies, form.mnuStyLaunch);
     add(studies, form.mnuStySpin);
     studies->addSeparator();
     add(studies, form.mnuStyMap, Qt::CTRL | Qt::Key_M);
+    add(studies, form.mnuDataSets, Qt::CTRL | Qt::Key_L);
+    add(studies, form.mnuMeasured, Qt::CTRL | Qt::SHIFT | Qt::Key_M);
+    add(studies, form.mnuBag, Qt::CTRL | Qt::Key_B);
     add(menuBar(), form.mnuReset, Qt::CTRL | Qt::Key_R);
     QMenu* help = addMenu(form.Help);
     add(help, form.mnuHelp, Qt::Key_F1);
@@ -177,12 +187,28 @@ void MainWindow::addSessionMenus(QMenu& file) {
         ->setToolTip("Saves all that is on the desk: fields, clubs, data sets, table");
     add(&file, form.mnuReopenSession, Qt::CTRL | Qt::SHIFT | Qt::Key_T)
         ->setToolTip("Lays on the desk what was there when the program last ended");
+    add(&file, form.mnuReopenClubs, Qt::CTRL | Qt::SHIFT | Qt::Key_D)
+        ->setToolTip("Takes the set of the clubs file that was opened or saved last");
     file.addSeparator();
     // A field takes these keys for itself: there they take back what was typed.
     add(&file, form.mnuGoBack, QKeySequence::Undo)
         ->setToolTip("Brings back the desk from before the last change that wiped something");
     add(&file, form.mnuRewriteTable, Qt::CTRL | Qt::Key_T)
         ->setToolTip("Writes the rows of all data sets anew, in order, under their headings");
+}
+
+/// What takes the data sets out.
+void MainWindow::addExportMenus(QMenu& file) {
+    const MainForm& form = logic_.form;
+    file.addSeparator();
+    add(&file, form.mnuExportTable)
+        ->setToolTip("Writes all that is known of each data set as comma-separated values");
+    add(&file, form.mnuExportPaths)
+        ->setToolTip("Writes time, x and y of each point of each flight likewise");
+    add(&file, form.mnuExportPlot)->setToolTip("Writes the plot as PNG, SVG or PDF");
+    add(&file, form.mnuCopyTable, Qt::CTRL | Qt::SHIFT | Qt::Key_C)
+        ->setToolTip("Puts all data sets on the clipboard, for a text or a spreadsheet");
+    add(&file, form.mnuCopyPlot)->setToolTip("Puts a picture of the plot on the clipboard");
 }
 
 void MainWindow::connectLogic() {
@@ -200,8 +226,12 @@ void MainWindow::connectLogic() {
         menuBar()->setFocus(Qt::MenuBarFocusReason);
         menuBar()->setActiveAction(menuBar()->actions().first());
     });
-    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this,
-            [this] { logic_.pause.stop(); });
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] {
+        logic_.pause.stop();
+        readout_->clear();
+    });
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { walkPlot(); });
+    logic_.form.StatusBar1.onViewChange = [this] { showOutcome(); };
 
     const auto showCaption = [this] { setWindowTitle(toQt(logic_.form.caption)); };
     logic_.form.onCaption = showCaption;
@@ -215,7 +245,7 @@ void MainWindow::connectLogic() {
         if (running)
             statusBar()->showMessage("Press Esc to stop.");
         else
-            statusBar()->clearMessage();
+            showOutcome();
         // Rows go where the caret stands: it stays until the last has been written.
         findChild<QPlainTextEdit*>("txtResult")
             ->setTextInteractionFlags(running ? Qt::NoTextInteraction : Qt::TextEditorInteraction);
@@ -235,6 +265,29 @@ void MainWindow::runInPlace() {
         SelectWholeText(*field);
 }
 
+/// What came of the newest data set, once nothing runs any more.
+void MainWindow::showOutcome() {
+    if (!watch_.busy())
+        statusBar()->showMessage(toQt(logic_.form.StatusBar1.caption()));
+}
+
+/// Lets the keys walk along the curves, or goes back to where they were before.
+void MainWindow::walkPlot() {
+    QWidget* plot = findChild<QWidget*>(toQt(logic_.form.Picture1.name()));
+    if (plot->hasFocus() && readout_->isVisible()) {
+        readout_->clear();
+        if (beforePlot_ != nullptr)
+            beforePlot_->setFocus(Qt::ShortcutFocusReason);
+        return;
+    }
+    QWidget* before = focusWidget();
+    if (!binding_->settle())
+        return;
+    beforePlot_ = before;
+    plot->setFocus(Qt::ShortcutFocusReason);
+    readout_->begin();
+}
+
 /// Tells what the plot shows to those who can't see it, once a change has been drawn completely.
 void MainWindow::describePlot() {
     auto* drawn = new QTimer(this);
@@ -244,9 +297,10 @@ void MainWindow::describePlot() {
             ->setAccessibleDescription(toQt(logic_.plot.inWords()));
     });
     PictureBox& curves = logic_.form.Picture2;
-    curves.onViewChange = [repaint = curves.onViewChange, drawn] {
+    curves.onViewChange = [this, repaint = curves.onViewChange, drawn] {
         repaint();
         drawn->start(0);
+        readout_->clear();
     };
     curves.onViewChange();
 }

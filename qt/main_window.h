@@ -11,7 +11,9 @@ class QLabel;
 
 namespace parabolt {
 
+class DataSetOutput;
 class FormBinding;
+class PlotReadout;
 class RichTextBinding;
 
 /// The window of `frmMain`: menus, inputs and table above, the plot across the full width below.
@@ -38,7 +40,10 @@ protected:
 private:
     void buildMenus();
     void addSessionMenus(QMenu& file);
+    void addExportMenus(QMenu& file);
     void buildPlots();
+    void showOutcome();
+    void walkPlot();
     void connectLogic();
     void runInPlace();
     void describePlot();
@@ -55,7 +60,10 @@ private:
     std::unique_ptr<FormBinding> progressBinding_;
     std::unique_ptr<FormBinding> binding_;
     std::unique_ptr<RichTextBinding> tableBinding_;
+    std::unique_ptr<DataSetOutput> output_;
     QLabel* unsaved_ = nullptr; ///< in the status bar
+    PlotReadout* readout_ = nullptr;
+    QWidget* beforePlot_ = nullptr; ///< had the keys before the plot got them
     ActionWatch watch_;
 };
 

@@ -1,71 +1,28 @@
 #include "qt/map_view.h"
 
-#include "qt/picture_painter.h"
-
-#include <QFontInfo>
 #include <QKeyEvent>
 #include <QPainter>
 
 namespace parabolt {
 namespace {
 
-constexpr double kTextTwips = 165; ///< of the canvas's text
-constexpr int kLeap = 5;           ///< steps that an arrow key goes with Shift
-
-Rgb toRgb(const QColor& colour) {
-    return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
-            static_cast<std::uint8_t>(colour.blue())};
-}
+constexpr int kLeap = 5; ///< steps that an arrow key goes with Shift
 
 } // namespace
 
-MapPicture::MapPicture(const CarryMap& map, QSizeF size, double textPixels, Rgb ground, Rgb ink)
-    : size_(size),
-      canvas_(controls_, "mapPicture", ground, ink) {
-    const double twips = kTextTwips / textPixels;
-    canvas_.setGeometry({0, 0, size.width() * twips, size.height() * twips});
-    if (map.result() != nullptr)
-        drawMap(canvas_, *map.result(), map.shown(), map.marks());
+DrawChart drawingOf(const CarryMap& map) {
+    return [&map](PictureBox& canvas) {
+        if (map.result() != nullptr)
+            drawMap(canvas, *map.result(), map.shown(), map.marks());
+    };
 }
 
-void MapPicture::paint(QPainter& painter, const QRectF& target) const {
-    paintPicture(painter, canvas_, target);
-}
-
-MapView::MapView(CarryMap& map, QWidget* parent) : QWidget(parent), map_(map) {
-    setObjectName("mapView");
-    setAccessibleName("Carry map");
+MapView::MapView(CarryMap& map, QWidget* parent)
+    : ChartView("mapView", "Carry map", drawingOf(map), parent),
+      map_(map) {
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     setCursor(Qt::CrossCursor);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-}
-
-QSize MapView::sizeHint() const {
-    return minimumSizeHint() * 2;
-}
-
-QSize MapView::minimumSizeHint() const {
-    const int line = fontMetrics().height();
-    return {22 * line, 14 * line};
-}
-
-void MapView::redraw() {
-    drawn_ = {};
-    update();
-}
-
-double MapView::textPixels() const {
-    return QFontInfo(font()).pixelSize();
-}
-
-double MapView::twipsPerPixel() const {
-    return kTextTwips / textPixels();
-}
-
-MapPicture MapView::pictureOnPaper() const {
-    return {map_, size(), textPixels(), kWhite, kBlack};
 }
 
 MapFrame MapView::frame() const {
@@ -74,22 +31,12 @@ MapFrame MapView::frame() const {
             shown != nullptr ? shown->request.ranges : map_.ranges()};
 }
 
-void MapView::paintEvent(QPaintEvent*) {
-    const QSize pixels = (QSizeF(size()) * devicePixelRatioF()).toSize();
-    if (drawn_.size() != pixels) {
-        drawn_ = QPixmap(pixels);
-        drawn_.setDevicePixelRatio(devicePixelRatioF());
-        const QColor ground = palette().color(QPalette::Base);
-        drawn_.fill(ground);
-        QPainter painter(&drawn_);
-        MapPicture(map_, size(), textPixels(), toRgb(ground),
-                   toRgb(palette().color(QPalette::Text)))
-            .paint(painter, rect());
-    }
+void MapView::paintEvent(QPaintEvent* event) {
+    ChartView::paintEvent(event);
+    if (!map_.cross())
+        return;
     QPainter painter(this);
-    painter.drawPixmap(QPointF(), drawn_);
-    if (map_.cross())
-        paintCross(painter);
+    paintCross(painter);
 }
 
 void MapView::paintCross(QPainter& painter) const {
@@ -158,17 +105,11 @@ void MapView::keyPressEvent(QKeyEvent* event) {
             emit taken();
         return;
     default:
-        QWidget::keyPressEvent(event);
+        ChartView::keyPressEvent(event);
         return;
     }
     update();
     emit crossMoved();
-}
-
-void MapView::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
-        redraw();
 }
 
 } // namespace parabolt

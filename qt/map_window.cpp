@@ -1,13 +1,13 @@
 #include "qt/map_window.h"
 
-#include "files/file_access.h"
 #include "mainform/form_shot.h"
 #include "maps/map_table.h"
 #include "maps/map_words.h"
-#include "qt/map_export.h"
 #include "qt/map_steps_view.h"
 #include "qt/map_view.h"
+#include "qt/picture_file.h"
 #include "qt/text.h"
+#include "qt/window_parts.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -36,15 +36,6 @@ constexpr auto kKey = "<p><b>Key</b><br>"
                       "Discs: the data sets, by number and colour.<br>"
                       "Grey: no value; the text under the map says why.</p>";
 
-QAction* menuAction(QMenu* menu, const QString& name, const QString& text,
-                    const QKeySequence& key) {
-    QAction* action = menu->addAction(text);
-    action->setObjectName(name);
-    action->setShortcut(key);
-    action->setMenuRole(QAction::NoRole);
-    return action;
-}
-
 QComboBox* comboBox(const QString& name, const QString& accessibleName, const QStringList& items) {
     auto* box = new QComboBox;
     box->setObjectName(name);
@@ -53,21 +44,10 @@ QComboBox* comboBox(const QString& name, const QString& accessibleName, const QS
     return box;
 }
 
-QLabel* textLabel(const QString& name) {
-    auto* label = new QLabel;
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    return label;
-}
-
 } // namespace
 
 MapWindow::MapWindow(frmMain& logic, const FormServices& services)
     : logic_(logic),
-      messages_(services.messages),
       desktop_(services.desktop),
       dialogs_(services.ccrpFileDialogs1, services.preferences, services.messages,
                services.applicationFolder),
@@ -142,15 +122,18 @@ MapWindow::~MapWindow() = default;
 
 void MapWindow::buildMenu() {
     QMenu* menu = menuBar()->addMenu("&Map");
-    connect(menuAction(menu, "mapSavePicture", "&Save Picture...", QKeySequence::Save),
+    connect(command(menu, "mapSavePicture", "&Save Picture...",
+                    "Writes the map as PNG, SVG or PDF, on white", QKeySequence::Save),
             &QAction::triggered, this, &MapWindow::savePicture);
-    connect(menuAction(menu, "mapCopyPicture", "&Copy Picture", QKeySequence::Copy),
+    connect(command(menu, "mapCopyPicture", "&Copy Picture", "Puts it on the clipboard",
+                    QKeySequence::Copy),
             &QAction::triggered, this, &MapWindow::copyPicture);
-    connect(menuAction(menu, "mapExportTable", "&Export Table...", Qt::CTRL | Qt::Key_E),
+    connect(command(menu, "mapExportTable", "&Export Table...",
+                    "Writes a row for each point of the map", Qt::CTRL | Qt::Key_E),
             &QAction::triggered, this, &MapWindow::exportTable);
     menu->addSeparator();
-    connect(menuAction(menu, "mapClose", "C&lose", QKeySequence::Close), &QAction::triggered, this,
-            &QWidget::close);
+    connect(command(menu, "mapClose", "C&lose", "Closes this window", QKeySequence::Close),
+            &QAction::triggered, this, &QWidget::close);
 }
 
 MapWindow::AxisFields MapWindow::axisFields(const QString& name) {
@@ -171,28 +154,20 @@ QWidget* MapWindow::choices() {
     auto* rows = new QVBoxLayout(panel);
     rows->setContentsMargins({});
     auto* what = new QHBoxLayout;
-    const auto addNamed = [](QHBoxLayout* row, const QString& text, QWidget* widget) {
-        auto* label = new QLabel(text);
-        label->setBuddy(widget);
-        row->addWidget(label);
-        row->addWidget(widget);
-    };
-    addNamed(what, "&Map:", kind_);
+    addLabelled(what, "&Map:", kind_);
     what->addSpacing(12);
-    addNamed(what, "Sho&wn:", outcome_);
+    addLabelled(what, "Sho&wn:", outcome_);
     what->addStretch();
     rows->addLayout(what);
     auto* ranges = new QHBoxLayout;
     for (const AxisFields& axis : axes_) {
         ranges->addWidget(axis.name);
         ranges->addWidget(axis.first);
-        addNamed(ranges, "to", axis.last);
-        addNamed(ranges, "step", axis.step);
+        addLabelled(ranges, "to", axis.last);
+        addLabelled(ranges, "step", axis.step);
         ranges->addSpacing(16);
     }
-    auto* usual = new QPushButton("&Usual ranges");
-    usual->setObjectName("mapUsualRanges");
-    usual->setAutoDefault(false);
+    auto* usual = pushButton("mapUsualRanges", "&Usual ranges");
     connect(usual, &QPushButton::clicked, this, [this] {
         map_.setUsualRanges();
         keepChoices();
@@ -253,7 +228,7 @@ void MapWindow::follow() {
 void MapWindow::followChoices() {
     const auto& windows = logic_.form.windows;
     const auto kept = windows.find(kMapWindow);
-    const std::string choices = kept == windows.end() ? std::string() : kept->second;
+    const std::string choices = kept == windows.end() ? std::string() : kept->second.text();
     if (choices == keptChoices_)
         return;
     keptChoices_ = choices;
@@ -353,34 +328,22 @@ void MapWindow::runShot() {
 }
 
 void MapWindow::savePicture() {
-    save(DialogPurpose::SaveMapPicture, "carry map.png", [this](std::string_view ending) {
-        return mapFile(view_->pictureOnPaper(), ending).toStdString();
+    dialogs_.save(DialogPurpose::SaveMapPicture, "carry map.png", [this](std::string_view ending) {
+        return pictureFile(view_->onPaper(), ending);
     });
 }
 
 void MapWindow::copyPicture() {
-    QApplication::clipboard()->setImage(mapImage(view_->pictureOnPaper()));
+    QApplication::clipboard()->setImage(pictureImage(view_->onPaper()));
 }
 
 void MapWindow::exportTable() {
-    save(DialogPurpose::SaveMapTable, "carry map.csv", [this](std::string_view) {
+    dialogs_.save(DialogPurpose::SaveMapTable, "carry map.csv", [this](std::string_view) {
         // What is being computed still is computed on the spot: no table lacks cells.
         return map_.isCurrent() && map_.result()->complete
                    ? composeMapTable(*map_.result())
                    : composeMapTable(completeMap(map_.request()));
     });
-}
-
-void MapWindow::save(DialogPurpose purpose, std::string_view suggestedName,
-                     const std::function<std::string(std::string_view)>& compose) {
-    const auto saved = dialogs_.run(
-        purpose,
-        [&](const std::string& fileName, std::string_view ending) {
-            return replaceFile(fileName, compose(ending));
-        },
-        suggestedName);
-    if (!saved)
-        messages_.show(saved.why().description);
 }
 
 } // namespace parabolt

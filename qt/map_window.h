@@ -58,11 +58,8 @@ private:
     void savePicture();
     void copyPicture();
     void exportTable();
-    void save(DialogPurpose purpose, std::string_view suggestedName,
-              const std::function<std::string(std::string_view)>& compose);
 
     frmMain& logic_;
-    MessageBoxes& messages_;
     Desktop& desktop_;
     DialogRoutine dialogs_;
     CarryMap map_;

@@ -84,4 +84,9 @@ void PagePainter::PaintPlot(const PlotCanvases& plot, Place corner, Place size) 
     paintPlot(painter_, plot, {units(corner), QSizeF(size.x, size.y) * kUnitsPerInch});
 }
 
+void PagePainter::paintPicture(const PictureBox& picture, Place corner, Place size) {
+    parabolt::paintPicture(painter_, picture,
+                           {units(corner), QSizeF(size.x, size.y) * kUnitsPerInch});
+}
+
 } // namespace parabolt

@@ -28,6 +28,7 @@ public:
     void Print(std::string_view text) override;
     void Box(Place corner, Place opposite) override;
     void PaintPlot(const PlotCanvases& plot, Place corner, Place size) override;
+    void paintPicture(const PictureBox& picture, Place corner, Place size) override;
 
 private:
     PagePainter(QPainter& painter, bool isPrinter, double widthTwips, Place area, double Ratio);

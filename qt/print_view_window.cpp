@@ -1,40 +1,18 @@
 #include "qt/print_view_window.h"
 
 #include "controls/units.h"
-#include "qt/page_painter.h"
+#include "qt/page_sheet.h"
 #include "qt/text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
 
 namespace parabolt {
 namespace {
-
-/// The page on the screen: white paper, and on it the report once it has been composed.
-class PageSheet : public QWidget {
-public:
-    PageSheet(const PrintView& view, QWidget* parent) : QWidget(parent), view_(view) {}
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.fillRect(rect(), Qt::white);
-        painter.setPen(palette().color(QPalette::Mid));
-        painter.drawRect(rect().adjusted(0, 0, -1, -1));
-        if (!view_.preview())
-            return;
-        PagePainter page = PagePainter::onScreen(painter, *view_.preview());
-        view_.composePreview(page);
-    }
-
-private:
-    const PrintView& view_;
-};
 
 QPushButton* button(const Button& control, QWidget* parent) {
     auto* widget = new QPushButton(toQt(control.caption()), parent);
@@ -95,7 +73,9 @@ PrintViewWindow::PrintViewWindow(frmPrintView& printView, QWidget* parent)
     rows->setContentsMargins({});
     rows->addWidget(rowOfControls(form, this));
     rows->addStretch();
-    auto* sheet = new PageSheet(printView.handlers, this);
+    auto* sheet = new PageSheet(
+        [&view = printView.handlers] { return view.preview(); },
+        [&view = printView.handlers](Page& page) { view.composePreview(page); }, this);
     sheet->setObjectName(toQt(form.Picture0.name()));
 
     binding_ = std::make_unique<FormBinding>(*this, form.controls, form.focus);

@@ -1,8 +1,11 @@
 #include "qt/program.h"
 
 #include "clubs/frm_club_params.h"
+#include "qt/bag_window.h"
 #include "qt/club_editor_window.h"
+#include "qt/data_sets_window.h"
 #include "qt/map_window.h"
+#include "qt/measured_window.h"
 #include "qt/print_view_window.h"
 #include "qt/splash_window.h"
 #include "qt/text.h"
@@ -29,6 +32,13 @@ std::string applicationFolder() {
 void execute(QDialog& dialog) {
     dialog.exec();
     dialog.parentWidget()->activateWindow();
+}
+
+/// Shows a window beside the main window.
+void bringUp(QWidget& window) {
+    window.show();
+    window.raise();
+    window.activateWindow();
 }
 
 /// Where programs keep what is to outlive them, by the XDG rules.
@@ -67,6 +77,9 @@ Program::Program()
     logic_.showClubEditor = [this] { showClubEditor(); };
     logic_.showPrintView = [this] { showPrintView(); };
     logic_.showCarryMap = [this] { showCarryMap(); };
+    logic_.showDataSets = [this] { showDataSets(); };
+    logic_.showMeasured = [this] { showMeasured(); };
+    logic_.showBag = [this] { showBag(); };
     logic_.showAbout = [this] { showAbout(); };
     logic_.endProgram = [this] {
         logic_.pause.stop();
@@ -136,9 +149,25 @@ void Program::showPrintView() {
 void Program::showCarryMap() {
     if (!mapWindow_)
         mapWindow_ = std::make_unique<MapWindow>(logic_, services_);
-    mapWindow_->show();
-    mapWindow_->raise();
-    mapWindow_->activateWindow();
+    bringUp(*mapWindow_);
+}
+
+void Program::showDataSets() {
+    if (!dataSetsWindow_)
+        dataSetsWindow_ = std::make_unique<DataSetsWindow>(logic_, services_, printer_);
+    bringUp(*dataSetsWindow_);
+}
+
+void Program::showMeasured() {
+    if (!measuredWindow_)
+        measuredWindow_ = std::make_unique<MeasuredWindow>(logic_, fitting_, services_, printer_);
+    bringUp(*measuredWindow_);
+}
+
+void Program::showBag() {
+    if (!bagWindow_)
+        bagWindow_ = std::make_unique<BagWindow>(logic_, fitting_, services_, printer_);
+    bringUp(*bagWindow_);
 }
 
 void Program::showAbout() {

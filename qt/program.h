@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fitting/fitting.h"
 #include "qt/desktop.h"
 #include "qt/dialogs.h"
 #include "qt/end_signals.h"
@@ -14,7 +15,10 @@
 
 namespace parabolt {
 
+class BagWindow;
+class DataSetsWindow;
 class MapWindow;
+class MeasuredWindow;
 class SplashWindow;
 
 /// The whole program: the services of this platform, the main form on them, and the windows that it
@@ -41,6 +45,9 @@ private:
     void showClubEditor();
     void showPrintView();
     void showCarryMap();
+    void showDataSets();
+    void showMeasured();
+    void showBag();
     void showAbout();
 
     QtMessageBoxes messages_;
@@ -53,8 +60,12 @@ private:
     FormServices services_;
     frmMain logic_;
     EndSignals endSignals_{[this] { logic_.endProgram(); }};
+    Fitting fitting_{logic_.form};
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<MapWindow> mapWindow_;
+    std::unique_ptr<DataSetsWindow> dataSetsWindow_;
+    std::unique_ptr<MeasuredWindow> measuredWindow_;
+    std::unique_ptr<BagWindow> bagWindow_;
     std::unique_ptr<frmSplash> splash_;
     std::unique_ptr<SplashWindow> splashWindow_;
 };

@@ -44,6 +44,28 @@ constexpr std::array<NumberColumn, 18> kNumberColumns = {{
     {124, {"", "RH ", "(%)"}, kRight, 124, shown::kHumidity},
 }};
 
+// What stands in them, in the same order.
+constexpr std::array<std::string_view, kNumberColumns.size()> kMeanings = {
+    "Time in the air, seconds",
+    "Carry: distance to the landing, yards",
+    "Speed at which the ball starts, mph",
+    "Horizontal speed at the landing, mph",
+    "Angle at which the ball starts, degrees",
+    "Back spin at the start, rpm",
+    "Back spin at the landing, rpm",
+    "Roll on the green, feet; below 0 when the ball spins back",
+    "Speed of the club head at impact, mph",
+    "Mass of the club head, grams",
+    "Loft of the club, degrees",
+    "Attack angle, degrees, positive upward",
+    "Bend of the shaft at impact, degrees; adds to the loft",
+    "Coefficient of restitution between head and ball",
+    "Wind, mph, positive against the ball",
+    "Pressure of the air, as read at sea level, inches of mercury",
+    "Temperature of the air, degrees Fahrenheit",
+    "Relative humidity of the air, percent",
+};
+
 constexpr std::int16_t kClubColumn = 7;
 constexpr std::int16_t kModeColumn = 12;
 
@@ -76,6 +98,22 @@ std::string composeResultRow(const RunRecord& run, std::int16_t clubNo, std::str
         line.Field(column.align, column.cellColumn, 1,
                    formatPattern(run.*column.figure.field, column.figure.pattern));
     return line.OutForm();
+}
+
+std::string_view columnMeaning(std::size_t character) {
+    constexpr int kLeftCell = 3; // characters of a cell behind its first
+    const auto column = static_cast<std::int64_t>(character) + 1;
+    if (column <= kClubColumn)
+        return "Wood or iron, its number, and the number of the data set";
+    if (column <= kModeColumn)
+        return "Mode: launch, default, manual, auto or actual";
+    for (std::size_t i = 0; i < kNumberColumns.size(); ++i) {
+        const NumberColumn& number = kNumberColumns.at(i);
+        if (column <= number.headingEnd ||
+            (number.align == kLeft && column <= number.cellColumn + kLeftCell))
+            return kMeanings.at(i);
+    }
+    return {};
 }
 
 void WriteResultHeader(RichTextBox& table) {

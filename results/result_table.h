@@ -14,6 +14,9 @@ std::string composeResultHeader();
 /// are those at the time of the row; all else comes from the record.
 std::string composeResultRow(const RunRecord& run, std::int16_t clubNo, std::string_view number);
 
+/// What stands in the column at a character of a line, counted from 0; empty behind the last.
+std::string_view columnMeaning(std::size_t character);
+
 /// Empties the table and writes the headings in black.
 void WriteResultHeader(RichTextBox& table);
 

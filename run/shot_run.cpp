@@ -33,6 +33,8 @@ Outcome<void, Fault> ShotRun::flyAndDraw(const Shot& shot) {
     form_.shot = static_cast<const ShotInputs&>(flown.shot);
     showLaunch(form_, flown.shot);
     form_.Runs.newest() = flown.record;
+    form_.Runs.setTag(form_.Runs.count(),
+                      {.name = {}, .ticked = true, .ball = flown.shot.BallType});
     SetCurveColor();
     if (!outcome)
         report(outcome.why().fault);
@@ -47,11 +49,13 @@ void ShotRun::SetCurveColor() {
 void ShotRun::WriteResultRow() {
     parabolt::WriteResultRow(txtResult_, form_.Runs.newest(), form_.shot.ClubNo,
                              form_.txtRun.text());
+    plot_.tellNewest();
 }
 
 void ShotRun::dropRuns() {
     form_.txtRun.setText("0");
     form_.Runs.clear();
+    plot_.tellNewest();
 }
 
 void ShotRun::ClearRuns() {

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "clubs/club_tables.h"
-#include "engine/shot_state.h"
 #include "numbers/coloured_text.h"
+#include "numbers/shared_text.h"
+#include "shots/run_book.h"
 
 #include <map>
 #include <optional>
@@ -23,14 +24,19 @@ struct Desk {
     std::map<std::string, std::string> fields; ///< what stands in the fields, by their names
     float scale = 300;                         ///< width of the plot, yards
     ClubTables clubs;
-    std::vector<RunRecord> runs; ///< the data sets in their order
+    std::vector<RunRecord> runs;  ///< the data sets in their order
+    std::vector<DataSetTag> tags; ///< of each; what lacks is as at first
+    int base = 1;                 ///< number of the data set with which others are compared
 
     ColouredTexts table;
     std::size_t caret = 0;           ///< in the table
     std::optional<Rgb> typingColour; ///< in which typing into the table goes on, if it was set
 
     std::string reportCaption;
-    std::map<std::string, std::string> windows; ///< state of windows that are no forms, by name
+    std::map<std::string, SharedText> windows; ///< state of windows that are no forms, by name
+
+    /// Of an element of the runs.
+    DataSetTag tagOf(std::size_t run) const { return run < tags.size() ? tags[run] : DataSetTag(); }
 
     friend bool operator==(const Desk&, const Desk&) = default;
 };

@@ -5,16 +5,8 @@
 #include "results/result_table.h"
 #include "shots/shot.h"
 
-#include <algorithm>
-#include <array>
-
 namespace parabolt {
 namespace {
-
-/// The buttons of the modes, by their numbers.
-constexpr std::array<OptionButton ShotControls::*, 5> kModeButtons = {
-    &ShotControls::optLaunch, &ShotControls::optStandard, &ShotControls::optManual,
-    &ShotControls::optAuto, &ShotControls::optActual};
 
 /// The text boxes whose text isn't told by the rest of a desk.
 template <class Visit>
@@ -42,6 +34,9 @@ Desk takeDesk(const MainForm& form) {
     desk.clubs = form.clubs;
     const auto records = form.Runs.records().subspan(1);
     desk.runs.assign(records.begin(), records.end());
+    for (int number = 1; number <= form.Runs.count(); ++number)
+        desk.tags.push_back(form.Runs.tag(number));
+    desk.base = form.Runs.base();
     desk.table = form.txtResult.content();
     desk.caret = form.txtResult.caret();
     desk.typingColour = form.txtResult.selColor();
@@ -53,7 +48,7 @@ Desk takeDesk(const MainForm& form) {
 void layDesk(MainForm& form, const Desk& desk) {
     form.shot = desk.shot;
     form.clubs = desk.clubs;
-    (form.*kModeButtons.at(static_cast<std::size_t>(desk.mode))).lay();
+    modeButton(form, desk.mode).lay();
     form.txtMode.layText(std::to_string(desk.mode));
     enableForMode(form);
     (desk.iron ? form.optIron : form.optWood).lay();
@@ -69,10 +64,12 @@ void layDesk(MainForm& form, const Desk& desk) {
     });
     form.sRange = desk.scale;
     form.Runs.clear();
-    for (const RunRecord& run : desk.runs) {
+    for (std::size_t i = 0; i < desk.runs.size(); ++i) {
         form.Runs.add();
-        form.Runs.newest() = run;
+        form.Runs.newest() = desk.runs[i];
+        form.Runs.setTag(form.Runs.count(), desk.tagOf(i));
     }
+    form.Runs.setBase(desk.base);
     form.txtRun.layText(std::to_string(form.Runs.count()));
     form.txtResult.replace(desk.table, desk.caret);
     if (desk.typingColour)

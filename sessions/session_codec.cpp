@@ -1,7 +1,6 @@
 #include "sessions/session_codec.h"
 
 #include "numbers/rounding.h"
-#include "shots/run_book.h"
 
 #include <array>
 #include <bit>
@@ -198,15 +197,32 @@ std::vector<TrajectoryPoint> readPath(const Json& json) {
     return path;
 }
 
-Json writeRuns(std::span<const RunRecord> runs) {
+Json writeRuns(const Desk& desk) {
     Json json = Json::array();
-    for (const RunRecord& run : runs) {
+    for (std::size_t i = 0; i < desk.runs.size(); ++i) {
+        const RunRecord& run = desk.runs[i];
+        const DataSetTag tag = desk.tagOf(i);
         Json record = writeMembers(run, kRecord);
         record["CurveColor"] = writeColour(run.CurveColor);
         record["Path"] = writePath(run.Path);
+        record["name"] = tag.name;
+        record["ticked"] = tag.ticked;
+        record["ball"] = tag.ball;
         json.push_back(std::move(record));
     }
     return json;
+}
+
+/// Files of the first writers have no tags.
+DataSetTag readTag(const Json& json) {
+    DataSetTag tag;
+    if (json.contains("name"))
+        tag.name = json.at("name").get<std::string>();
+    if (json.contains("ticked"))
+        tag.ticked = json.at("ticked").get<bool>();
+    if (json.contains("ball"))
+        tag.ball = static_cast<std::int16_t>(readChoice(json.at("ball"), 0, 4));
+    return tag;
 }
 
 std::vector<RunRecord> readRuns(const Json& json) {
@@ -276,13 +292,25 @@ Desk readDesk(const Json& json) {
     desk.scale = readNumber<float>(json.at("scale"));
     desk.clubs = readClubs(json.at("clubs"));
     desk.runs = readRuns(json.at("dataSets"));
+    for (const Json& record : json.at("dataSets"))
+        desk.tags.push_back(readTag(record));
+    if (json.contains("base"))
+        desk.base = readChoice(json.at("base"), 1, RunBook::kMost);
     desk.table = readTable(json.at("table"));
     desk.caret = readNumber<std::size_t>(json.at("caret"));
     if (const Json& colour = json.at("typingColour"); !colour.is_null())
         desk.typingColour = readColour(colour);
     desk.reportCaption = json.at("reportCaption").get<std::string>();
-    desk.windows = json.at("windows").get<std::map<std::string, std::string>>();
+    for (const auto& [window, state] : json.at("windows").get<std::map<std::string, std::string>>())
+        desk.windows[window] = state;
     return desk;
+}
+
+Json writeWindows(const std::map<std::string, SharedText>& windows) {
+    Json json = Json::object();
+    for (const auto& [window, state] : windows)
+        json[window] = state.text();
+    return json;
 }
 
 } // namespace
@@ -302,12 +330,13 @@ std::string encodeSession(const Session& session) {
         {"fields", desk.fields},
         {"scale", writeNumber(desk.scale)},
         {"clubs", writeClubs(desk.clubs)},
-        {"dataSets", writeRuns(desk.runs)},
+        {"dataSets", writeRuns(desk)},
+        {"base", desk.base},
         {"table", writeTable(desk.table)},
         {"caret", desk.caret},
         {"typingColour", desk.typingColour ? writeColour(*desk.typingColour) : Json()},
         {"reportCaption", desk.reportCaption},
-        {"windows", desk.windows},
+        {"windows", writeWindows(desk.windows)},
     };
     // What is no UTF-8 is replaced: a text never stands in the way of the rest.
     return json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n";

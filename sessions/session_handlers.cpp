@@ -165,8 +165,8 @@ std::string SessionHandlers::timeOf(const Session& session) const {
 
 void SessionHandlers::lay(const Desk& desk) {
     layDesk(form_, desk);
-    plot_.DrawPlotFrame();
-    plot_.DrawCurves();
+    plot_.redraw();
+    plot_.tellNewest();
 }
 
 void SessionHandlers::openText(const Outcome<std::string, Failure>& text) {

@@ -1,5 +1,6 @@
 #include "shell/frm_main.h"
 
+#include "clubs/frm_club_params.h"
 #include "results/result_table.h"
 #include "shell/build_values.h"
 
@@ -17,6 +18,8 @@ frmMain::frmMain(const FormServices& services)
       defaults_(form, services.messages),
       resultExport_(form.txtResult, services.ccrpFileDialogs1, services.preferences,
                     services.messages, services.applicationFolder),
+      dataSetExport_(form.Runs, services.ccrpFileDialogs1, services.preferences, services.messages,
+                     services.applicationFolder),
       parameters_(form, services.ccrpFileDialogs1, services.preferences, services.messages,
                   services.applicationFolder),
       run_(form, form.clubs, form.txtResult, plot, services.messages),
@@ -25,6 +28,11 @@ frmMain::frmMain(const FormServices& services)
               [this] { resultExport_.mnuSResult_Click(); }),
       studies_(form, form.Timer1, run_, driver_, pause, frmProgress) {
     wireMenus(services.desktop);
+    form.mnuReopenClubs.Click.connect([this, services] {
+        reopenClubs({services.messages, services.ccrpFileDialogs1, services.preferences,
+                     services.desktop, services.applicationFolder,
+                     [this] { showClubsInCaption(form); }});
+    });
 }
 
 void frmMain::wireMenus(Desktop& desktop) {
@@ -47,6 +55,14 @@ void frmMain::wireMenus(Desktop& desktop) {
     form.mnuStyLaunch.Click.connect([this] { studies_.mnuStyLaunch_Click(); });
     form.mnuStySpin.Click.connect([this] { studies_.mnuStySpin_Click(); });
     form.mnuStyMap.Click.connect([this] { showCarryMap(); });
+    form.mnuDataSets.Click.connect([this] { showDataSets(); });
+    form.mnuMeasured.Click.connect([this] { showMeasured(); });
+    form.mnuBag.Click.connect([this] { showBag(); });
+    form.mnuExportTable.Click.connect([this] { dataSetExport_.mnuExportTable_Click(); });
+    form.mnuExportPaths.Click.connect([this] { dataSetExport_.mnuExportPaths_Click(); });
+    form.mnuExportPlot.Click.connect([this] { dataSetExport_.exportPlot(plotFile); });
+    form.mnuCopyTable.Click.connect([this] { copyTable(); });
+    form.mnuCopyPlot.Click.connect([this] { copyPlot(); });
     form.mnuReset.Click.connect([this] { defaults_.mnuReset_Click(); });
     form.mnuHelp.Click.connect([settle, &desktop] {
         settle();
@@ -55,6 +71,15 @@ void frmMain::wireMenus(Desktop& desktop) {
     form.mnuSkype.Click.connect(
         [&desktop] { desktop.openAddress("callto:" + std::string(kCallContact)); });
     form.mnuAbout.Click.connect([this] { showAbout(); });
+}
+
+/// As if the editor had opened the file, applied it and gone.
+void frmMain::reopenClubs(const ClubServices& services) {
+    frmClubParams editor(form.clubs, services);
+    if (!editor.files.readLastFile() || !editor.editor.ValidateClubGrids())
+        return;
+    form.Wiping();
+    editor.editor.ApplyClubGrids();
 }
 
 void frmMain::Form_Load() {

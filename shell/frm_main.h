@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clubs/club_file_handlers.h"
 #include "controls/services.h"
 #include "mainform/defaults.h"
 #include "mainform/modes.h"
@@ -8,6 +9,7 @@
 #include "results/result_export.h"
 #include "run/studies.h"
 #include "sessions/session_handlers.h"
+#include "sets/data_set_export.h"
 
 #include <functional>
 
@@ -46,17 +48,26 @@ public:
     std::function<void()> showClubEditor; ///< `frmClubParams`, modal
     std::function<void()> showPrintView;  ///< `frmPrintView`, modal
     std::function<void()> showCarryMap;   ///< beside the form
+    std::function<void()> showDataSets;   ///< likewise
+    std::function<void()> showMeasured;   ///< likewise
+    std::function<void()> showBag;        ///< likewise
     std::function<void()> showAbout;      ///< `frmSplash`, modal
     std::function<void()> endProgram;     ///< at once, with no question
+    // What only the view can paint, or put on the clipboard.
+    DialogRoutine::Compose plotFile; ///< the plot as a picture file
+    std::function<void()> copyTable; ///< all data sets with all that is known of them
+    std::function<void()> copyPlot;
 
 private:
     void wireMenus(Desktop& desktop);
     void ResetAll();
+    void reopenClubs(const ClubServices& services);
 
     ClubChoice clubChoice_;
     Modes modes_;
     Defaults defaults_;
     ResultExport resultExport_;
+    DataSetExport dataSetExport_;
     ParameterHandlers parameters_;
     ShotRun run_;
     FillInBatch batch_;

@@ -3,10 +3,20 @@
 #include "engine/shot_state.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
 namespace parabolt {
+
+/// What the user makes of a data set, beside what was flown.
+struct DataSetTag {
+    std::string name;      ///< as typed; empty before
+    bool ticked = true;    ///< chosen for the plot and for comparisons
+    std::int16_t ball = 0; ///< ball option of the shot, 1 to 4; 0 where nobody knows it any more
+    friend bool operator==(const DataSetTag&, const DataSetTag&) = default;
+};
 
 /// The book of data sets: the runs that stand side by side, numbered from 1. The newest has the
 /// number `count()`.
@@ -22,21 +32,38 @@ public:
         return runs_.at(static_cast<std::size_t>(number));
     }
     /// The data set of the number `count()`.
-    RunRecord& newest() { return runs_.back(); }
+    RunRecord& newest() {
+        ++revision_;
+        return runs_.back();
+    }
     /// The same, to look at.
     const RunRecord& newest() const { return runs_.back(); }
     /// Elements 1 to `count()` are the data sets; element 0 stays empty.
     std::span<const RunRecord> records() const { return runs_; }
 
-    /// Adds an empty data set.
-    void add() { runs_.emplace_back(); }
+    const DataSetTag& tag(int number) const { return tags_.at(static_cast<std::size_t>(number)); }
+    void setTag(int number, DataSetTag tag);
+    /// The numbers of the ticked data sets, rising.
+    std::vector<int> ticked() const;
+    /// The data set with which the others are compared: the first, until another one is chosen.
+    int base() const { return base_ <= count() ? base_ : 1; }
+    void setBase(int number);
+
+    /// Adds an empty data set, ticked.
+    void add();
     /// Takes the newest data set out again.
-    void takeBack() { runs_.pop_back(); }
+    void takeBack();
     /// Takes all data sets out.
-    void clear() { runs_ = std::vector<RunRecord>(1); }
+    void clear();
+
+    /// Grows whenever the book may have changed.
+    std::uint64_t revision() const { return revision_; }
 
 private:
     std::vector<RunRecord> runs_{1};
+    std::vector<DataSetTag> tags_{1}; ///< of the data sets of the same elements
+    int base_ = 1;
+    std::uint64_t revision_ = 0;
 };
 
 /// Colour of a data set, for its curve, its legend entry and its row: one of twelve in turn.

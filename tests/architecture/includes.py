@@ -12,7 +12,7 @@ from pathlib import Path
 
 GROUND = {"numbers", "controls"}
 LOGIC = GROUND | {"engine", "shots", "files", "plots", "printing", "clubs", "results", "exchange",
-                  "measured", "maps"}
+                  "measured", "tables", "sets", "maps"}
 
 # Folder -> the other folders whose headers it may include.
 MAY_SEE = {
@@ -24,6 +24,8 @@ MAY_SEE = {
     "plots": GROUND | {"engine"},
     "exchange": {"numbers"},
     "measured": {"numbers", "engine", "shots", "clubs", "files", "exchange"},
+    "tables": {"numbers", "exchange"},
+    "sets": GROUND | {"engine", "shots", "exchange", "tables", "plots", "files"},
     "maps": {"numbers", "controls", "engine", "shots", "plots", "exchange"},
     "printing": GROUND | {"engine", "files", "plots"},
     "clubs": GROUND | {"engine", "files"},
@@ -31,13 +33,14 @@ MAY_SEE = {
     "mainform": LOGIC,
     "run": LOGIC | {"mainform"},
     "sessions": LOGIC | {"mainform"},
-    "shell": LOGIC | {"mainform", "run", "sessions"},
-    "qt": LOGIC | {"mainform", "run", "sessions", "shell"},
+    "fitting": LOGIC | {"mainform"},
+    "shell": LOGIC | {"mainform", "run", "sessions", "fitting"},
+    "qt": LOGIC | {"mainform", "run", "sessions", "fitting", "shell"},
     "cli": {"numbers", "engine", "shots", "files", "clubs", "exchange", "measured", "maps", "sessions"},
     # Around the program.
     "docs": {"engine", "shots"},
-    "fuzz": LOGIC | {"mainform", "run", "sessions", "shell", "qt"},
-    "bench": LOGIC | {"mainform", "run", "sessions", "shell", "qt", "cli"},
+    "fuzz": LOGIC | {"mainform", "run", "sessions", "fitting", "shell", "qt"},
+    "bench": LOGIC | {"mainform", "run", "sessions", "fitting", "shell", "qt", "cli"},
 }
 SEES_QT = {"qt", "fuzz", "bench"}
 # The folder of the command, and what it may link.

@@ -36,7 +36,7 @@ TEST(Help, ListsEveryPageAndEveryLinkLeadsToOne) {
         shown.sort();
         return shown;
     };
-    static const QRegularExpression link("href=\"([^\"]*)\"");
+    static const QRegularExpression link("(?:href|src)=\"([^\"]*)\"");
     QStringList titles;
     for (const QString& file : QDir(kManual).entryList({"*.html"})) {
         const QString html = page(file);

@@ -184,7 +184,9 @@ TEST_F(MainWindowTest, AStudyIsShownAtWork) {
         };
         user.form.mnuStyLaunch.Click();
         EXPECT_FALSE(progress->isVisible());
-        EXPECT_EQ(window.statusBar()->currentMessage(), "");
+        EXPECT_EQ(fromQt(window.statusBar()->currentMessage().section(':', 0, 0)),
+                  steps == 3 ? "" : "Data set 1")
+            << "what came of it";
         EXPECT_EQ(table->textInteractionFlags(), Qt::TextEditorInteraction);
         EXPECT_EQ(field("txtLaunchAngle")->text(), steps == 3 ? "4" : "14");
         EXPECT_EQ(runs(), steps == 3 ? 0 : 1);
@@ -323,7 +325,10 @@ TEST_F(MainWindowTest, WhatIsShownIsAlsoTold) {
     EXPECT_EQ(told("Picture1"), "0 data sets.");
     click("Command1");
     click("Command1");
-    EXPECT_EQ(told("Picture1"), "2 data sets. 1: carry 233 yards. 2: carry 233 yards.");
+    const std::string came =
+        ": carry 232.6 yd, total 241.1 yd, height 30.9 yd, landing angle 38.0 degrees, altitude "
+        "0 ft.";
+    EXPECT_EQ(told("Picture1"), "2 data sets. 1" + came + " 2" + came);
     user.messages.answers = {MessageBoxes::Answer::Yes};
     click("Command2");
     EXPECT_EQ(told("Picture1"), "0 data sets.");

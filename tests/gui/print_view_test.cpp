@@ -43,7 +43,7 @@ struct PrintedReport : testing::Test {
         run.CurveColor = {255, 0, 0};
         run.Path = {{0, 0}, {120, 60}, {240, 0}};
         DrawPrintFrame({outer, inner}, 300);
-        DrawPrintCurves({outer, inner}, std::vector{RunRecord{}, run});
+        DrawPrintCurves({outer, inner}, std::vector{RunRecord{}, run}, std::vector{1});
         for (int i = 1; i <= kRows; ++i)
             table += "row" + std::to_string(i) + std::string(i < 10 ? 116 : 115, ' ') + "last\n";
         txtResult.insert(0, table, kBlack);

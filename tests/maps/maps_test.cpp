@@ -162,11 +162,6 @@ TEST(Contours, FollowACircleAndBreakAtHoles) {
     const ValueField saddle{{0, 1}, {0, 1}, {0, 1, 1, 0}};
     for (const Contour& line : contoursOf(saddle, 0.4))
         EXPECT_NEAR(std::abs(line[0].across - line[1].across), 0.4, 1e-12);
-    EXPECT_EQ(roundStep(0, 5), 1);
-    for (const auto& [range, step] :
-         {std::pair(120.0, 10.0), {121.0, 20.0}, {250.0, 50.0}, {0.9, 0.1}})
-        EXPECT_NEAR(roundStep(range, 12), step, 1e-12) << range;
-    EXPECT_EQ(roundValues(-7, 10, 5), (std::vector<double>{-5, 0, 5, 10}));
 }
 
 // Lightness after CIE 1976, and the same colours as a person without the receptors for green

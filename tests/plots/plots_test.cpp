@@ -1,7 +1,10 @@
+#include "plots/chart_parts.h"
 #include "plots/curves.h"
 #include "plots/plot_frame.h"
 #include "tests/support/golden.h"
 #include "tests/support/scripted_form.h"
+
+#include <numeric>
 
 namespace parabolt {
 
@@ -50,6 +53,12 @@ std::vector<RunRecord> hops(int count) {
     return runs;
 }
 
+std::vector<int> numbersTo(int last) {
+    std::vector<int> numbers(static_cast<std::size_t>(last));
+    std::iota(numbers.begin(), numbers.end(), 1);
+    return numbers;
+}
+
 /// A shape as a line of text.
 struct Described {
     std::ostream& text;
@@ -81,9 +90,9 @@ TEST(Plot, HasTheseShapesOnScreenAndOnPaper) {
     twin.outer.setForeColor(kBlack);
     screen.inner.circle({1, 1}, 1); // drawing erases what stood
     DrawPlotFrame(screen.canvases, 300);
-    EXPECT_TRUE(DrawCurves(screen.canvases, hops(13)));
+    EXPECT_TRUE(DrawCurves(screen.canvases, hops(13), numbersTo(13)));
     DrawPrintFrame(twin.canvases, 300);
-    DrawPrintCurves(twin.canvases, hops(13));
+    DrawPrintCurves(twin.canvases, hops(13), numbersTo(13));
     std::ostringstream text;
     for (const PictureBox* box : {&screen.outer, &screen.inner, &twin.outer, &twin.inner})
         for (const Drawing& drawing : box->drawings()) {
@@ -124,7 +133,7 @@ TEST(PlotLayout, FollowsTheFormUnlessItIsTooLow) {
 TEST(Curves, NothingPilesUp) {
     Plot plot;
     for (int count = 13; count <= 24; ++count)
-        ASSERT_TRUE(DrawCurves(plot.canvases, hops(count)));
+        ASSERT_TRUE(DrawCurves(plot.canvases, hops(count), numbersTo(count)));
     EXPECT_EQ(plot.inner.drawings().size(), 48U);
     EXPECT_EQ(plot.outer.drawings().size(), 12U * 3);
     EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).at(23).centre.x, 48) << "on top";
@@ -136,10 +145,18 @@ TEST(Curves, TheMarkGrowsWithTheCanvasAndAFailureLeavesWhatWasDrawn) {
         Plot plot(width);
         auto runs = hops(2);
         runs[2].Path.clear();
-        EXPECT_FALSE(DrawCurves(plot.canvases, runs));
+        EXPECT_FALSE(DrawCurves(plot.canvases, runs, numbersTo(2)));
         EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).size(), 1U);
         EXPECT_EQ(shapesOf<DrawnCircle>(plot.inner).at(0).pen, pen) << width;
     }
+}
+
+TEST(ChartParts, StepsAreRound) {
+    EXPECT_EQ(roundStep(0, 5), 1);
+    for (const auto& [range, step] :
+         {std::pair(120.0, 10.0), {121.0, 20.0}, {250.0, 50.0}, {0.9, 0.1}})
+        EXPECT_NEAR(roundStep(range, 12), step, 1e-12) << range;
+    EXPECT_EQ(roundValues(-7, 10, 5), (std::vector<double>{-5, 0, 5, 10}));
 }
 
 } // namespace

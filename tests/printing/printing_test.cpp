@@ -1,6 +1,7 @@
 #include "printing/drv_printer.h"
 #include "printing/matrix_str.h"
 #include "printing/report.h"
+#include "printing/sheet.h"
 #include "tests/support/scripted_services.h"
 
 #include <stdexcept>
@@ -78,6 +79,9 @@ struct RecordedPage : Page {
     void PaintPlot(const PlotCanvases&, Place corner, Place size) override {
         plot = {corner, size, DrawWidth};
     }
+    void paintPicture(const PictureBox&, Place corner, Place size) override {
+        charts.push_back({corner, size, DrawWidth});
+    }
     /// What stands below caption and heading.
     Texts table() const {
         Texts texts;
@@ -88,6 +92,7 @@ struct RecordedPage : Page {
 
     std::vector<Line> lines;
     std::optional<Rectangle> frame, plot;
+    std::vector<Rectangle> charts;
 };
 
 TEST(DrvPrinter, LaysTextIntoTheCellsOfTheStandardSize) {
@@ -190,6 +195,55 @@ TEST_F(Report, TellsHowManyRowsItLoses) {
     };
     for (const auto& [text, lost] : cases)
         EXPECT_EQ(rowsLeftOut(text), lost) << text;
+}
+
+TEST_F(Report, ASheetOfOurOwnFitsWhateverStandsOnIt) {
+    outer.setGeometry({0, 0, 15000, 5000});
+    for (const int rows : {1, 7, 24})
+        for (const int columns : {3, 20}) {
+            SheetContent sheet;
+            sheet.title = "Comparison";
+            sheet.fields = {"Ann", "", "2026-11-23", std::string(300, 'n')};
+            sheet.plot.emplace(PlotCanvases{outer, inner});
+            sheet.charts = {[](PictureBox&) {}, [](PictureBox&) {}};
+            sheet.table.emplace_back(columns, "Carry [yd]");
+            for (int row = 0; row < rows; ++row)
+                sheet.table.emplace_back(columns, row == 0 ? "9.5" : "141.25");
+            sheet.remark = "Remark";
+            RecordedPage page;
+            composeSheet(page, 1, sheet);
+            const std::string at = std::to_string(rows) + " by " + std::to_string(columns);
+            EXPECT_EQ(page.lines.at(0).text + page.lines.at(1).text,
+                      "ComparisonPlayer: Ann     Date: 2026-11-23");
+            double foot = 0; // of the pictures
+            ASSERT_EQ(page.charts.size(), 2U);
+            for (const auto& [corner, size, pen] : {*page.plot, page.charts[0], page.charts[1]}) {
+                EXPECT_GT(size.x, 1) << at;
+                EXPECT_GT(size.y, 1) << at;
+                EXPECT_LT(corner.x + size.x, 11.01) << at;
+                EXPECT_GT(corner.y, page.lines.at(2).y) << at;
+                foot = std::max(foot, corner.y + size.y);
+            }
+            EXPECT_NEAR(page.plot->size.x / page.plot->size.y, 3, 1e-9) << "in its shape";
+            double edge = 0; // of the first column
+            for (std::size_t i = 3; i < page.lines.size(); ++i) {
+                const RecordedPage::Line& line = page.lines[i];
+                EXPECT_GT(line.x, 0.19) << at;
+                EXPECT_LT(line.x + static_cast<double>(line.text.size()) * line.size / 100, 11.01);
+                EXPECT_LE(line.y + line.size / 40, 7.51) << at;
+                EXPECT_GT(line.y, foot) << at;
+                if (line.text == "9.5" && edge == 0)
+                    edge = line.x + 3 * line.size / 100;
+                if (line.text == "141.25" && i < 5U + static_cast<unsigned>(rows)) {
+                    EXPECT_NEAR(line.x + 6 * line.size / 100, edge, 1e-9) << "numbers end in line";
+                }
+            }
+            EXPECT_EQ(page.lines.back().text, "Remark");
+            EXPECT_EQ(page.lines.size(), 3U + static_cast<unsigned>((rows + 2) * columns) + 1);
+        }
+    const SheetFields fields{"Ann", "Bob", "", "a note"};
+    EXPECT_EQ(fieldsOf(fieldsText(fields)), fields);
+    EXPECT_EQ(fieldsOf("{}").note + fieldsOf("").player, "");
 }
 
 TEST(SplitSentence, CutsAtBlanksInTheSecondHalf) {

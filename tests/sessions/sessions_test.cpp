@@ -30,6 +30,9 @@ struct WorkingUser : ScriptedForm {
         enter(form.txtWind, "7.3");
         enter(form.txtRange, "250");
         run(2);
+        form.Runs.setTag(1, {"Tr\u00e4ger", false, 2});
+        form.Runs.setBase(form.Runs.count());
+        main.plot.redraw();
         form.reportCaption = "Tuesday";
         form.windows["carryMap"] = "{}";
         auto content = form.txtResult.content();
@@ -79,6 +82,23 @@ TEST(Session, ReadsBackToTheSameBits) {
     before.pop_back();
     desk.shot.COR = session.desk.shot.COR = 0;
     EXPECT_EQ(desk, session.desk);
+}
+
+TEST(Session, OfAWriterThatKnewNoNamesHasThemAsAtFirst) {
+    Session session{WorkingUser(2).desk(), "2026-11-23 10:32"};
+    const std::string text = replaced(encodeSession(session), "\"base\":2,", "");
+    const std::size_t sets = text.find("\"dataSets\"");
+    std::string tail = text.substr(sets);
+    for (const char* member :
+         {"\"ball\":2,", "\"name\":\"Tr\u00e4ger\",", "\"ball\":2,", "\"name\":\"\","})
+        tail = replaced(tail, member, "");
+    for (const char* member : {",\"ticked\":false", ",\"ticked\":true"})
+        tail = replaced(tail, member, "");
+    const auto read = decodeSession(text.substr(0, sets) + tail);
+    ASSERT_TRUE(read);
+    session.desk.tags = {2, DataSetTag()};
+    session.desk.base = 1;
+    EXPECT_EQ(read->desk, session.desk);
 }
 
 TEST(Session, GoesOnAsIfItHadNeverBeenClosed) {

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "files/preferences.h"
+#include "measured/club_names.h"
+#include "measured/shot_import.h"
+#include "tables/table_source.h"
+
+namespace parabolt {
+
+/// The choices of columns that the user has made for files that no device knows, the newest first.
+class ColumnMemory {
+public:
+    static constexpr int kMost = 8;
+
+    explicit ColumnMemory(PreferencesStore& preferences) : preferences_(preferences) {}
+
+    std::vector<ColumnChoice> choices() const;
+    /// Remembers a choice, in place of one for the same headings. What the store refuses is lost
+    /// without a word: the shots come in all the same.
+    void remember(const ColumnChoice& choice);
+
+private:
+    PreferencesStore& preferences_;
+};
+
+/// A file on its way in: what it would bring, and what the user says to that. Nothing is taken yet.
+class ImportReview : public TableSource {
+public:
+    /// Reads a file's bytes. The fault if it is no table of shots, or if it has no rows.
+    static Outcome<ImportReview, ImportFault> open(std::string_view bytes,
+                                                   std::span<const ColumnChoice> remembered);
+
+    const ImportPreview& preview() const { return preview_; }
+    /// The known device; null for a file whose columns the user has to choose, or chose.
+    const Device* device() const { return device_; }
+    /// The columns, where no device is known.
+    const ColumnChoice& choice() const { return choice_; }
+    /// Columns of such a file, each by its heading, or by its number and an example.
+    std::vector<std::string> columnTitles() const;
+    /// Has another look at the file, by what its columns mean; those of which nothing is said mean
+    /// nothing. Headings are those of the file.
+    void choose(ColumnChoice choice);
+    /// "Recognised as SkyTrak: 41 of 44 rows can be taken."
+    std::string summary() const;
+
+    /// Texts of the clubs of the shots to be taken that tell no club of the set, each once.
+    std::vector<std::string> unknownClubs(const ClubTables& tables,
+                                          const ClubAnswers& answers) const;
+
+    std::span<const TableColumn> columns() const override;
+    std::size_t rowCount() const override { return preview_.rows.size(); }
+    TableCell cell(std::size_t row, std::size_t column) const override;
+    /// Sets the box of a row; a row with a reason keeps it empty.
+    void tick(std::size_t row, std::size_t column, bool ticked) override;
+
+private:
+    ImportReview() = default;
+
+    ShotFile file_;
+    const Device* device_ = nullptr;
+    ColumnChoice choice_;
+    std::vector<std::string> headings_; ///< none if no row has texts
+    ImportPreview preview_;
+};
+
+} // namespace parabolt

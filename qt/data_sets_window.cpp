@@ -1,0 +1,266 @@
+#include "qt/data_sets_window.h"
+
+#include "qt/chart_view.h"
+#include "qt/sheet_dialog.h"
+#include "qt/table_view.h"
+#include "qt/text.h"
+#include "qt/window_parts.h"
+#include "sets/data_set_words.h"
+#include "sets/landing_chart.h"
+#include "tables/table_text.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QClipboard>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenuBar>
+#include <QScrollArea>
+#include <QShortcut>
+#include <QSplitter>
+#include <QToolButton>
+
+namespace parabolt {
+namespace {
+
+constexpr QSize kUsualSize{1180, 720};
+constexpr std::size_t kDate = 10; ///< characters of "2026-11-23 10:32"
+constexpr std::string_view kWindow = "dataSets";
+
+} // namespace
+
+DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Printer& printer)
+    : logic_(logic),
+      book_(logic.form.Runs),
+      printer_(printer),
+      messages_(services.messages),
+      memory_(services.preferences, kWindow),
+      desktop_(services.desktop),
+      localTime_(services.sessions.localTime),
+      dialogs_(services.ccrpFileDialogs1, services.preferences, services.messages,
+               services.applicationFolder),
+      sets_(book_),
+      base_(new QComboBox),
+      count_(new QLabel),
+      table_(new TableView(sets_, "dataSetsTable", "Data sets")),
+      landing_(new ChartView(
+          "dataSetsLanding", "Landings of the ticked data sets",
+          [this](PictureBox& canvas) { drawLandings(canvas, book_, book_.ticked()); })),
+      halves_(new QSplitter(Qt::Vertical)) {
+    setObjectName(toQt(kWindow));
+    setWindowTitle(toQt(kApplicationTitle) + " - Data Sets");
+    setAttribute(Qt::WA_QuitOnClose, false); // the program ends with the main form
+    setLocale(QLocale::c());
+    base_->setObjectName("dataSetsBase");
+    base_->setAccessibleName("Base set");
+    base_->setToolTip("The set with which the others are compared");
+    base_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    table_->setMinimumHeight(6 * fontMetrics().height());
+    table_->installEventFilter(this);
+    sets_.onTicks = [this] { logic_.plot.redraw(); };
+    buildCommands();
+
+    auto* row = new QHBoxLayout;
+    for (QAction* action : {all_, onlyTicked_, take_, print_})
+        row->addWidget(buttonOf(action));
+    row->addSpacing(16);
+    auto* label = new QLabel("&Base:");
+    label->setBuddy(base_);
+    row->addWidget(label);
+    row->addWidget(base_);
+    row->addStretch();
+    row->addWidget(count_);
+    halves_->addWidget(table_);
+    auto* closeUp = new QScrollArea;
+    closeUp->setWidgetResizable(true);
+    closeUp->setWidget(landing_);
+    closeUp->setMinimumHeight(8 * fontMetrics().height());
+    halves_->addWidget(closeUp);
+    halves_->setStretchFactor(0, 3);
+    halves_->setStretchFactor(1, 2);
+    halves_->setChildrenCollapsible(false);
+    auto* centre = new QWidget;
+    auto* rows = new QVBoxLayout(centre);
+    rows->addLayout(row);
+    rows->addWidget(halves_, 1);
+    setCentralWidget(centre);
+
+    connect(base_, &QComboBox::activated, this, [this](int index) {
+        book_.setBase(index + 1);
+        follow();
+    });
+    connect(table_->model(), &QAbstractItemModel::dataChanged, this, &DataSetsWindow::follow);
+    // The form changes in this thread alone: before it sleeps, and when it wakes, a look is enough.
+    const auto* loop = QAbstractEventDispatcher::instance();
+    connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &DataSetsWindow::follow);
+    connect(loop, &QAbstractEventDispatcher::awake, this, &DataSetsWindow::follow);
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [this] { desktop_.openHelp(); });
+    restore();
+    showState();
+    table_->setFocus();
+}
+
+DataSetsWindow::~DataSetsWindow() {
+    if (isVisible())
+        remember();
+    delete takeCentralWidget(); // before what it shows
+}
+
+void DataSetsWindow::buildCommands() {
+    QMenu* menu = menuBar()->addMenu("&Data Sets");
+    menu->setToolTipsVisible(true);
+    all_ = command(menu, "dataSetsAll", "&All", "Ticks all data sets and shows them",
+                   Qt::CTRL | Qt::SHIFT | Qt::Key_A);
+    onlyTicked_ =
+        command(menu, "dataSetsOnlyTicked", "&Only Ticked",
+                "Shows the ticked data sets alone, here as in the plot", Qt::CTRL | Qt::Key_T);
+    onlyTicked_->setCheckable(true);
+    take_ = command(menu, "dataSetsTake", "&Take into Fields",
+                    "Brings club, ball, weather and launch or swing of the marked set back into "
+                    "the fields",
+                    Qt::CTRL | Qt::Key_Return);
+    print_ = command(menu, "dataSetsPrint", "&Print...",
+                     "Shows the ticked data sets as a page, and prints it", QKeySequence::Print);
+    connect(all_, &QAction::triggered, this, [this] {
+        onlyTicked_->setChecked(false);
+        sets_.tickAll();
+        follow();
+    });
+    connect(onlyTicked_, &QAction::toggled, this, &DataSetsWindow::showOnlyTicked);
+    connect(take_, &QAction::triggered, this, &DataSetsWindow::takeIntoFields);
+    connect(print_, &QAction::triggered, this, &DataSetsWindow::print);
+    menu->addSeparator();
+    connect(command(menu, "dataSetsCopy", "&Copy Table",
+                    "Puts what the table shows on the clipboard", QKeySequence::Copy),
+            &QAction::triggered, this, [this] { table_->copy(); });
+    connect(command(menu, "dataSetsCopyLanding", "Copy C&lose-up",
+                    "Puts a picture of the landings on the clipboard"),
+            &QAction::triggered, this,
+            [this] { QApplication::clipboard()->setImage(pictureImage(landing_->onPaper())); });
+    connect(command(menu, "dataSetsExport", "&Export Table...",
+                    "Writes what the table shows as "
+                    "comma-separated values",
+                    Qt::CTRL | Qt::Key_E),
+            &QAction::triggered, this, &DataSetsWindow::exportTable);
+    menu->addSeparator();
+    menu->addMenu(table_->columnsMenu());
+    menu->addSeparator();
+    connect(command(menu, "dataSetsClose", "Clo&se", "Closes this window", QKeySequence::Close),
+            &QAction::triggered, this, &QWidget::close);
+}
+
+void DataSetsWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    showState();
+}
+
+void DataSetsWindow::hideEvent(QHideEvent* event) {
+    QMainWindow::hideEvent(event);
+    remember();
+}
+
+/// Space ticks, or takes the ticks from, all that is marked.
+bool DataSetsWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
+        tickSelected();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void DataSetsWindow::tickSelected() {
+    const auto rows = table_->selectedRows();
+    if (rows.empty())
+        return;
+    sets_.tickRows(rows, !book_.tag(static_cast<int>(rows.front()) + 1).ticked);
+    follow();
+}
+
+/// Looks at what the form holds now.
+void DataSetsWindow::follow() {
+    if (isVisible() && book_.revision() != shownRevision_)
+        showState();
+}
+
+void DataSetsWindow::showState() {
+    shownRevision_ = book_.revision();
+    table_->refresh();
+    landing_->setMinimumHeight(static_cast<int>((book_.ticked().size() + 5) *
+                                                static_cast<unsigned>(fontMetrics().height())));
+    landing_->redraw();
+    showBases();
+    const auto ticked = book_.ticked();
+    count_->setText(QString("%1 of %2 ticked").arg(ticked.size()).arg(book_.count()));
+    for (QAction* action : {all_, take_})
+        action->setEnabled(book_.count() > 0);
+    print_->setEnabled(!ticked.empty());
+    QStringList words;
+    for (const int number : ticked)
+        words << toQt(wordsOf(book_, number));
+    landing_->setAccessibleDescription(words.join(". "));
+}
+
+void DataSetsWindow::showBases() {
+    base_->clear();
+    for (int number = 1; number <= book_.count(); ++number)
+        base_->addItem(toQt(dataSetName(book_, number)));
+    base_->setCurrentIndex(book_.count() > 0 ? book_.base() - 1 : -1);
+    base_->setEnabled(book_.count() > 0);
+}
+
+void DataSetsWindow::showOnlyTicked(bool only) {
+    table_->setFilter(
+        only ? [this](std::size_t row) { return book_.tag(static_cast<int>(row) + 1).ticked; }
+             : std::function<bool(std::size_t)>());
+}
+
+void DataSetsWindow::takeIntoFields() {
+    if (const auto row = table_->currentRow())
+        logic_.shotEntry.enterShot(shotOf(book_, static_cast<int>(*row) + 1));
+    else
+        messages_.show("Mark the data set first that is to be taken.");
+}
+
+void DataSetsWindow::exportTable() {
+    dialogs_.save(DialogPurpose::ExportTable, "data sets.csv",
+                  [this](std::string_view) { return tableAsCsv(sets_, table_->extract()); });
+}
+
+void DataSetsWindow::print() {
+    SharedText& kept = logic_.form.windows[std::string(kWindow)];
+    SheetContent content;
+    content.title = "Comparison of Data Sets";
+    content.fields = fieldsOf(kept.text());
+    if (content.fields.date.empty())
+        content.fields.date = localTime_().substr(0, kDate);
+    logic_.plot.PreparePrintPlots();
+    content.plot.emplace(logic_.form.printPlot());
+    content.charts = {
+        [this, shown = book_.ticked()](PictureBox& canvas) { drawLandings(canvas, book_, shown); }};
+    content.table = tableAsCells(sets_, sets_.ticked());
+    content.remark = "Base: " + dataSetName(book_, book_.base()) +
+                     ". In this model wind and altitude count about double.";
+    SheetDialog dialog(std::move(content), printer_, messages_, this);
+    dialog.exec();
+    activateWindow();
+    kept = fieldsText(dialog.fields());
+}
+
+/// Size and columns as they were left.
+void DataSetsWindow::restore() {
+    memory_.restore(*table_, "Columns");
+    memory_.restoreSize(*this, kUsualSize);
+    memory_.restore(*halves_, "Heights");
+}
+
+void DataSetsWindow::remember() {
+    memory_.remember(*table_, "Columns");
+    memory_.rememberSize(*this);
+    memory_.remember(*halves_, "Heights");
+}
+
+} // namespace parabolt

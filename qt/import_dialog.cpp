@@ -1,0 +1,236 @@
+#include "qt/import_dialog.h"
+
+#include "qt/table_view.h"
+#include "qt/text.h"
+#include "qt/window_parts.h"
+
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QSignalBlocker>
+
+namespace parabolt {
+namespace {
+
+constexpr QSize kPreviewSize{980, 640};
+constexpr int kIgnored = -1; ///< as the meaning of a column
+
+QComboBox* quantityBox(std::size_t column, const QString& heading) {
+    auto* box = new QComboBox;
+    box->setObjectName(QString("importQuantity%1").arg(column));
+    box->setAccessibleName("Meaning of the column " + heading);
+    box->addItem("(not used)", kIgnored);
+    for (const QuantityText& quantity : quantities())
+        box->addItem(toQt(quantity.name), static_cast<int>(quantity.quantity));
+    return box;
+}
+
+} // namespace
+
+ImportDialog::ImportDialog(ImportReview& review, const QString& fileName, const ClubTables& tables,
+                           const ClubAnswers& known, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
+      review_(review),
+      tables_(tables),
+      known_(known),
+      device_(textLabel("importDevice")),
+      clubsTitle_(new QLabel("Which clubs are &these? The answer is kept with the shots.")),
+      clubsRoom_(new QScrollArea),
+      take_(pushButton("importTake", {})) {
+    setObjectName("importPreview");
+    setWindowTitle("Import " + fileName);
+    setLocale(QLocale::c());
+    resize(kPreviewSize.boundedTo(screen()->availableSize() * 0.9));
+    rows_ = new TableView(review, "importRows", "Rows of the file", this);
+    rows_->horizontalHeader()->setStretchLastSection(true);
+    device_->setAccessibleName("Device");
+    clubsTitle_->setObjectName("importClubsTitle");
+    clubsRoom_->setObjectName("importClubs");
+    clubsRoom_->setWidgetResizable(true);
+    clubsRoom_->setFrameShape(QFrame::NoFrame);
+
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(device_);
+    if (review_.device() == nullptr)
+        rows->addWidget(columnsPanel());
+    rows->addWidget(rows_, 1);
+    rows->addWidget(clubsTitle_);
+    rows->addWidget(clubsRoom_);
+    auto* foot = new QHBoxLayout;
+    auto* cancel = pushButton("importCancel", "&Cancel");
+    foot->addStretch();
+    foot->addWidget(take_);
+    foot->addWidget(cancel);
+    rows->addLayout(foot);
+    connect(take_, &QPushButton::clicked, this, &QDialog::accept);
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(rows_->model(), &QAbstractItemModel::dataChanged, this, [this] { refresh(); });
+    refresh();
+    take_->setFocus();
+}
+
+/// For each column of the file its heading, what it means, and its unit.
+QWidget* ImportDialog::columnsPanel() {
+    auto* panel = new QWidget;
+    auto* lines = new QVBoxLayout(panel);
+    lines->setContentsMargins({});
+    auto* device = new QHBoxLayout;
+    name_ = new QLineEdit(toQt(review_.choice().name));
+    name_->setObjectName("importName");
+    computes_ = new QCheckBox("It c&omputes its carry, at least in part");
+    computes_->setObjectName("importComputes");
+    computes_->setChecked(review_.choice().computesCarry);
+    addLabelled(device, "&Name of the device:", name_);
+    device->addWidget(computes_);
+    lines->addLayout(device);
+
+    auto* grid = new QWidget;
+    auto* cells = new QGridLayout(grid);
+    cells->setContentsMargins(0, 0, 0, 0);
+    const auto titles = review_.columnTitles();
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        const QString heading = toQt(titles[i]);
+        ColumnFields fields{quantityBox(i, heading), new QComboBox};
+        fields.unit->setObjectName(QString("importUnit%1").arg(i));
+        fields.unit->setAccessibleName("Unit of the column " + heading);
+        columns_.push_back(fields);
+        const int column = static_cast<int>(i);
+        auto* title = new QLabel(heading);
+        title->setTextFormat(Qt::PlainText);
+        title->setBuddy(fields.quantity);
+        cells->addWidget(title, 0, column);
+        cells->addWidget(fields.quantity, 1, column);
+        cells->addWidget(fields.unit, 2, column);
+        connect(fields.quantity, &QComboBox::activated, this, [this, i] {
+            offerUnits(i);
+            chooseColumns();
+        });
+        connect(fields.unit, &QComboBox::activated, this, &ImportDialog::chooseColumns);
+    }
+    for (const ChosenColumn& chosen : review_.choice().columns) {
+        if (chosen.column >= columns_.size())
+            continue;
+        const ColumnFields& fields = columns_[chosen.column];
+        fields.quantity->setCurrentIndex(
+            fields.quantity->findData(static_cast<int>(chosen.quantity)));
+        offerUnits(chosen.column);
+        fields.unit->setCurrentIndex(
+            std::max(0, fields.unit->findData(static_cast<int>(chosen.unit))));
+    }
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        columns_[i].unit->setEnabled(columns_[i].unit->count() > 0);
+    cells->setRowStretch(3, 1);
+    auto* room = new QScrollArea;
+    room->setObjectName("importColumns");
+    room->setFrameShape(QFrame::NoFrame);
+    room->setWidgetResizable(true);
+    room->setWidget(grid);
+    room->setFixedHeight(grid->sizeHint().height() + 2 * fontMetrics().height());
+    lines->addWidget(room);
+    connect(name_, &QLineEdit::textChanged, this, &ImportDialog::chooseColumns);
+    connect(computes_, &QCheckBox::toggled, this, &ImportDialog::chooseColumns);
+    return panel;
+}
+
+/// The units in which a column may be, the program's own first.
+void ImportDialog::offerUnits(std::size_t column) {
+    const ColumnFields& fields = columns_[column];
+    fields.unit->clear();
+    const int meaning = fields.quantity->currentData().toInt();
+    if (meaning != kIgnored) {
+        const QuantityText& text = textOf(static_cast<Quantity>(meaning));
+        for (const MeasuredUnit unit : text.units)
+            fields.unit->addItem(toQt(nameOf(unit)), static_cast<int>(unit));
+        fields.unit->setCurrentIndex(
+            std::max(0, fields.unit->findData(static_cast<int>(text.unit))));
+    }
+    fields.unit->setEnabled(fields.unit->count() > 0);
+}
+
+void ImportDialog::chooseColumns() {
+    ColumnChoice choice = review_.choice();
+    choice.name = fromQt(name_->text());
+    choice.computesCarry = computes_->isChecked();
+    choice.columns.clear();
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        const int meaning = columns_[i].quantity->currentData().toInt();
+        if (meaning == kIgnored)
+            continue;
+        choice.columns.push_back(
+            {i,
+             {},
+             static_cast<Quantity>(meaning),
+             columns_[i].unit->count() == 0
+                 ? MeasuredUnit::None
+                 : static_cast<MeasuredUnit>(columns_[i].unit->currentData().toInt())});
+    }
+    review_.choose(std::move(choice));
+    rows_->refresh();
+    refresh();
+}
+
+void ImportDialog::refresh() {
+    device_->setText(toQt(review_.summary()));
+    const std::size_t count = review_.preview().count();
+    take_->setText(count == 1 ? "&Take 1 Shot" : QString("&Take %1 Shots").arg(count));
+    take_->setEnabled(count > 0);
+    askForClubs();
+}
+
+/// A question for each text that tells no club.
+void ImportDialog::askForClubs() {
+    const auto unknown = review_.unknownClubs(tables_, known_);
+    const auto sameTexts = [&] {
+        return std::equal(unknown.begin(), unknown.end(), clubs_.begin(), clubs_.end(),
+                          [](const auto& text, const auto& field) { return text == field.text; });
+    };
+    if (clubsRoom_->widget() != nullptr && sameTexts())
+        return;
+    const ClubAnswers said = answers();
+    clubs_.clear();
+    auto* panel = new QWidget;
+    auto* cells = new QGridLayout(panel);
+    cells->setContentsMargins({});
+    constexpr int kPerRow = 4;
+    for (std::size_t i = 0; i < unknown.size(); ++i) {
+        auto* box = new QComboBox;
+        box->setObjectName(QString("importClub%1").arg(i));
+        box->setAccessibleName("Club that is meant by " + toQt(unknown[i]));
+        box->addItem("(no club)");
+        for (const ClubId club : clubsOfSet())
+            box->addItem(toQt(usualName(club)));
+        if (const auto answer = said.find(unknown[i]); answer != said.end())
+            box->setCurrentText(toQt(usualName(answer->second)));
+        auto* label = new QLabel(toQt(unknown[i]));
+        label->setTextFormat(Qt::PlainText);
+        label->setBuddy(box);
+        const int place = static_cast<int>(i);
+        cells->addWidget(label, place / kPerRow, place % kPerRow * 2);
+        cells->addWidget(box, place / kPerRow, place % kPerRow * 2 + 1);
+        clubs_.push_back({unknown[i], box});
+    }
+    cells->setColumnStretch(2 * kPerRow, 1);
+    clubsRoom_->setWidget(panel);
+    clubsRoom_->setFixedHeight(std::min(panel->sizeHint().height(), 6 * fontMetrics().height()));
+    clubsTitle_->setBuddy(clubs_.empty() ? nullptr : clubs_.front().club);
+    clubsTitle_->setVisible(!clubs_.empty());
+    clubsRoom_->setVisible(!clubs_.empty());
+}
+
+ClubAnswers ImportDialog::answers() const {
+    const auto clubs = clubsOfSet();
+    ClubAnswers answers;
+    for (const ClubField& field : clubs_)
+        if (const int index = field.club->currentIndex(); index > 0)
+            answers[field.text] = clubs[static_cast<std::size_t>(index - 1)];
+    return answers;
+}
+
+} // namespace parabolt

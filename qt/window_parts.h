@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QString>
+
+class QAction;
+class QBoxLayout;
+class QDoubleSpinBox;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QToolButton;
+class QWidget;
+
+namespace parabolt {
+
+// Parts of the windows that are no forms, with their names.
+
+/// A command of a menu; its tip tells the meaning and the key.
+QAction* command(QMenu* menu, const QString& name, const QString& text, const QString& meaning,
+                 const QKeySequence& key = {});
+/// A button for a command, which the Tab key reaches.
+QToolButton* buttonOf(QAction* action);
+
+/// A text that wraps and can be selected.
+QLabel* textLabel(const QString& name);
+
+QPushButton* pushButton(const QString& name, const QString& text);
+
+/// A field for a number with a point, whatever the locale, which takes what is typed when it is
+/// left.
+struct NumberRange {
+    double lowest;
+    double highest;
+    double step;
+    int decimals;
+};
+QDoubleSpinBox* numberField(const QString& name, const QString& accessibleName,
+                            const NumberRange& range);
+
+/// Puts a widget into a row, behind a label whose underlined letter leads to it.
+void addLabelled(QBoxLayout* row, const QString& text, QWidget* widget);
+
+} // namespace parabolt

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "shots/run_book.h"
+#include "shots/shot.h"
+
+#include <string>
+#include <string_view>
+
+namespace parabolt {
+
+/// How people know an operating mode: "Launch". Empty for a number that is none.
+std::string_view modeName(int mode);
+/// How people know a ball option, 1 to 4: "Soft ball". Empty for 0, an unknown one.
+std::string_view ballName(int ball);
+/// A club by type and number: "W-1", "I-7".
+std::string clubName(const RunRecord& run);
+
+/// A data set by number and, if it has one, name: "3 Low spin".
+std::string dataSetName(const RunBook& book, int number);
+
+/// What came of a data set, in short: "3 Low spin: carry 241.2 yd, total 251.0 yd, height 28.1 yd,
+/// landing angle 38.4 degrees, altitude 0 ft".
+std::string wordsOf(const RunBook& book, int number);
+
+/// The shot behind a data set, as it was flown.
+Shot shotOf(const RunBook& book, int number);
+
+} // namespace parabolt

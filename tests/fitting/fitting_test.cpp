@@ -1,0 +1,327 @@
+#include "exchange/csv_reader.h"
+#include "fitting/bag_table.h"
+#include "fitting/carry_chart.h"
+#include "fitting/data_set_entry.h"
+#include "fitting/import_review.h"
+#include "fitting/measured_table.h"
+#include "fitting/measured_words.h"
+#include "mainform/form_shot.h"
+#include "numbers/text_number.h"
+#include "tables/table_text.h"
+#include "tests/support/scripted_form.h"
+#include "tests/support/temporary_folder.h"
+
+#include <numeric>
+
+namespace parabolt::support {
+namespace {
+
+std::string measuredFile(const std::string& name) {
+    return contentOf(PARABOLT_TEST_DATA "/measured/" + name);
+}
+
+/// Two clubs of a device that computes its carry, and a driver.
+constexpr auto kTwoClubs =
+    "Club,Ball speed [mph],Launch angle [deg],Spin [rpm],Carry [yd],Total [yd]\n"
+    "7i,120,17,6500,158,166\n"
+    "7i,118,18,6400,154,161\n"
+    "Driver,160,12,2600,243,266\n"
+    "Gamer,140,13,4000,,\n";
+
+/// A user of the windows without windows.
+struct FittingTest : testing::Test {
+    void take(const std::string& bytes) {
+        const auto review = ImportReview::open(bytes, {});
+        ASSERT_TRUE(review) << review.why().message;
+        fitting.take(review->preview(), "file.csv", {});
+    }
+    void compute() {
+        comparison.follow(acceptedShot(form, form.clubs));
+        EXPECT_TRUE(
+            comparison.accept(*computeComparison(comparison.request()), comparison.generation()));
+        shots.refresh();
+        clubs.refresh();
+    }
+    static std::string cell(const TableSource& table, std::size_t row, std::string_view key) {
+        for (std::size_t i = 0; i < table.columns().size(); ++i)
+            if (table.columns()[i].key == key)
+                return table.cell(row, i).text;
+        return "no column " + std::string(key);
+    }
+    static std::string heading(const TableSource& table, std::string_view key) {
+        for (const TableColumn& column : table.columns())
+            if (column.key == key)
+                return column.heading;
+        return {};
+    }
+
+    ScriptedForm user;
+    MainForm& form = user.form;
+    Fitting fitting{form};
+    Comparison comparison{fitting};
+    MeasuredTable shots{fitting, comparison};
+    ClubsTable clubs{fitting, comparison};
+};
+
+TEST_F(FittingTest, TheDeskCarriesTheSession) {
+    int changes = 0;
+    fitting.Changed.connect([&] { ++changes; });
+    take(kTwoClubs);
+    fitting.change([](MeasuredSession& session) { session.player = "Ann"; });
+    const MeasuredSession kept = fitting.session();
+    const Desk desk = takeDesk(form);
+    user.main.sessions.actionEnded();
+    take(measuredFile("garmin.csv"));
+    fitting.follow();
+    EXPECT_EQ(changes, 3) << "its own state is no other desk's";
+    layDesk(form, desk);
+    Fitting reopened(form);
+    reopened.follow();
+    EXPECT_EQ(reopened.session(), kept);
+    fitting.follow();
+    EXPECT_EQ(fitting.session(), kept);
+    EXPECT_EQ(changes, 4);
+    fitting.change([](MeasuredSession& session) { session.entries.clear(); });
+    form.mnuGoBack.Click(); // to the shots before the second import
+    fitting.follow();
+    EXPECT_EQ(fitting.session().entries.size(), 4U);
+    for (const char* broken : {"", "{", "[]", R"({"entries":7})"}) {
+        form.windows[kMeasuredKey] = broken;
+        fitting.follow();
+        EXPECT_EQ(fitting.session(), MeasuredSession()) << broken;
+    }
+}
+
+TEST_F(FittingTest, TheModelStandsBesideTheDevice) {
+    take(kTwoClubs);
+    EXPECT_EQ(cell(shots, 0, "modelCarry"), "") << "not computed yet";
+    EXPECT_EQ(comparisonInWords(fitting.session(), comparison), "The flights are being computed.");
+    compute();
+    Shot flown;
+    flown.LaunchSpeed = 120;
+    flown.LaunchAngle = 17;
+    flown.RPM = 6500;
+    const double carry = figuresOf(fly(flown)->record).carry;
+    EXPECT_EQ(cell(shots, 0, "modelCarry"), formatPattern(carry, "0.0"));
+    EXPECT_EQ(cell(shots, 0, "differenceCarry"), formatPattern(carry - 158, "0.0"));
+    EXPECT_EQ(cell(shots, 3, "differenceCarry"), "");
+    EXPECT_EQ(cell(shots, 3, "deviceCarry"), "");
+    EXPECT_EQ(heading(shots, "deviceCarry"), "Device carry [yd]");
+    ASSERT_EQ(clubs.rowCount(), 3U);
+    EXPECT_EQ(cell(clubs, 0, "number") + cell(clubs, 0, "carry"), "2156.0");
+    EXPECT_EQ(cell(clubs, 0, "carrySd"), "2.8") << "the root of 8";
+
+    // Left out: it counts no longer, and its row shows it.
+    shots.strike(std::vector<std::size_t>{0});
+    clubs.refresh();
+    EXPECT_EQ(cell(clubs, 0, "carry"), "154.0");
+    EXPECT_EQ(shots.cell(0, 3).look, TableCell::Look::Struck);
+    EXPECT_EQ(sourceInWords(fitting.session()), "file.csv (Parabolt): 4 shots, 1 left out");
+    shots.strike(std::vector<std::size_t>{0, 1}); // one of them isn't out yet
+    EXPECT_TRUE(fitting.session().entries[1].struck);
+    shots.strike(std::vector<std::size_t>{0, 1});
+    EXPECT_FALSE(fitting.session().entries[0].struck);
+    const std::string words = comparisonInWords(fitting.session(), comparison);
+    EXPECT_TRUE(words.starts_with("Model less device, mean of 3 shots: carry ")) << words;
+    EXPECT_NE(words.find("The device computes its carry"), std::string::npos);
+}
+
+TEST_F(FittingTest, FlightsFollowTheWeatherAndNothingElse) {
+    take(kTwoClubs);
+    compute();
+    const auto calm = comparison.flights()[0].figures.carry;
+    user.enter(form.txtHeadSpeed, "80"); // flies nothing here
+    shots.tick(0, 0, true);
+    EXPECT_FALSE(comparison.follow(acceptedShot(form, form.clubs)));
+    user.enter(form.txtWind, "15");
+    ASSERT_TRUE(comparison.follow(acceptedShot(form, form.clubs)));
+    EXPECT_FALSE(comparison.isCurrent());
+    EXPECT_FALSE(comparison.accept({}, comparison.generation() - 1)) << "of the calm";
+    compute();
+    EXPECT_LT(comparison.flights()[0].figures.carry, calm - 10);
+    // Turned into calm air, a carry against the wind is longer than the device's.
+    fitting.change([](MeasuredSession& session) { session.normalise = true; });
+    compute();
+    EXPECT_GT(std::stod(cell(shots, 0, "normalised")), 168);
+    EXPECT_EQ(cell(shots, 3, "normalised"), "");
+    EXPECT_NE(
+        comparisonInWords(fitting.session(), comparison).find("take such a correction for half"),
+        std::string::npos);
+    std::stop_source stopped;
+    stopped.request_stop();
+    EXPECT_FALSE(computeComparison(comparison.request(), stopped.get_token()));
+}
+
+TEST_F(FittingTest, ItsOwnTableReadsBack) {
+    for (const char* name : {"trackman.csv", "garmin.csv", "flightscope.csv", "own.csv"}) {
+        take(measuredFile(name));
+        compute();
+        const auto before = fitting.session();
+        const auto back = ImportReview::open(tableAsCsv(shots, wholeTable(shots)), {});
+        ASSERT_TRUE(back) << name;
+        EXPECT_EQ(back->preview().computesCarry, before.computesCarry) << name;
+        for (const ImportRow& row : back->preview().rows)
+            EXPECT_EQ(row.reason, "") << name;
+        const auto taken = back->preview().taken();
+        ASSERT_EQ(taken.size(), before.entries.size()) << name;
+        for (std::size_t i = 0; i < taken.size(); ++i) {
+            EXPECT_EQ(taken[i].club, before.entries[i].shot.club);
+            EXPECT_EQ(taken[i].ballSpeed, before.entries[i].shot.ballSpeed);
+            EXPECT_EQ(taken[i].backSpin, before.entries[i].shot.backSpin);
+            EXPECT_EQ(taken[i].device, before.entries[i].shot.device) << name;
+        }
+    }
+}
+
+TEST(ImportReview, AsksWhatNobodyKnowsAndRemembersIt) {
+    MemoryPreferences preferences;
+    ColumnMemory memory(preferences);
+    auto review = ImportReview::open(measuredFile("unknown.csv"), memory.choices());
+    ASSERT_TRUE(review);
+    EXPECT_EQ(review->device(), nullptr);
+    EXPECT_EQ(review->columnTitles(), (Texts{"Stick", "V ball", "Loft out", "Spin", "Flight"}));
+    EXPECT_EQ(review->preview().count(), 0U);
+    EXPECT_EQ(review->cell(0, 8).text, "no ball speed");
+    review->tick(0, 0, true);
+    EXPECT_EQ(review->preview().count(), 0U) << "a row with a reason stays out";
+    ColumnChoice choice{"Radar", true, {}};
+    using enum Quantity;
+    using enum MeasuredUnit;
+    choice.columns = {{0, {}, Club, None},
+                      {1, {}, BallSpeed, MetresPerSecond},
+                      {2, {}, LaunchAngle, Degrees},
+                      {3, {}, BackSpin, Rpm},
+                      {4, {}, Carry, Metres}};
+    review->choose(choice);
+    const auto shots = review->preview().taken();
+    ASSERT_EQ(shots.size(), 2U);
+    EXPECT_NEAR(shots[0].ballSpeed, 111.85, 0.01); // 180 km/h
+    EXPECT_NEAR(*shots[0].device.carry, 153.1, 0.05);
+    review->tick(1, 0, false);
+    EXPECT_EQ(review->preview().count(), 1U);
+    EXPECT_EQ(review->unknownClubs(InitClubTables(), {}), Texts{"Seven"});
+    EXPECT_TRUE(review->unknownClubs(InitClubTables(), {{"Seven", {true, 7}}}).empty());
+
+    memory.remember(review->choice());
+    const auto again = ImportReview::open(measuredFile("unknown.csv"), memory.choices());
+    EXPECT_EQ(again->preview().count(), 2U);
+    EXPECT_EQ(again->preview().device, "Radar");
+    for (int i = 0; i < 20; ++i) {
+        ColumnChoice other = choice;
+        other.columns[0].heading = "Club " + std::to_string(i % 12);
+        memory.remember(other);
+    }
+    EXPECT_EQ(memory.choices().size(), 8U);
+    EXPECT_EQ(memory.choices()[0].columns[0].heading, "Club 7");
+    // Without headings columns go by their numbers.
+    EXPECT_EQ(ImportReview::open("150,12,2600\n151,13,2500\n", {})->columnTitles().front(),
+              "Column 1: 150");
+    EXPECT_FALSE(ImportReview::open("", {}));
+}
+
+TEST_F(FittingTest, ShotsBecomeDataSetsInTheirAir) {
+    user.enter(form.txtTemperature, "80");
+    Shot cold = takeShot(form, form.clubs);
+    cold.Temperature = 40;
+    cold.LaunchSpeed = 150;
+    Shot warm = cold;
+    warm.Temperature = 80;
+    EXPECT_EQ(runOnForm(form, user.main.shotEntry, std::vector{cold, warm}), 2);
+    ASSERT_EQ(form.Runs.count(), 2);
+    EXPECT_EQ(form.Runs[1].Temperature, 40);
+    EXPECT_EQ(form.Runs[2].Temperature, 80);
+    EXPECT_EQ(form.Runs[1].Mode, OperatingMode::Launch);
+    EXPECT_EQ(form.txtTemperature.text(), "80");
+    cold.Temperature = 10; // no field takes it
+    EXPECT_EQ(runOnForm(form, user.main.shotEntry, std::vector{cold, warm}), 0);
+    EXPECT_EQ(user.messages.texts.size(), 1U);
+    EXPECT_EQ(form.shot.Temperature, 80);
+
+    // A full buffer asks: yes ends the series, no begins afresh.
+    const std::vector<Shot> many(23, warm);
+    user.messages.answers = {Answer::Yes};
+    user.files.cancel("/");
+    EXPECT_EQ(runOnForm(form, user.main.shotEntry, many), 22);
+    EXPECT_EQ(form.Runs.count(), 24);
+    user.messages.answers = {Answer::No};
+    EXPECT_EQ(runOnForm(form, user.main.shotEntry, std::vector{warm, warm}), 2);
+    EXPECT_EQ(form.Runs.count(), 2);
+}
+
+TEST_F(FittingTest, TheBagTellsItsGaps) {
+    take(kTwoClubs);
+    BagTable bag(fitting);
+    const Shot conditions = acceptedShot(form, form.clubs);
+    EXPECT_EQ(cell(bag, 0, "carry"), "");
+    for (std::size_t row = 0; row < bag.rowCount(); ++row)
+        bag.tick(row, 0, row == 0 || row == 14 || row == 15); // driver, 7 and 8 iron
+    bag.fly(form.clubs, conditions);
+    ASSERT_EQ(bag.flights().size(), 3U);
+    EXPECT_TRUE(bag.isCurrent(form.clubs, conditions));
+    EXPECT_EQ(cell(bag, 14, "measuredCarry"), "156.0");
+    EXPECT_EQ(cell(bag, 14, "shots"), "2");
+    EXPECT_NEAR(std::stod(cell(bag, 0, "gap")),
+                std::stod(cell(bag, 0, "carry")) - std::stod(cell(bag, 14, "carry")), 0.11);
+    EXPECT_EQ(cell(bag, 0, "gapIs"), "wide");
+    EXPECT_EQ(cell(bag, 14, "gapIs"), "good");
+    EXPECT_TRUE(bag.summary().starts_with("Too wide: Driver to 7i ")) << bag.summary();
+    EXPECT_TRUE(bag.summary().ends_with("Measured, but not in the bag: Gamer."));
+    // Names and limits fly nothing anew; a name also finds its measured shots.
+    bag.enter(15, 1, "Gamer");
+    fitting.change([](MeasuredSession& session) { session.bag.narrowest = 17; });
+    bag.refresh();
+    EXPECT_TRUE(bag.isCurrent(form.clubs, conditions));
+    EXPECT_EQ(cell(bag, 14, "gapIs"), "narrow");
+    EXPECT_EQ(bag.summary().find("not in the bag"), std::string::npos);
+    bag.enter(15, 1, "");
+    EXPECT_EQ(cell(bag, 15, "name"), "8i");
+    // The weather, the set, the clubs owned do.
+    Shot windy = conditions;
+    windy.WindSpeed = 10;
+    EXPECT_FALSE(bag.isCurrent(form.clubs, windy));
+    bag.tick(1, 0, true);
+    EXPECT_FALSE(bag.isCurrent(form.clubs, conditions));
+    EXPECT_EQ(bag.cell(2, 1).look, TableCell::Look::Faint);
+}
+
+TEST(CarryChart, StandsToScale) {
+    ControlSet controls;
+    PictureBox canvas(controls, "chart", kWhite, kBlack);
+    canvas.setGeometry({0, 0, 9000, 6000});
+    const std::vector<CarryLine> lines = {
+        {"7i", 150, Spread{3, 140, 10, 125, 155}}, {"Driver", 250, std::nullopt}, {"9i", 145, {}}};
+    const std::vector<BagGap> gaps = {{0, 1, 100, BagGap::Kind::TooWide},
+                                      {2, 0, 5, BagGap::Kind::TooNarrow}};
+    drawCarries(canvas, lines, gaps, "nothing");
+    std::map<std::string, Place> texts;
+    for (const DrawnText& text : shapesOf<DrawnText>(canvas))
+        texts[text.text] = text.place;
+    EXPECT_LT(texts.at("Driver").y, texts.at("7i").y) << "the longest first";
+    EXPECT_LT(texts.at("7i").y, texts.at("9i").y);
+    EXPECT_TRUE(texts.contains("100.0 wide") && texts.contains("5.0 narrow"));
+    const auto yard = [&](double yards) { // from two numbers of the axis
+        return texts.at("140").x + (yards - 140) * (texts.at("240").x - texts.at("140").x) / 100;
+    };
+    const auto strokes = shapesOf<DrawnLine>(canvas);
+    const auto stands = [&](double yards, double y) {
+        return std::any_of(strokes.begin(), strokes.end(), [&](const DrawnLine& line) {
+            return std::abs(line.from.x - yard(yards)) < 1 && line.from.x == line.to.x &&
+                   line.from.y < y && line.to.y > y && line.pen == 3;
+        });
+    };
+    EXPECT_TRUE(stands(150, texts.at("7i").y) && stands(250, texts.at("Driver").y));
+    EXPECT_TRUE(stands(140, texts.at("7i").y)) << "the mean of the measured";
+    const auto boxes = shapesOf<DrawnBox>(canvas);
+    EXPECT_TRUE(std::any_of(boxes.begin(), boxes.end(), [&](const DrawnBox& box) {
+        return std::abs(box.corner.x - yard(130)) < 1 &&
+               std::abs(box.size.x - yard(150) + yard(130)) < 1;
+    })) << "one deviation to both sides";
+    EXPECT_EQ(carriesInWords(lines),
+              "7i: computed 150.0 yd, measured 140.0 yd \u00b1 10.0; Driver: computed 250.0 yd; "
+              "9i: computed 145.0 yd");
+    drawCarries(canvas, {}, {}, "nothing");
+    EXPECT_EQ(shapesOf<DrawnText>(canvas).at(0).text, "nothing");
+}
+
+} // namespace
+} // namespace parabolt::support
