@@ -28,9 +28,10 @@ enum BagColumn {
     MeasuredTotal,
 };
 
-const std::array<TableColumn, 14>& bagColumns() {
+/// `whose` is "Device" or "Measured".
+std::array<TableColumn, 14> bagColumns(const std::string& whose) {
     using Holds = TableColumn::Holds;
-    static const std::array<TableColumn, 14> kColumns = {{
+    return {{
         {"owned", "Own", "Ticked clubs are in the bag. Key: Space", true, Holds::Ticks},
         {"name", "Name", "Your name of the club: type another one (F2)", true, Holds::Names},
         {"number", "Club", "The club of the editor's set", true, Holds::Texts},
@@ -42,11 +43,10 @@ const std::array<TableColumn, 14>& bagColumns() {
         {"height", "Height [yd]", "Greatest height"},
         {"landingAngle", "Landing angle [deg]", "Angle of the path against the ground"},
         {"shots", "Shots", "Measured shots with the club that count"},
-        {"measuredCarry", "Measured carry [yd]", "Mean carry of the measured shots"},
+        {"measuredCarry", whose + " carry [yd]", "Mean carry of the measured shots"},
         {"measuredSd", "SD carry [yd]", "Spread of their carry: standard deviation"},
-        {"measuredTotal", "Measured total [yd]", "Mean total of the measured shots", false},
+        {"measuredTotal", whose + " total [yd]", "Mean total of the measured shots", false},
     }};
-    return kColumns;
 }
 
 std::string_view wordOf(BagGap::Kind kind) {
@@ -168,7 +168,9 @@ std::string BagTable::summary() const {
 }
 
 std::span<const TableColumn> BagTable::columns() const {
-    return bagColumns();
+    static const auto kOfDevice = bagColumns(std::string(figuresHeading(true)));
+    static const auto kMeasured = bagColumns(std::string(figuresHeading(false)));
+    return fitting_.session().computesCarry ? kOfDevice : kMeasured;
 }
 
 TableCell BagTable::cell(std::size_t row, std::size_t column) const {

@@ -92,13 +92,13 @@ public:
             high_ += step_;
     }
 
-    void draw(std::span<const BagGap> gaps) {
+    void draw(std::span<const BagGap> gaps, const std::string& whose) {
         axis();
         for (std::size_t place = 0; place < order_.size(); ++place)
             club(place);
         for (const BagGap& gap : gaps)
             between(gap);
-        legend();
+        legend(whose);
         pen(ink_);
     }
 
@@ -182,7 +182,7 @@ private:
     }
 
     /// Explains what is on the chart.
-    void legend() {
+    void legend(const std::string& whose) {
         const bool measured = std::any_of(lines_.begin(), lines_.end(),
                                           [](const auto& line) { return line.measured; });
         const bool computed = std::any_of(lines_.begin(), lines_.end(),
@@ -201,7 +201,7 @@ private:
                         kMeasuredColour);
             x += 5 * kGapToText;
             pen(ink_);
-            canvas_.label({x, kMiddle}, "measured: mean \u00b1 SD, least to greatest", {0, 0.5});
+            canvas_.label({x, kMiddle}, whose + ": mean \u00b1 SD, least to greatest", {0, 0.5});
         }
     }
 
@@ -221,17 +221,17 @@ private:
 } // namespace
 
 void drawCarries(PictureBox& canvas, std::span<const CarryLine> lines, std::span<const BagGap> gaps,
-                 std::string_view none) {
+                 std::string_view whose, std::string_view none) {
     canvas.cls();
     const auto yards = yardsOf(lines);
     if (yards.empty())
         canvas.label({canvas.geometry().width / 2, canvas.geometry().height / 2}, std::string(none),
                      {0.5, 0.5});
     else
-        CarryDrawer(canvas, lines, yards).draw(gaps);
+        CarryDrawer(canvas, lines, yards).draw(gaps, lowerCase(whose));
 }
 
-std::string carriesInWords(std::span<const CarryLine> lines) {
+std::string carriesInWords(std::span<const CarryLine> lines, std::string_view whose) {
     std::string words;
     for (const CarryLine& line : lines) {
         if (!line.computed && !line.measured)
@@ -240,7 +240,7 @@ std::string carriesInWords(std::span<const CarryLine> lines) {
         if (line.computed)
             words += " computed " + formatPattern(*line.computed, "0.0") + " yd";
         if (line.measured)
-            words += std::string(line.computed ? "," : "") + " measured " +
+            words += std::string(line.computed ? ", " : " ") + lowerCase(whose) + " " +
                      formatPattern(line.measured->mean, "0.0") + " yd" +
                      (line.measured->deviation
                           ? " \u00b1 " + formatPattern(*line.measured->deviation, "0.0")

@@ -89,7 +89,7 @@ BagWindow::BagWindow(frmMain& logic, Fitting& fitting, const FormServices& servi
       table_(new TableView(bag_, "bagTable", "Clubs of the bag")),
       chart_(new ChartView("bagGaps", "Carries of the bag and the gaps between them",
                            [this](PictureBox& canvas) {
-                               drawCarries(canvas, carryLines(), bag_.gaps(), kUnflown);
+                               drawCarries(canvas, carryLines(), bag_.gaps(), whose(), kUnflown);
                            })),
       halves_(new QSplitter(Qt::Horizontal)),
       summary_(textLabel("bagSummary")) {
@@ -222,7 +222,7 @@ void BagWindow::refresh() {
     bag_.refresh();
     table_->refresh();
     chart_->redraw();
-    chart_->setAccessibleDescription(toQt(carriesInWords(carryLines())));
+    chart_->setAccessibleDescription(toQt(carriesInWords(carryLines(), whose())));
     showChoices();
     summary_->setText(toQt(bag_.summary()) +
                       (current_ ? "" : " The form or the bag has changed since: fly it again."));
@@ -310,8 +310,8 @@ void BagWindow::print() {
     SheetContent content;
     content.title = "Bag";
     const std::vector<BagGap> gaps(bag_.gaps().begin(), bag_.gaps().end());
-    content.charts = {[lines = carryLines(), gaps](PictureBox& canvas) {
-        drawCarries(canvas, lines, gaps, kUnflown);
+    content.charts = {[lines = carryLines(), gaps, figures = whose()](PictureBox& canvas) {
+        drawCarries(canvas, lines, gaps, figures, kUnflown);
     }};
     TableExtract extract = table_->extract();
     std::erase_if(extract.rows, [&](std::size_t row) { return !session.bag.clubs[row].owned; });

@@ -46,6 +46,8 @@ private:
     void takeChoices();
     void remember();
     std::vector<CarryLine> carryLines() const;
+    /// "Device" or "Measured".
+    std::string_view whose() const { return figuresHeading(fitting_.session().computesCarry); }
 
     void fly();
     void ownSelected();

@@ -104,8 +104,9 @@ void MeasuredWindow::print() {
     const MeasuredSession& session = fitting_.session();
     SheetContent content;
     content.title = "Measured Shots";
-    content.charts = {
-        [lines = carryLines()](PictureBox& canvas) { drawCarries(canvas, lines, {}, {}); }};
+    content.charts = {[lines = carryLines(), figures = whose()](PictureBox& canvas) {
+        drawCarries(canvas, lines, {}, figures, {});
+    }};
     content.table = tableAsCells(clubs_, clubsView_->extract());
     content.remark = sourceInWords(session) + ". " + comparisonInWords(session, comparison_);
     showSheet(fitting_, std::move(content), localTime_().substr(0, kDateLetters), printer_,

@@ -79,9 +79,10 @@ MeasuredWindow::MeasuredWindow(frmMain& logic, Fitting& fitting, const FormServi
       normalise_(new QCheckBox("&Normalise carries to calm air")),
       shotsView_(new TableView(shots_, "measuredTable", "Measured shots")),
       clubsView_(new TableView(clubs_, "measuredClubs", "Measured shots by club")),
-      chart_(new ChartView(
-          "measuredGaps", "Carries of the clubs",
-          [this](PictureBox& canvas) { drawCarries(canvas, carryLines(), {}, kNoChart); })),
+      chart_(new ChartView("measuredGaps", "Carries of the clubs",
+                           [this](PictureBox& canvas) {
+                               drawCarries(canvas, carryLines(), {}, whose(), kNoChart);
+                           })),
       halves_(new QSplitter(Qt::Vertical)),
       below_(new QSplitter(Qt::Horizontal)),
       summary_(textLabel("measuredSummary")) {
@@ -291,7 +292,7 @@ void MeasuredWindow::refresh() {
     shotsView_->refresh();
     clubsView_->refresh();
     chart_->redraw();
-    chart_->setAccessibleDescription(toQt(carriesInWords(carryLines())));
+    chart_->setAccessibleDescription(toQt(carriesInWords(carryLines(), whose())));
     showChoices();
     showTexts();
 }

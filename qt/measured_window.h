@@ -55,6 +55,8 @@ private:
     void takeAir();
     void remember();
     std::vector<CarryLine> carryLines() const;
+    /// "Device" or "Measured".
+    std::string_view whose() const { return figuresHeading(fitting_.session().computesCarry); }
 
     // Its commands.
     void importFile();

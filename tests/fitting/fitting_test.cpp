@@ -292,7 +292,7 @@ TEST(CarryChart, StandsToScale) {
         {"7i", 150, Spread{3, 140, 10, 125, 155}}, {"Driver", 250, std::nullopt}, {"9i", 145, {}}};
     const std::vector<BagGap> gaps = {{0, 1, 100, BagGap::Kind::TooWide},
                                       {2, 0, 5, BagGap::Kind::TooNarrow}};
-    drawCarries(canvas, lines, gaps, "nothing");
+    drawCarries(canvas, lines, gaps, "Device", "nothing");
     std::map<std::string, Place> texts;
     for (const DrawnText& text : shapesOf<DrawnText>(canvas))
         texts[text.text] = text.place;
@@ -316,10 +316,10 @@ TEST(CarryChart, StandsToScale) {
         return std::abs(box.corner.x - yard(130)) < 1 &&
                std::abs(box.size.x - yard(150) + yard(130)) < 1;
     })) << "one deviation to both sides";
-    EXPECT_EQ(carriesInWords(lines),
-              "7i: computed 150.0 yd, measured 140.0 yd \u00b1 10.0; Driver: computed 250.0 yd; "
+    EXPECT_EQ(carriesInWords(lines, "Device"),
+              "7i: computed 150.0 yd, device 140.0 yd \u00b1 10.0; Driver: computed 250.0 yd; "
               "9i: computed 145.0 yd");
-    drawCarries(canvas, {}, {}, "nothing");
+    drawCarries(canvas, {}, {}, "Device", "nothing");
     EXPECT_EQ(shapesOf<DrawnText>(canvas).at(0).text, "nothing");
 }
 
