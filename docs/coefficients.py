@@ -13,14 +13,14 @@ from decimal import Decimal
 from pathlib import Path
 
 CODE = ["engine/air.cpp", "engine/units.h", "engine/impact.cpp", "engine/flight_step.h", "engine/landing.cpp"]
-BALLS = "mainform/defaults.cpp"
+BALLS = "shots/ball_kinds.h"
 SECTIONS = ["Air", "Impact", "Flight", "Landing"]
 # What belongs to a formula itself: powers, halves, steps of 100 Pa, Celsius from Fahrenheit.
 PLAIN = {Decimal(n) for n in ("1", "2", "5", "8", "9", "10", "16", "100", "160", "1.5")}
 NO_FORMULA = {"kRadiansPerTurnShown"}  # stands in the one of the roll with the same digits
 
 CONSTANT = re.compile(r"constexpr\s+(?:float|double)\s+(k\w+)\s*=\s*(-?[\d.]+(?:e-?\d+)?)F?;")
-BALL = re.compile(r"\{&ShotControls::(BallOpt\d), (-?[\d.]+)F, (-?[\d.]+)F,")
+BALL = re.compile(r"\{(-?[\d.]+)F, (-?[\d.]+)F, (\d)\}")
 NUMBER = re.compile(r"(?<![\w.])\d+(?:\.\d+)?(?:e-?\d+)?")
 
 
@@ -30,10 +30,10 @@ def code_constants(root):
     for file in CODE:
         for name, value in CONSTANT.findall((root / file).read_text(encoding="utf-8")):
             found[file, name] = Decimal(value)
-    for button, slope, exponent in BALL.findall((root / BALLS).read_text(encoding="utf-8")):
+    for slope, exponent, ball in BALL.findall((root / BALLS).read_text(encoding="utf-8")):
         for name, value in (("Slope1", Decimal(slope)), ("CD1", Decimal(exponent))):
             if value != 0:
-                found[BALLS, f"{button} {name}"] = value
+                found[BALLS, f"Ball {ball} {name}"] = value
     return found
 
 

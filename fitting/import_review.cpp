@@ -23,7 +23,7 @@ bool forSameHeadings(const ColumnChoice& one, const ColumnChoice& other) {
                       });
 }
 
-enum ReviewColumn { Take, Line, Club, BallSpeed, LaunchAngle, Spin, Carry, Total, Note };
+enum class ReviewColumn { Take, Line, Club, BallSpeed, LaunchAngle, Spin, Carry, Total, Note };
 
 const std::array<TableColumn, 9>& reviewColumns() {
     using Holds = TableColumn::Holds;
@@ -149,32 +149,32 @@ std::span<const TableColumn> ImportReview::columns() const {
 TableCell ImportReview::cell(std::size_t row, std::size_t column) const {
     const ImportRow& shown = preview_.rows[row];
     TableCell cell;
-    switch (column) {
-    case Take:
+    switch (static_cast<ReviewColumn>(column)) {
+    case ReviewColumn::Take:
         cell.ticked = shown.taken;
         break;
-    case Line:
+    case ReviewColumn::Line:
         cell = numberCell(static_cast<double>(shown.line), "0");
         break;
-    case Club:
+    case ReviewColumn::Club:
         cell.text = shown.shot.club;
         break;
-    case BallSpeed:
+    case ReviewColumn::BallSpeed:
         cell = launchCell(shown, &MeasuredShot::ballSpeed, "0.0");
         break;
-    case LaunchAngle:
+    case ReviewColumn::LaunchAngle:
         cell = launchCell(shown, &MeasuredShot::launchAngle, "0.0");
         break;
-    case Spin:
+    case ReviewColumn::Spin:
         cell = launchCell(shown, &MeasuredShot::backSpin, "0");
         break;
-    case Carry:
+    case ReviewColumn::Carry:
         cell = figureCell(shown.shot.device.carry);
         break;
-    case Total:
+    case ReviewColumn::Total:
         cell = figureCell(shown.shot.device.total);
         break;
-    default:
+    case ReviewColumn::Note:
         cell.text = shown.reason.empty() ? shown.remark : shown.reason;
     }
     if (!shown.reason.empty())
@@ -184,7 +184,7 @@ TableCell ImportReview::cell(std::size_t row, std::size_t column) const {
 
 void ImportReview::tick(std::size_t row, std::size_t column, bool ticked) {
     ImportRow& shown = preview_.rows[row];
-    if (column == Take && shown.reason.empty())
+    if (static_cast<ReviewColumn>(column) == ReviewColumn::Take && shown.reason.empty())
         shown.taken = ticked;
 }
 

@@ -32,7 +32,7 @@ private:
     struct Kept {
         Session session;
         bool beforeWipe;
-        unsigned long number; ///< rises with the time of keeping
+        unsigned long number = 0; ///< rises with the time of keeping
     };
     struct Small {
         Change change;

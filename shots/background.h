@@ -24,6 +24,7 @@ public:
 
     /// Never waits.
     void begin(Task task);
+    /// Ends the work in hand, without waiting.
     void cancel();
 
 private:

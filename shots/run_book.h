@@ -15,6 +15,7 @@ struct DataSetTag {
     std::string name;      ///< as typed; empty before
     bool ticked = true;    ///< chosen for the plot and for comparisons
     std::int16_t ball = 0; ///< ball option of the shot, 1 to 4; 0 where nobody knows it any more
+    /// All members are equal.
     friend bool operator==(const DataSetTag&, const DataSetTag&) = default;
 };
 
@@ -41,12 +42,15 @@ public:
     /// Elements 1 to `count()` are the data sets; element 0 stays empty.
     std::span<const RunRecord> records() const { return runs_; }
 
+    /// What the user made of the data set of a number from 1 to `count()`.
     const DataSetTag& tag(int number) const { return tags_.at(static_cast<std::size_t>(number)); }
+    /// Puts another tag on the data set of such a number.
     void setTag(int number, DataSetTag tag);
     /// The numbers of the ticked data sets, rising.
     std::vector<int> ticked() const;
     /// The data set with which the others are compared: the first, until another one is chosen.
     int base() const { return base_ <= count() ? base_ : 1; }
+    /// Compares with the data set of such a number from now on.
     void setBase(int number);
 
     /// Adds an empty data set, ticked.
