@@ -15,7 +15,6 @@ namespace parabolt::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
-using nlohmann::json;
 
 /// A field of a club in files for people.
 struct ClubField {
@@ -77,21 +76,21 @@ std::optional<ClubId> clubOfName(std::string_view name) {
 }
 
 Outcome<ClubTables, std::string> clubsOfJson(std::string_view text) {
-    const json root = json::parse(text, nullptr, false);
+    const nlohmann::json root = nlohmann::json::parse(text, nullptr, false);
     ClubTables clubs;
     if (!root.is_object() || !root.contains("clubs") || !root["clubs"].is_array())
         return because(std::string("It holds no JSON object with an array \"clubs\"."));
     for (const auto& [key, member] : kTexts)
         if (const auto found = root.find(key); found != root.end() && found->is_string())
             clubs.*member = found->get<std::string>();
-    for (const json& entry : root["clubs"]) {
+    for (const nlohmann::json& entry : root["clubs"]) {
         const auto name = entry.is_object() ? entry.find("club") : entry.end();
         const auto club = name != entry.end() && name->is_string()
                               ? clubOfName(name->get<std::string>())
                               : std::nullopt;
         if (!club)
             return because(R"(A club without a known name, such as "Driver" or "7i": )" +
-                           entry.dump(-1, ' ', false, json::error_handler_t::replace));
+                           entry.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
         for (const ClubField& field : kFields) {
             const auto value = entry.find(field.column.key);
             if (value == entry.end() || !value->is_number())
