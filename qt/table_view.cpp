@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <set>
 
 namespace parabolt {
@@ -160,6 +161,21 @@ TableExtract TableView::extract() const {
             extract.columns.push_back(column);
     }
     return extract;
+}
+
+void TableView::setHint(const QString& hint) {
+    hint_ = hint;
+    setAccessibleDescription(sorted_.rowCount() == 0 ? hint : QString());
+    viewport()->update();
+}
+
+void TableView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (sorted_.rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, hint_);
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
