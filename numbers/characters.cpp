@@ -52,14 +52,20 @@ std::string asName(std::string_view text, std::size_t most) {
 
 std::string elided(std::string_view text, double room,
                    const std::function<double(std::string_view)>& widthOf) {
-    std::string shown(text);
+    if (widthOf(text) <= room)
+        return std::string(text);
     const std::size_t count = characterCount(text);
-    for (std::size_t kept = count; kept > 0 && widthOf(shown) > room; --kept) {
-        const std::size_t tail = (kept - 1) / 2;
-        shown = text.substr(0, characterStart(text, kept - 1 - tail));
-        shown.append("\u2026").append(text.substr(characterStart(text, count - tail)));
+    const auto withLetters = [&](std::size_t letters) {
+        const std::size_t tail = letters / 2;
+        return std::string(text.substr(0, characterStart(text, letters - tail))) + "\u2026" +
+               std::string(text.substr(characterStart(text, count - tail)));
+    };
+    std::size_t fits = 0;
+    for (std::size_t tooMany = count; tooMany > fits + 1;) {
+        const std::size_t letters = (fits + tooMany) / 2;
+        (widthOf(withLetters(letters)) <= room ? fits : tooMany) = letters;
     }
-    return shown;
+    return withLetters(fits);
 }
 
 std::string lowerCase(std::string_view text) {

@@ -19,6 +19,7 @@ constexpr double kPointsApart = 5; ///< of the lifted curve, pixels
 constexpr int kRim = 5;            ///< pens of the lifted curve
 constexpr int kCurve = 3;
 constexpr int kGap = 14;         ///< between the point and the label
+constexpr int kLetters = 48;     ///< of a line, about
 constexpr int kPointsOfKey = 10; ///< a tenth of a second
 constexpr int kPointsOfLeap = 50;
 
@@ -190,7 +191,9 @@ void PlotReadout::show(PathPoint point) {
 void PlotReadout::tell(const QString& text) {
     label_->setAccessibleName(text);
     QStringList lines = text.split('\n');
-    lines[0] = label_->fontMetrics().elidedText(lines[0], Qt::ElideMiddle, width() * 2 / 5);
+    const QFontMetrics metrics = label_->fontMetrics();
+    const int widest = std::min(width() * 2 / 5, kLetters * metrics.averageCharWidth());
+    lines[0] = metrics.elidedText(lines[0], Qt::ElideMiddle, widest);
     label_->setText(lines.join('\n'));
 }
 

@@ -57,6 +57,7 @@ TableView::TableView(TableSource& source, const QString& name, const QString& ac
     setAlternatingRowColors(true);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollMode(ScrollPerPixel);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     verticalHeader()->hide();
@@ -112,13 +113,15 @@ void TableView::lay(const TableLayout& layout) {
         }
 }
 
-/// Fits the heading and what stands below it; leaves room for names to come.
+/// Fits the heading and what stands below it; leaves room for names to come, but not for any
+/// length.
 int TableView::usualWidth(int column) const {
-    constexpr int kName = 16; // characters
-    const bool named =
-        source_.columns()[static_cast<std::size_t>(column)].holds == TableColumn::Holds::Names;
-    return std::max({horizontalHeader()->sectionSizeHint(column), sizeHintForColumn(column),
-                     named ? kName * fontMetrics().averageCharWidth() : 0});
+    const int letter = fontMetrics().averageCharWidth();
+    const int heading = horizontalHeader()->sectionSizeHint(column);
+    const int cells = std::max(sizeHintForColumn(column), heading);
+    if (source_.columns()[static_cast<std::size_t>(column)].holds != TableColumn::Holds::Names)
+        return cells;
+    return std::max(heading, std::clamp(cells, 16 * letter, 32 * letter));
 }
 
 std::string TableView::layoutText() const {

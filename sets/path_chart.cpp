@@ -19,9 +19,10 @@ constexpr double kPathTick = 80;
 constexpr double kAcrossApart = 900; ///< between the numbers of an axis, at least
 constexpr double kUpApart = 400;
 constexpr double kPathMark = 50; ///< radius of the disc at the landing
-// Where the numbers stand, in shares of the width: away from tee and landings.
-constexpr double kFirstNumber = 0.15;
-constexpr double kLastNumber = 0.85;
+constexpr std::size_t kFew = 8;  ///< paths, of which each is drawn broad
+// Where the numbers stand, in shares of their paths: away from tee and landings.
+constexpr double kFirstNumber = 0.22;
+constexpr double kLastNumber = 0.87;
 
 class PathDrawer {
 public:
@@ -57,8 +58,10 @@ private:
         canvas_.setForeColor(colour);
         canvas_.setDrawWidth(width);
     }
+    /// A point below the ground, as the last of a path, stands on it.
     Place place(double x, double y) const {
-        return {kLeftOfPaths + x / far_ * size_.x, kAbovePaths + (1 - y / high_) * size_.y};
+        return {kLeftOfPaths + x / far_ * size_.x,
+                kAbovePaths + (1 - std::max(y, 0.0) / high_) * size_.y};
     }
     /// Round values up to the end of an axis, which becomes the last of them.
     static std::vector<double> ticks(double& end, double twips, double apart) {
@@ -98,13 +101,13 @@ private:
     void path(const RunRecord& run) {
         std::vector<TrajectoryPoint> points;
         for (const TrajectoryPoint& point : run.Path) {
-            const Place at = place(point.x, std::max(double{point.y}, 0.0));
+            const Place at = place(point.x, point.y);
             points.push_back({store32(at.x), store32(at.y)});
         }
         // Bright colours need some of the ink on a bright ground, dark ones on a dark.
         const bool fades = inkOn(run.CurveColor) == inkOn(canvas_.background());
         const Rgb colour = fades ? mixed(run.CurveColor, ink_, 0.3) : run.CurveColor;
-        pen(colour, 2);
+        pen(colour, numbers_.size() <= kFew ? 2 : 1);
         canvas_.curve(points);
         drawDisc(canvas_, {points.back().x, points.back().y}, kPathMark, colour, colour);
     }
@@ -113,7 +116,8 @@ private:
     void number(std::size_t i) {
         const auto& path = book_[numbers_[i]].Path;
         const auto gaps = static_cast<double>(std::max<std::size_t>(numbers_.size() - 1, 1));
-        const double x = std::lerp(kFirstNumber, kLastNumber, static_cast<double>(i) / gaps) * far_;
+        const double x = std::lerp(kFirstNumber, kLastNumber, static_cast<double>(i) / gaps) *
+                         double{path.back().x};
         const auto at = std::find_if(path.begin(), path.end(),
                                      [x](const TrajectoryPoint& point) { return point.x >= x; });
         const TrajectoryPoint& point = at == path.end() ? path[path.size() / 2] : *at;
