@@ -67,6 +67,11 @@ public:
             widest -= 0.1;
             narrowTexts(widest);
         }
+        if (tooWide()) { // rather tiny than cut off
+            const double share = width / this->width();
+            setSize(points_ * share);
+            narrowTexts(kNarrowestText * share);
+        }
     }
     double width() const {
         return std::accumulate(widths_.begin(), widths_.end(),

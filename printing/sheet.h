@@ -35,8 +35,8 @@ struct SheetContent {
 
 /// Draws a sheet on a page whose units are inches from the corner of the printable area; all fits
 /// into the report's frame. `Ratio` is the size of the target relative to the page, 1 for a
-/// printer. The table shrinks as far as it can be read; then its long texts lose their middles.
-/// Charts share the room that it leaves.
+/// printer. The table shrinks as far as it can be read; then its long texts lose their middles, and
+/// only then it shrinks on. Charts share the room that it leaves.
 void composeSheet(Page& target, double Ratio, const SheetContent& content);
 
 } // namespace parabolt
