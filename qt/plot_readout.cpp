@@ -1,6 +1,7 @@
 #include "qt/plot_readout.h"
 
 #include "controls/units.h"
+#include "numbers/characters.h"
 #include "qt/picture_painter.h"
 #include "qt/text.h"
 
@@ -182,19 +183,21 @@ void PlotReadout::show(PathPoint point) {
     } else {
         update();
     }
-    tell(toQt(readoutOf(form_.Runs, point)));
+    tell(readoutOf(form_.Runs, point));
     placeLabel(placeOf(form_.Runs[point.number].Path.at(point.index)));
     label_->show();
 }
 
 /// Shows a text of several lines, of which the first may be too long.
-void PlotReadout::tell(const QString& text) {
-    label_->setAccessibleName(text);
-    QStringList lines = text.split('\n');
+void PlotReadout::tell(const std::string& text) {
+    label_->setAccessibleName(toQt(text));
     const QFontMetrics metrics = label_->fontMetrics();
     const int widest = std::min(width() * 2 / 5, kLetters * metrics.averageCharWidth());
-    lines[0] = metrics.elidedText(lines[0], Qt::ElideMiddle, widest);
-    label_->setText(lines.join('\n'));
+    const std::size_t first = text.find('\n');
+    const std::string name =
+        elided(text.substr(0, first), widest,
+               [&metrics](std::string_view part) { return metrics.horizontalAdvance(toQt(part)); });
+    label_->setText(toQt(name + (first < text.size() ? text.substr(first) : "")));
 }
 
 QPointF PlotReadout::placeOf(TrajectoryPoint point) const {

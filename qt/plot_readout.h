@@ -42,7 +42,7 @@ private:
     void lieOver();
     void show(PathPoint point);
     void letGo();
-    void tell(const QString& text);
+    void tell(const std::string& text);
     void paintLanding(QPainter& painter, const RunRecord& run) const;
     QPointF placeOf(TrajectoryPoint point) const;
     QRect around(PathPoint point) const;
