@@ -2,6 +2,8 @@
 
 #include "sets/data_set_words.h"
 
+#include <utility>
+
 namespace parabolt {
 
 void PlotPanel::Form_Resize(const FormSize& size, bool minimized) {
@@ -50,8 +52,12 @@ void PlotPanel::tellNewest() {
 
 std::string PlotPanel::inWords() const {
     const int count = run_.Runs.count();
+    const auto shown = run_.Runs.ticked();
     std::string words = std::to_string(count) + (count == 1 ? " data set." : " data sets.");
-    for (int number = 1; number <= count; ++number)
+    if (std::cmp_less(shown.size(), count))
+        words =
+            std::to_string(shown.size()) + " of " + words.substr(0, words.size() - 1) + " shown.";
+    for (const int number : shown)
         words += " " + wordsOf(run_.Runs, number) + ".";
     return words;
 }

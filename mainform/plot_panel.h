@@ -27,7 +27,7 @@ public:
     void redraw();
     /// Gives the print twin the present geometry and draws it completely.
     void PreparePrintPlots();
-    /// What the plot shows, in words: the number of data sets, and what came of each.
+    /// What the plot shows, in words: how many data sets, and what came of each.
     std::string inWords() const;
     /// Tells in the status bar what came of the newest data set; nothing where there is none.
     void tellNewest();

@@ -1,8 +1,9 @@
 #include "maps/map_picture.h"
 
-#include "controls/units.h"
 #include "maps/colour_scale.h"
 #include "maps/contours.h"
+#include "maps/map_frame.h"
+#include "maps/map_scale.h"
 #include "maps/map_words.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
@@ -10,16 +11,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
 namespace parabolt {
 namespace {
 
 // In twips: a line of text is some 200 high.
-constexpr double kLeftOfAxes = 750;
-constexpr double kRightOfAxes = 1500;
-constexpr double kAboveAxes = 480;
-constexpr double kBelowAxes = 660;
 constexpr double kTick = 80;
 constexpr double kTextGap = 60;
 constexpr double kBarGap = 300;
@@ -29,7 +25,6 @@ constexpr double kMarkRadius = 130;
 constexpr double kDotRadius = 45;
 constexpr double kRingRadius = 200; ///< around the present setting
 constexpr int kBarPixels = 128;
-constexpr int kMostLevels = 12; ///< about as many contours
 
 /// A round value with as many decimals as it needs.
 std::string label(double value) {
@@ -348,52 +343,6 @@ std::vector<DataMark> dataMarks(MapKind kind, std::span<const RunRecord> runs) {
                 {static_cast<int>(i), run.CurveColor, {run.AttackAngle, run.LoftAngle}});
     }
     return marks;
-}
-
-MapFrame::MapFrame(double width, double height, const MapRanges& ranges)
-    : ranges_(ranges),
-      corner_{kLeftOfAxes, kAboveAxes},
-      size_{std::max(width - kLeftOfAxes - kRightOfAxes, 1.0),
-            std::max(height - kAboveAxes - kBelowAxes, 1.0)} {}
-
-Place MapFrame::place(MapPoint point) const {
-    const auto share = [](const MapAxis& axis, double value) {
-        return (value - axis.first) / (axis.end() - axis.first);
-    };
-    return {corner_.x + share(ranges_.across, point.across) * size_.x,
-            corner_.y + (1 - share(ranges_.up, point.up)) * size_.y};
-}
-
-std::optional<MapPoint> MapFrame::point(Place place) const {
-    const double right = (place.x - corner_.x) / size_.x;
-    const double down = (place.y - corner_.y) / size_.y;
-    if (!(right >= 0 && right <= 1 && down >= 0 && down <= 1))
-        return std::nullopt;
-    return MapPoint{std::lerp(ranges_.across.first, ranges_.across.end(), right),
-                    std::lerp(ranges_.up.end(), ranges_.up.first, down)};
-}
-
-Rgb MapScale::colour(double value) const {
-    return scaleColour((value - low) / (high - low));
-}
-
-std::optional<MapScale> scaleOf(const ValueField& field) {
-    constexpr std::size_t kLowest = 20; // a twentieth of the values
-    std::vector<double> values;
-    std::copy_if(field.values.begin(), field.values.end(), std::back_inserter(values),
-                 [](double value) { return !std::isnan(value); });
-    if (values.empty())
-        return std::nullopt;
-    std::sort(values.begin(), values.end());
-    const double most = values.back();
-    const double low = values[values.size() / kLowest];
-    if (!(low < most)) // all the same: a range around it
-        return MapScale{low - 1, most + 1, 1, false};
-    const double step = roundStep(most - low, kMostLevels);
-    const double start = std::floor(low / step) * step;
-    if (start <= values.front())
-        return MapScale{values.front(), most, step, false};
-    return MapScale{start, most, step, true};
 }
 
 void drawMap(PictureBox& canvas, const MapResult& result, MapOutcome shown,

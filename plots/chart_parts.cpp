@@ -46,6 +46,13 @@ Rgb inkOn(Rgb ground) {
     return luma < 128 ? kWhite : kBlack;
 }
 
+Rgb mixed(Rgb one, Rgb other, double share) {
+    const auto mix = [share](std::uint8_t from, std::uint8_t to) {
+        return static_cast<std::uint8_t>(from + share * (to - from));
+    };
+    return {mix(one.red, other.red), mix(one.green, other.green), mix(one.blue, other.blue)};
+}
+
 void drawDisc(PictureBox& canvas, Place at, double radius, Rgb colour, Rgb rim) {
     drawFilled(canvas, at, radius + kRim, rim);
     drawFilled(canvas, at, radius, colour);

@@ -21,6 +21,9 @@ std::vector<double> roundValues(double low, double high, double step);
 /// Black or white, whichever can be read on a colour.
 Rgb inkOn(Rgb ground);
 
+/// A colour between two, of which the other has this share.
+Rgb mixed(Rgb one, Rgb other, double share);
+
 /// A disc with a rim, which shows on any ground. Changes the canvas's pen; lengths in twips.
 void drawDisc(PictureBox& canvas, Place at, double radius, Rgb colour, Rgb rim);
 

@@ -1,5 +1,7 @@
 #include "plots/picture_box.h"
 
+#include "numbers/characters.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -78,6 +80,12 @@ void PictureBox::label(Place place, std::string text, Place anchor, std::optiona
 
 void PictureBox::image(Place corner, Place size, int columns, std::vector<Rgb> pixels) {
     add(DrawnImage{corner, size, columns, std::move(pixels)});
+}
+
+double PictureBox::textWidth(std::string_view text) const {
+    constexpr double kWideLetter = 0.7 * kCanvasText;
+    return measureText_ ? measureText_(text)
+                        : kWideLetter * static_cast<double>(characterCount(text));
 }
 
 void PictureBox::add(Drawing drawing) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -19,6 +20,8 @@ struct Place {
     double y = 0;
     friend bool operator==(const Place&, const Place&) = default;
 };
+
+inline constexpr double kCanvasText = 165; ///< size of the letters on a canvas, twips
 
 // What can stand on a canvas. Places are in the units of the canvas, pens in pixels of 15 twips
 // each, whatever the pixels of the screen.
@@ -121,6 +124,12 @@ public:
 
     const std::vector<Drawing>& drawings() const { return drawings_; }
 
+    /// Width of a text on this canvas, twips: as its view measures it, else a guess on the wide
+    /// side.
+    double textWidth(std::string_view text) const;
+    using MeasureText = std::function<double(std::string_view)>;
+    void setTextMeasure(MeasureText measure) { measureText_ = std::move(measure); }
+
     bool takesFocus() const override { return true; }
 
 private:
@@ -132,6 +141,7 @@ private:
     Rgb foreColor_;
     int drawWidth_ = 1;
     std::vector<Drawing> drawings_;
+    MeasureText measureText_;
 };
 
 /// Draws a chart on an empty canvas that has its size, in twips. The canvas's fore colour is that

@@ -1,10 +1,12 @@
 #include "printing/sheet.h"
 
 #include "controls/units.h"
+#include "numbers/characters.h"
 #include "numbers/text_number.h"
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <numeric>
 
 namespace parabolt {
@@ -17,15 +19,16 @@ constexpr double kSheetRight = 11;
 constexpr double kSheetBottom = 7.5;
 constexpr double kSheetAcross = kSheetRight - kSheetLeft;
 constexpr double kSheetGap = 0.12;
-constexpr double kCellGap = 0.1;     ///< between columns at the usual size
-constexpr double kLeastPictures = 2; ///< height that the table leaves to them
-constexpr double kLeastChart = 1.6;  ///< height of a chart below the plot
-constexpr double kPlotShare = 0.5;   ///< of the width, beside charts
-constexpr double kLeastAbove = 0.7;  ///< likewise, above them
+constexpr double kCellGap = 0.1;    ///< between columns at the usual size
+constexpr double kLeastCharts = 2;  ///< height that the table leaves to them
+constexpr double kLeastUpper = 2.6; ///< height of a chart above others
+constexpr double kMostUpper = 3.6;
+constexpr double kWidestText = 2.2;    ///< of a column of texts
+constexpr double kNarrowestText = 0.5; ///< likewise
 
 constexpr double kTitleSize = 16;
 constexpr double kSheetTextSize = 9;
-constexpr double kSmallestSize = 4;
+constexpr double kSmallestSize = 6;
 
 // Each is a line of the text.
 constexpr std::array<std::string SheetFields::*, 4> kFieldLines = {
@@ -49,13 +52,26 @@ public:
           ratio_(Ratio),
           rows_(rows) {}
 
-    void setSize(double points) {
-        target_.FontSize = points * ratio_;
-        line_ = target_.TextHeight("7");
-        gap_ = kCellGap * points / kSheetTextSize;
-        widths_.clear();
-        for (std::size_t column = 0; !rows_.empty() && column < rows_.front().size(); ++column)
-            widths_.push_back(widthOf(column));
+    /// Finds the size and the widths with which it fits, as far as that can be.
+    void fit(double width, double height) {
+        const auto tooWide = [&] { return this->width() > width; };
+        const auto trySize = [&](double points) {
+            setSize(points);
+            if (tooWide())
+                narrowTexts(kWidestText);
+        };
+        trySize(kSheetTextSize);
+        while (points_ > kSmallestSize && (tooWide() || this->height() > height))
+            trySize(points_ - 0.25);
+        for (double widest = kWidestText; tooWide() && widest > kNarrowestText;) {
+            widest -= 0.1;
+            narrowTexts(widest);
+        }
+        if (tooWide()) { // rather tiny than cut off
+            const double share = width / this->width();
+            setSize(points_ * share);
+            narrowTexts(kNarrowestText * share);
+        }
     }
     double width() const {
         return std::accumulate(widths_.begin(), widths_.end(),
@@ -66,11 +82,13 @@ public:
     }
 
     void write(double top) const {
+        target_.FontSize = points_ * ratio_;
         double left = kSheetLeft;
         for (std::size_t column = 0; column < widths_.size(); ++column) {
             const double right = left + widths_[column];
             const bool numbers = holdsNumbers(column);
-            const auto put = [&](double y, const std::string& text) {
+            const auto put = [&](double y, const std::string& whole) {
+                const std::string text = elided(whole, widths_[column] + kRounding, measure());
                 target_.CurrentX = numbers ? right - target_.TextWidth(text) : left;
                 target_.CurrentY = y;
                 target_.Print(text);
@@ -91,6 +109,25 @@ public:
 
 private:
     static constexpr double kHeadingLines = 2.4;
+    static constexpr double kRounding = 1e-6;
+
+    void setSize(double points) {
+        points_ = points;
+        target_.FontSize = points * ratio_;
+        line_ = target_.TextHeight("7");
+        gap_ = kCellGap * points / kSheetTextSize;
+        widths_.clear();
+        for (std::size_t column = 0; !rows_.empty() && column < rows_.front().size(); ++column)
+            widths_.push_back(widthOf(column));
+    }
+    void narrowTexts(double widest) {
+        for (std::size_t column = 0; column < widths_.size(); ++column)
+            if (!holdsNumbers(column))
+                widths_[column] = std::min(widths_[column], widest);
+    }
+    std::function<double(std::string_view)> measure() const {
+        return [this](std::string_view text) { return target_.TextWidth(text); };
+    }
 
     double widthOf(std::size_t column) const {
         const auto [name, unit] = headingLines(rows_.front()[column]);
@@ -102,14 +139,16 @@ private:
         return width;
     }
     bool holdsNumbers(std::size_t column) const {
-        return std::all_of(rows_.begin() + 1, rows_.end(), [column](const auto& row) {
-            return row[column].empty() || parseNumber(row[column]);
-        });
+        return !headingLines(rows_.front()[column]).first.empty() ||
+               std::all_of(rows_.begin() + 1, rows_.end(), [column](const auto& row) {
+                   return row[column].empty() || parseNumber(row[column]);
+               });
     }
 
     Page& target_;
     double ratio_;
     const Rows& rows_;
+    double points_ = kSheetTextSize;
     double line_ = 0;
     double gap_ = 0;
     std::vector<double> widths_;
@@ -131,16 +170,10 @@ public:
         top_ += kSheetGap / 2;
         fields();
         const double remark = content_.remark.empty() ? 0 : heightOfLine() + kSheetGap;
-        const double pictures = content_.plot || !content_.charts.empty() ? kLeastPictures : 0;
-        const double room = kSheetBottom - top_ - remark - pictures;
-        double points = kSheetTextSize;
-        for (table_.setSize(points);
-             points > kSmallestSize && (table_.width() > kSheetAcross || table_.height() > room);
-             table_.setSize(points))
-            points -= 0.25;
-        if (pictures > 0)
-            paintPictures(kSheetBottom - top_ - remark - table_.height() - kSheetGap);
-        table_.setSize(points);
+        const double charts = content_.charts.empty() ? 0 : kLeastCharts;
+        table_.fit(kSheetAcross, kSheetBottom - top_ - remark - charts);
+        if (charts > 0)
+            paintCharts(kSheetBottom - top_ - remark - table_.height() - kSheetGap);
         table_.write(top_);
         top_ += table_.height() + kSheetGap;
         if (remark > 0)
@@ -183,44 +216,40 @@ private:
         top_ += kSheetGap;
     }
 
-    /// The plot above the charts where there is height for both, else beside them. No higher than
-    /// the plot, or a chart with a line for each row of the table, needs it.
-    void paintPictures(double height) {
+    /// No higher than a chart with a line for each row of the table needs it.
+    void paintCharts(double height) {
+        const auto others = static_cast<double>(content_.charts.size()) - 1;
+        const double lower = std::max(wanted(), kLeastCharts);
+        const double upper = std::min(height - others * (lower + kSheetGap), kMostUpper);
+        const bool stacked = others > 0 && upper >= kLeastUpper;
+        Place size{kSheetAcross, upper};
+        if (!stacked)
+            size = {(kSheetAcross - others * kSheetGap) / (others + 1), std::min(height, lower)};
         Place corner{kSheetLeft, top_};
-        Place room{kSheetAcross, height};
-        if (content_.plot) {
-            const auto& outer = content_.plot->outer.geometry();
-            const double shape = outer.height > 0 ? outer.width / outer.height : 1;
-            const bool alone = content_.charts.empty();
-            const double left = height - kSheetGap - std::max(kLeastChart, wanted());
-            const bool above = !alone && left >= kLeastAbove * kSheetAcross / shape;
-            const double widest = alone || above ? kSheetAcross : kSheetAcross * kPlotShare;
-            const double high = std::min(widest / shape, above ? left : height);
-            const Place size{high * shape, high};
-            target_.PaintPlot(*content_.plot, corner, size);
-            if (above) {
-                corner.y += size.y + kSheetGap;
-                room.y -= size.y + kSheetGap;
-            } else {
-                corner.x += size.x + kSheetGap;
-                room.x -= size.x + kSheetGap;
-            }
-            top_ += size.y;
-        }
-        room.y = std::min(room.y, std::max(wanted(), kLeastPictures));
-        const auto count = static_cast<double>(content_.charts.size());
-        const double width = (room.x - (count - 1) * kSheetGap) / count;
         for (const DrawChart& draw : content_.charts) {
-            ControlSet controls;
-            PictureBox canvas(controls, "chart", kWhite, kBlack);
-            canvas.setGeometry({0, 0, width * kTwipsPerInch, room.y * kTwipsPerInch});
-            draw(canvas);
-            target_.paintPicture(canvas, corner, {width, room.y});
-            corner.x += width + kSheetGap;
+            paintChart(draw, corner, size);
+            top_ = corner.y + size.y;
+            if (stacked)
+                corner.y = top_ + kSheetGap;
+            else
+                corner.x += size.x + kSheetGap;
+            if (stacked)
+                size.y = lower;
         }
-        if (count > 0)
-            top_ = std::max(top_, corner.y + room.y);
         top_ += kSheetGap;
+    }
+
+    void paintChart(const DrawChart& draw, Place corner, Place size) {
+        ControlSet controls;
+        PictureBox canvas(controls, "chart", kWhite, kBlack);
+        canvas.setGeometry({0, 0, size.x * kTwipsPerInch, size.y * kTwipsPerInch});
+        canvas.setTextMeasure([this](std::string_view text) {
+            constexpr double kTwipsPerPoint = kTwipsPerInch / kPointsPerInch;
+            target_.FontSize = kCanvasText / kTwipsPerPoint * ratio_;
+            return target_.TextWidth(text) * kTwipsPerInch;
+        });
+        draw(canvas);
+        target_.paintPicture(canvas, corner, size);
     }
 
     /// Height of a chart with a line for each row of the table.

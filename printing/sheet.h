@@ -24,16 +24,19 @@ SheetFields fieldsOf(std::string_view text);
 struct SheetContent {
     std::string title;
     SheetFields fields; ///< empty ones are left out
-    std::optional<PlotCanvases> plot;
-    std::vector<DrawChart> charts; ///< drawn in the shape of the room that they get
-    /// Rows of cells, headings with units first; columns of numbers end at their right edge.
+    /// Drawn in the shape of the room that they get: above each other, the first one highest, where
+    /// there is height for it, else side by side.
+    std::vector<DrawChart> charts;
+    /// Rows of cells, headings first; columns of numbers, and those with a unit, end at their right
+    /// edge.
     std::vector<std::vector<std::string>> table;
     std::string remark; ///< below the table
 };
 
 /// Draws a sheet on a page whose units are inches from the corner of the printable area; all fits
 /// into the report's frame. `Ratio` is the size of the target relative to the page, 1 for a
-/// printer. The table shrinks as far as it must; pictures share the room that it leaves.
+/// printer. The table shrinks as far as it can be read; then its long texts lose their middles, and
+/// only then it shrinks on. Charts share the room that it leaves.
 void composeSheet(Page& target, double Ratio, const SheetContent& content);
 
 } // namespace parabolt

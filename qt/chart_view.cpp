@@ -11,8 +11,6 @@
 namespace parabolt {
 namespace {
 
-constexpr double kTextTwips = 165; ///< of the canvas's text
-
 Rgb toRgb(const QColor& colour) {
     return {static_cast<std::uint8_t>(colour.red()), static_cast<std::uint8_t>(colour.green()),
             static_cast<std::uint8_t>(colour.blue())};
@@ -23,8 +21,9 @@ Rgb toRgb(const QColor& colour) {
 ChartPicture::ChartPicture(const DrawChart& draw, QSizeF size, double textPixels, Rgb ground,
                            Rgb ink)
     : canvas_(controls_, "chart", ground, ink) {
-    const double twips = kTextTwips / textPixels;
+    const double twips = kCanvasText / textPixels;
     canvas_.setGeometry({0, 0, size.width() * twips, size.height() * twips});
+    canvas_.setTextMeasure(canvasTextWidth);
     draw(canvas_);
 }
 
@@ -61,7 +60,7 @@ double ChartView::textPixels() const {
 }
 
 double ChartView::twipsPerPixel() const {
-    return kTextTwips / textPixels();
+    return kCanvasText / textPixels();
 }
 
 FilePicture ChartView::onPaper() const {

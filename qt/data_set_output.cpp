@@ -1,6 +1,5 @@
 #include "qt/data_set_output.h"
 
-#include "controls/units.h"
 #include "qt/picture_file.h"
 #include "qt/picture_painter.h"
 #include "qt/table_view.h"
@@ -15,38 +14,40 @@
 namespace parabolt {
 namespace {
 
-/// The plot as it stands on the screen.
-FilePicture plotPicture(MainForm& form) {
-    const PictureBox::Geometry& outer = form.Picture1.geometry();
-    return {"Flights", QSizeF(outer.width, outer.height) / kTwipsPerPixel,
+/// The plot in the size of its widget.
+FilePicture plotPicture(MainForm& form, const QWidget& window) {
+    const auto* plot = window.findChild<QWidget*>(toQt(form.Picture1.name()));
+    return {"Flights", plot->size(),
             [plot = form.screenPlot()](QPainter& painter, const QRectF& target) {
                 paintPlot(painter, plot, target);
             }};
 }
 
-/// Asks how dense the pixels of a picture shall be; nothing if the user backs out.
-std::optional<double> askDensity(QWidget& window) {
+/// Asks how dense the pixels of a picture of this size shall be; nothing if the user backs out.
+std::optional<double> askDensity(QWidget& window, QSizeF size) {
     struct Choice {
-        const char* words;
+        QString words;
         double density;
     };
-    static constexpr std::array<Choice, 3> kChoices = {{
-        {"As on the screen (96 per inch)", 1},
-        {"For documents (192 per inch)", kUsualDensity},
-        {"For print (300 per inch)", 3.125},
+    const std::array<Choice, 3> choices = {{
+        {"As on the screen", window.devicePixelRatioF()},
+        {"For documents, 192 per inch", kUsualDensity},
+        {"For print, 300 per inch", 3.125},
     }};
     QInputDialog dialog(&window);
     dialog.setObjectName("exportDensity");
     dialog.setWindowTitle(toQt(kApplicationTitle));
     dialog.setLabelText("&Pixels of the picture:");
     QStringList items;
-    for (const Choice& choice : kChoices)
-        items << choice.words;
+    for (const auto& [words, density] : choices) {
+        const QSize pixels = (size * density).toSize();
+        items << QString("%1 (%2 x %3)").arg(words).arg(pixels.width()).arg(pixels.height());
+    }
     dialog.setComboBoxItems(items);
     dialog.setTextValue(items[1]);
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
-    return kChoices.at(static_cast<std::size_t>(items.indexOf(dialog.textValue()))).density;
+    return choices.at(static_cast<std::size_t>(items.indexOf(dialog.textValue()))).density;
 }
 
 } // namespace
@@ -58,7 +59,7 @@ DataSetOutput::DataSetOutput(frmMain& logic, QWidget& window) : logic_(logic), w
         parabolt::copyTable(sets, wholeTable(sets));
     };
     logic_.copyPlot = [this] {
-        QApplication::clipboard()->setImage(pictureImage(plotPicture(logic_.form)));
+        QApplication::clipboard()->setImage(pictureImage(plotPicture(logic_.form, window_)));
     };
 }
 
@@ -69,10 +70,10 @@ DataSetOutput::~DataSetOutput() {
 }
 
 std::optional<std::string> DataSetOutput::plotFile(std::string_view ending) {
-    const FilePicture picture = plotPicture(logic_.form);
+    const FilePicture picture = plotPicture(logic_.form, window_);
     if (ending != "png")
         return pictureFile(picture, ending);
-    const auto density = askDensity(window_);
+    const auto density = askDensity(window_, picture.size);
     return density ? std::optional(pictureFile(picture, ending, *density)) : std::nullopt;
 }
 

@@ -7,9 +7,11 @@
 #include "qt/window_parts.h"
 #include "sets/data_set_words.h"
 #include "sets/landing_chart.h"
+#include "sets/path_chart.h"
 #include "tables/table_text.h"
 
 #include <QAbstractEventDispatcher>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QBoxLayout>
 #include <QClipboard>
@@ -26,6 +28,7 @@ namespace parabolt {
 namespace {
 
 constexpr QSize kUsualSize{1180, 720};
+constexpr int kBaseLetters = 24;  ///< of the list of bases
 constexpr std::size_t kDate = 10; ///< characters of "2026-11-23 10:32"
 constexpr std::string_view kWindow = "dataSets";
 
@@ -56,7 +59,8 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     base_->setObjectName("dataSetsBase");
     base_->setAccessibleName("Base set");
     base_->setToolTip("The set with which the others are compared");
-    base_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    base_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    base_->setMinimumContentsLength(kBaseLetters);
     table_->setMinimumHeight(6 * fontMetrics().height());
     table_->installEventFilter(this);
     sets_.onTicks = [this] { logic_.plot.redraw(); };
@@ -97,7 +101,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     connect(loop, &QAbstractEventDispatcher::aboutToBlock, this, &DataSetsWindow::follow);
     connect(loop, &QAbstractEventDispatcher::awake, this, &DataSetsWindow::follow);
     connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
-            [this] { desktop_.openHelp(); });
+            [this] { desktop_.openHelpPage("data_sets.html"); });
     restore();
     showState();
     table_->setFocus();
@@ -120,7 +124,7 @@ void DataSetsWindow::buildCommands() {
     onlyTicked_->setCheckable(true);
     take_ = command(menu, "dataSetsTake", "&Take into Fields",
                     "Brings club, ball, weather and launch or swing of the marked set back into "
-                    "the fields",
+                    "the fields, while no study or batch runs",
                     Qt::CTRL | Qt::Key_Return);
     print_ = command(menu, "dataSetsPrint", "&Print...",
                      "Shows the ticked data sets as a page, and prints it", QKeySequence::Print);
@@ -182,7 +186,10 @@ void DataSetsWindow::tickSelected() {
 
 /// Looks at what the form holds now.
 void DataSetsWindow::follow() {
-    if (isVisible() && book_.revision() != shownRevision_)
+    if (!isVisible())
+        return;
+    take_->setEnabled(book_.count() > 0 && logic_.form.Command1.enabled());
+    if (book_.revision() != shownRevision_)
         showState();
 }
 
@@ -195,8 +202,10 @@ void DataSetsWindow::showState() {
     showBases();
     const auto ticked = book_.ticked();
     count_->setText(QString("%1 of %2 ticked").arg(ticked.size()).arg(book_.count()));
-    for (QAction* action : {all_, take_})
-        action->setEnabled(book_.count() > 0);
+    all_->setEnabled(book_.count() > 0);
+    table_->setHint(book_.count() == 0
+                        ? "There are no data sets yet. Run a shot in the main window."
+                        : "No data set is ticked. \"All\" ticks them.");
     print_->setEnabled(!ticked.empty());
     QStringList words;
     for (const int number : ticked)
@@ -210,6 +219,7 @@ void DataSetsWindow::showBases() {
         base_->addItem(toQt(dataSetName(book_, number)));
     base_->setCurrentIndex(book_.count() > 0 ? book_.base() - 1 : -1);
     base_->setEnabled(book_.count() > 0);
+    base_->view()->setMinimumWidth(base_->view()->sizeHintForColumn(0) + fontMetrics().height());
 }
 
 void DataSetsWindow::showOnlyTicked(bool only) {
@@ -237,10 +247,8 @@ void DataSetsWindow::print() {
     content.fields = fieldsOf(kept.text());
     if (content.fields.date.empty())
         content.fields.date = localTime_().substr(0, kDate);
-    logic_.plot.PreparePrintPlots();
-    content.plot.emplace(logic_.form.printPlot());
-    content.charts = {
-        [this, shown = book_.ticked()](PictureBox& canvas) { drawLandings(canvas, book_, shown); }};
+    content.charts = {[this](PictureBox& canvas) { drawPaths(canvas, book_, book_.ticked()); },
+                      [this](PictureBox& canvas) { drawLandings(canvas, book_, book_.ticked()); }};
     content.table = tableAsCells(sets_, sets_.ticked());
     content.remark = "Base: " + dataSetName(book_, book_.base()) +
                      ". In this model wind and altitude count about double.";
@@ -250,17 +258,19 @@ void DataSetsWindow::print() {
     kept = fieldsText(dialog.fields());
 }
 
-/// Size and columns as they were left.
+/// As it was left.
 void DataSetsWindow::restore() {
     memory_.restore(*table_, "Columns");
     memory_.restoreSize(*this, kUsualSize);
     memory_.restore(*halves_, "Heights");
+    memory_.restore(*onlyTicked_, "OnlyTicked");
 }
 
 void DataSetsWindow::remember() {
     memory_.remember(*table_, "Columns");
     memory_.rememberSize(*this);
     memory_.remember(*halves_, "Heights");
+    memory_.remember(*onlyTicked_, "OnlyTicked");
 }
 
 } // namespace parabolt

@@ -4,6 +4,7 @@
 #include "qt/column_tips.h"
 #include "qt/data_set_output.h"
 #include "qt/form_binding.h"
+#include "qt/main_menus.h"
 #include "qt/picture_widget.h"
 #include "qt/plot_readout.h"
 #include "qt/rich_text_binding.h"
@@ -68,15 +69,6 @@ private:
     Pause& pause_;
 };
 
-QAction* add(QWidget* menu, const MenuItem& item, const QKeySequence& key = {}) {
-    auto* action = new QAction(toQt(item.caption()), menu);
-    action->setObjectName(toQt(item.name()));
-    action->setShortcut(key);
-    action->setMenuRole(QAction::NoRole);
-    menu->addAction(action);
-    return action;
-}
-
 } // namespace
 
 MainWindow::MainWindow(frmMain& logic)
@@ -98,7 +90,7 @@ MainWindow::MainWindow(frmMain& logic)
         if (now != nullptr && layout_.panel->isAncestorOf(now))
             room->ensureWidgetVisible(now);
     });
-    buildMenus();
+    buildMainMenus(*menuBar(), logic.form);
     statusBar()->setObjectName(toQt(logic.form.StatusBar1.name()));
     statusBar()->setSizeGripEnabled(false);
     unsaved_ = new QLabel("Unsaved", statusBar());
@@ -140,75 +132,6 @@ void MainWindow::buildPlots() {
     outer->setAccessibleName("Plot of the flights");
     auto* inner = new PictureWidget(logic_.form.Picture2, outer);
     readout_ = new PlotReadout(logic_.form, *outer, *inner);
-}
-
-void MainWindow::buildMenus() {
-    MainForm& form = logic_.form;
-    const auto addMenu = [this](const MenuItem& item) {
-        QMenu* menu = menuBar()->addMenu(toQt(item.caption()));
-        menu->menuAction()->setObjectName(toQt(item.name()));
-        return menu;
-    };
-    QMenu* file = addMenu(form.mnuFile);
-    add(file, form.mnuOpen, QKeySequence::Open);
-    add(file, form.mnuSave, QKeySequence::Save);
-    add(file, form.mnuSResult, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
-    file->addSeparator();
-    add(file, form.mnuPrint, QKeySequence::Print);
-    file->addSeparator();
-    add(file, form.mnuExit, Qt::CTRL | Qt::Key_Q);
-    addSessionMenus(*file);
-    addExportMenus(*file);
-    add(menuBar(), form.mnuDefault, Qt::CTRL | Qt::Key_D);
-    QMenu* studies = addMenu(form.mnuStudies);
-    add(studies, form.mnuStyLaunch);
-    add(studies, form.mnuStySpin);
-    studies->addSeparator();
-    add(studies, form.mnuStyMap, Qt::CTRL | Qt::Key_M);
-    add(studies, form.mnuDataSets, Qt::CTRL | Qt::Key_L);
-    add(studies, form.mnuMeasured, Qt::CTRL | Qt::SHIFT | Qt::Key_M);
-    add(studies, form.mnuBag, Qt::CTRL | Qt::Key_B);
-    add(menuBar(), form.mnuReset, Qt::CTRL | Qt::Key_R);
-    QMenu* help = addMenu(form.Help);
-    add(help, form.mnuHelp, Qt::Key_F1);
-    add(help, form.mnuSkype);
-    help->addSeparator();
-    add(help, form.mnuAbout);
-}
-
-/// What keeps the user's work, below what has always been in the menu.
-void MainWindow::addSessionMenus(QMenu& file) {
-    const MainForm& form = logic_.form;
-    file.setToolTipsVisible(true);
-    file.addSeparator();
-    add(&file, form.mnuOpenSession, Qt::CTRL | Qt::SHIFT | Qt::Key_O)
-        ->setToolTip("Lays a saved session on the desk in place of what is there");
-    add(&file, form.mnuSaveSession, Qt::CTRL | Qt::SHIFT | Qt::Key_E)
-        ->setToolTip("Saves all that is on the desk: fields, clubs, data sets, table");
-    add(&file, form.mnuReopenSession, Qt::CTRL | Qt::SHIFT | Qt::Key_T)
-        ->setToolTip("Lays on the desk what was there when the program last ended");
-    add(&file, form.mnuReopenClubs, Qt::CTRL | Qt::SHIFT | Qt::Key_D)
-        ->setToolTip("Takes the set of the clubs file that was opened or saved last");
-    file.addSeparator();
-    // A field takes these keys for itself: there they take back what was typed.
-    add(&file, form.mnuGoBack, QKeySequence::Undo)
-        ->setToolTip("Brings back the desk from before the last change that wiped something");
-    add(&file, form.mnuRewriteTable, Qt::CTRL | Qt::Key_T)
-        ->setToolTip("Writes the rows of all data sets anew, in order, under their headings");
-}
-
-/// What takes the data sets out.
-void MainWindow::addExportMenus(QMenu& file) {
-    const MainForm& form = logic_.form;
-    file.addSeparator();
-    add(&file, form.mnuExportTable)
-        ->setToolTip("Writes all that is known of each data set as comma-separated values");
-    add(&file, form.mnuExportPaths)
-        ->setToolTip("Writes time, x and y of each point of each flight likewise");
-    add(&file, form.mnuExportPlot)->setToolTip("Writes the plot as PNG, SVG or PDF");
-    add(&file, form.mnuCopyTable, Qt::CTRL | Qt::SHIFT | Qt::Key_C)
-        ->setToolTip("Puts all data sets on the clipboard, for a text or a spreadsheet");
-    add(&file, form.mnuCopyPlot)->setToolTip("Puts a picture of the plot on the clipboard");
 }
 
 void MainWindow::connectLogic() {
@@ -274,7 +197,7 @@ void MainWindow::showOutcome() {
 /// Lets the keys walk along the curves, or goes back to where they were before.
 void MainWindow::walkPlot() {
     QWidget* plot = findChild<QWidget*>(toQt(logic_.form.Picture1.name()));
-    if (plot->hasFocus() && readout_->isVisible()) {
+    if (plot->hasFocus() && readout_->walking()) {
         readout_->clear();
         if (beforePlot_ != nullptr)
             beforePlot_->setFocus(Qt::ShortcutFocusReason);

@@ -38,9 +38,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void buildMenus();
-    void addSessionMenus(QMenu& file);
-    void addExportMenus(QMenu& file);
     void buildPlots();
     void showOutcome();
     void walkPlot();

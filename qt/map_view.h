@@ -1,6 +1,7 @@
 #pragma once
 
 #include "maps/carry_map.h"
+#include "maps/map_frame.h"
 #include "qt/chart_view.h"
 
 namespace parabolt {

@@ -1,6 +1,7 @@
 #include "qt/picture_painter.h"
 
 #include "controls/units.h"
+#include "qt/text.h"
 
 #include <QFont>
 #include <QFontMetricsF>
@@ -14,11 +15,14 @@
 namespace parabolt {
 namespace {
 
-constexpr double kTextSize = 8.25 * 20; ///< of axis labels and legend, in twips
 constexpr double kHaloWidth = 50; ///< of the rim around letters, on both sides together, twips
 
 QColor toQColor(Rgb colour) {
     return {colour.red, colour.green, colour.blue};
+}
+
+QFont canvasFont() {
+    return QFont(QStringList{"MS Sans Serif", "Liberation Sans", "Arial", "Helvetica"});
 }
 
 /// Turns the painter to device pixels until the end of its life. Returns where a rectangle of the
@@ -57,8 +61,9 @@ public:
           target_(target),
           perTwip_(target.width() / picture.geometry().width) {
         painter_.setRenderHint(QPainter::Antialiasing);
-        QFont font(QStringList{"MS Sans Serif", "Liberation Sans", "Arial", "Helvetica"});
-        font.setPointSizeF(kTextSize * perTwip_ * kPointsPerInch / painter.device()->logicalDpiY());
+        QFont font = canvasFont();
+        font.setPointSizeF(kCanvasText * perTwip_ * kPointsPerInch /
+                           painter.device()->logicalDpiY());
         painter_.setFont(font);
         ascent_ = QFontMetricsF(font, painter.device()).ascent();
     }
@@ -187,6 +192,13 @@ void fill(QPainter& painter, const PictureBox& picture, const QRectF& target) {
 }
 
 } // namespace
+
+double canvasTextWidth(std::string_view text) {
+    QFont font = canvasFont();
+    font.setPixelSize(static_cast<int>(kCanvasText));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return QFontMetricsF(font).horizontalAdvance(toQt(text));
+}
 
 void paintPicture(QPainter& painter, const PictureBox& picture, const QRectF& target) {
     if (!paintable(picture, target))

@@ -7,6 +7,9 @@ class QRectF;
 
 namespace parabolt {
 
+/// Width of a text on a canvas as it is painted, twips.
+double canvasTextWidth(std::string_view text);
+
 /// Paints what stands on a canvas into a rectangle of the painter, cut off at its edges. The
 /// canvas's outer size fills the rectangle; pens and text scale with it, and straight lines fall on
 /// whole device pixels, so the picture is sharp at any size and density and vector work on paper.

@@ -1,5 +1,7 @@
 #include "qt/plot_readout.h"
 
+#include "controls/units.h"
+#include "numbers/characters.h"
 #include "qt/picture_painter.h"
 #include "qt/text.h"
 
@@ -18,8 +20,13 @@ constexpr double kPointsApart = 5; ///< of the lifted curve, pixels
 constexpr int kRim = 5;            ///< pens of the lifted curve
 constexpr int kCurve = 3;
 constexpr int kGap = 14;         ///< between the point and the label
+constexpr int kLetters = 48;     ///< of a line, about
 constexpr int kPointsOfKey = 10; ///< a tenth of a second
 constexpr int kPointsOfLeap = 50;
+
+QColor toColour(Rgb colour) {
+    return {colour.red, colour.green, colour.blue};
+}
 
 } // namespace
 
@@ -45,6 +52,7 @@ PlotReadout::PlotReadout(const MainForm& form, QWidget& frame, QWidget& curves)
 }
 
 void PlotReadout::clear() {
+    byKeys_ = false;
     if (picture_.isNull())
         return;
     point_.reset();
@@ -175,10 +183,21 @@ void PlotReadout::show(PathPoint point) {
     } else {
         update();
     }
-    label_->setText(toQt(readoutOf(form_.Runs, point)));
-    label_->setAccessibleName(label_->text());
+    tell(readoutOf(form_.Runs, point));
     placeLabel(placeOf(form_.Runs[point.number].Path.at(point.index)));
     label_->show();
+}
+
+/// Shows a text of several lines, of which the first may be too long.
+void PlotReadout::tell(const std::string& text) {
+    label_->setAccessibleName(toQt(text));
+    const QFontMetrics metrics = label_->fontMetrics();
+    const int widest = std::min(width() * 2 / 5, kLetters * metrics.averageCharWidth());
+    const std::size_t first = text.find('\n');
+    const std::string name =
+        elided(text.substr(0, first), widest,
+               [&metrics](std::string_view part) { return metrics.horizontalAdvance(toQt(part)); });
+    label_->setText(toQt(name + (first < text.size() ? text.substr(first) : "")));
 }
 
 QPointF PlotReadout::placeOf(TrajectoryPoint point) const {
@@ -212,12 +231,30 @@ void PlotReadout::takePicture() {
     const QPointF corner = QPointF(mapTo(window(), QPoint())) * ratio;
     shift_ = corner - QPointF(std::floor(corner.x()), std::floor(corner.y()));
     picture_ = QPixmap((QSizeF(size()) * ratio).toSize() + QSize(1, 1));
-    const Rgb ground = form_.Picture2.background();
-    picture_.fill(QColor(ground.red, ground.green, ground.blue));
+    picture_.fill(toColour(form_.Picture2.background()));
     QPainter painter(&picture_);
     painter.translate(shift_);
     painter.scale(ratio, ratio);
     paintPicture(painter, form_.Picture2, rect());
+}
+
+/// The disc at the landing, in front of those of other curves.
+void PlotReadout::paintLanding(QPainter& painter, const RunRecord& run) const {
+    const CanvasScale& scale = form_.Picture2.scale();
+    const double perTwip = width() / form_.Picture2.geometry().width;
+    for (const Drawing& drawing : form_.Picture2.drawings()) {
+        const auto* ring = std::get_if<DrawnCircle>(&drawing);
+        if (ring == nullptr || ring->colour != run.CurveColor ||
+            ring->centre.x != run.Path.back().x)
+            continue;
+        const QPointF centre((ring->centre.x - scale.left) / scale.width * width(),
+                             (ring->centre.y - scale.top) / scale.height * height());
+        const double radius =
+            ring->radius / scale.width * width() + ring->pen * kTwipsPerPixel * perTwip / 2;
+        painter.setPen(QPen(Qt::white, 1));
+        painter.setBrush(toColour(run.CurveColor));
+        painter.drawEllipse(centre, radius, radius);
+    }
 }
 
 void PlotReadout::paintEvent(QPaintEvent* /*event*/) {
@@ -237,11 +274,11 @@ void PlotReadout::paintEvent(QPaintEvent* /*event*/) {
             curve.append(place);
     painter.setRenderHint(QPainter::Antialiasing);
     // White around the colour, which may be dark, as the ground is.
-    const QColor colour(run.CurveColor.red, run.CurveColor.green, run.CurveColor.blue);
-    for (const QPen& pen : {QPen(Qt::white, kRim), QPen(colour, kCurve)}) {
+    for (const QPen& pen : {QPen(Qt::white, kRim), QPen(toColour(run.CurveColor), kCurve)}) {
         painter.setPen(pen);
         painter.drawPolyline(curve);
     }
+    paintLanding(painter, run);
     painter.setPen(QPen(Qt::black, 1));
     painter.setBrush(Qt::white);
     painter.drawEllipse(placeOf(run.Path.at(point_->index)), kMarker, kMarker);

@@ -26,6 +26,8 @@ public:
 
     /// Starts with the keys, at the top of the newest curve that is shown; false if there is none.
     bool begin();
+    /// The keys have led to a point.
+    bool walking() const { return byKeys_ && point_; }
     /// Hides it: it is no longer wanted, or the plot has been drawn anew.
     void clear();
 
@@ -40,6 +42,8 @@ private:
     void lieOver();
     void show(PathPoint point);
     void letGo();
+    void tell(const std::string& text);
+    void paintLanding(QPainter& painter, const RunRecord& run) const;
     QPointF placeOf(TrajectoryPoint point) const;
     QRect around(PathPoint point) const;
     void takePicture();

@@ -115,12 +115,12 @@ Outcome<std::string, std::string> printOn(const QPrinterInfo& info, std::string_
     printer.setDocName(toQt(title));
     printer.setCreator(QApplication::applicationName());
     const std::string name = "\"" + fromQt(info.printerName()) + "\"";
-    const std::string refused = "The printer " + name + " doesn't take the report";
+    const std::string refused = "The printer " + name + " doesn't take the page";
     if (!paint(printer, page, compose))
         return because(refused + ".");
     if (const auto taken = spoolerAnswer(); !taken)
         return because(refused + ": " + taken.why());
-    return "The report has gone to the printer " + name + ".";
+    return "The page has gone to the printer " + name + ".";
 }
 
 /// Waits for the print server. If it is slow a box says so, which the user may close to wait no
@@ -134,7 +134,7 @@ void waitFor(const std::shared_future<bool>& answer) {
         return;
     QMessageBox box(QMessageBox::NoIcon, toQt(kApplicationTitle),
                     "Waiting for the print server.\n"
-                    "Without it the report can go into a PDF file.",
+                    "Without it the page can go into a PDF file.",
                     QMessageBox::NoButton, frontWindow());
     box.setObjectName("printerWaitBox");
     box.addButton("&Go on without", QMessageBox::RejectRole);
@@ -173,8 +173,8 @@ Outcome<void, std::string> writePdf(const QString& fileName, QPageSize::PageSize
                                     std::string_view title,
                                     const std::function<void(Page&)>& compose) {
     const auto refuse = [&fileName](std::string_view why) {
-        return because("The report can't be written to \"" +
-                       fromQt(QFileInfo(fileName).fileName()) + "\": " + std::string(why));
+        return because("The page can't be written to \"" + fromQt(QFileInfo(fileName).fileName()) +
+                       "\": " + std::string(why));
     };
     QBuffer bytes; // the PDF's own writer wouldn't tell that the disk is full
     bytes.open(QIODevice::WriteOnly);
@@ -208,7 +208,7 @@ Outcome<std::string, std::string> QtPrinter::print(std::string_view title,
         return std::string();
     if (const auto written = writePdf(fileName, usualPaper(), title, compose); !written)
         return because(written.why());
-    return "The report is in the file " + fromQt(QDir::toNativeSeparators(fileName)) + ".";
+    return "The page is in the file " + fromQt(QDir::toNativeSeparators(fileName)) + ".";
 }
 
 /// No printer where there is none, and where the print server doesn't answer.
@@ -226,7 +226,7 @@ QPrinterInfo QtPrinter::defaultPrinter() {
 QString QtPrinter::askFileName() {
     if (lastFolder_.isEmpty())
         lastFolder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    NamingDialog dialog(frontWindow(), "Print Report To A PDF File", existingFolder(lastFolder_),
+    NamingDialog dialog(frontWindow(), "Print To A PDF File", existingFolder(lastFolder_),
                         "PDF File(*.pdf)");
     dialog.setObjectName("printFileDialog");
     dialog.setAcceptMode(QFileDialog::AcceptSave);

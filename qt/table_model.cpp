@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QTextDocument>
 
 namespace parabolt {
 namespace {
@@ -71,10 +72,8 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
     case Qt::EditRole:
         return toQt(cell(index).text);
-    case Qt::ToolTipRole: // of a text that may be cut off; else the meaning of the column
-        return column(index.column()).holds == TableColumn::Holds::Texts
-                   ? toQt(cell(index).text)
-                   : toQt(column(index.column()).meaning);
+    case Qt::ToolTipRole:
+        return tipOf(index);
     case Qt::TextAlignmentRole:
         return QVariant(column(index.column()).holds == TableColumn::Holds::Numbers
                             ? Qt::AlignRight | Qt::AlignVCenter
@@ -101,6 +100,17 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     default:
         return {};
     }
+}
+
+/// A text, which may be cut off; else the meaning of the column.
+QString TableModel::tipOf(const QModelIndex& index) const {
+    const TableColumn& section = column(index.column());
+    const bool holdsText =
+        section.holds == TableColumn::Holds::Texts || section.holds == TableColumn::Holds::Names;
+    const QString text = holdsText ? toQt(cell(index).text) : QString();
+    if (text.isEmpty())
+        return toQt(section.meaning);
+    return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
 bool TableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -137,6 +147,17 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     return {};
 }
 
+bool TableModel::lacksValue(const TableCell& cell, int section) const {
+    switch (column(section).holds) {
+    case TableColumn::Holds::Numbers:
+        return !cell.hasNumber();
+    case TableColumn::Holds::Ticks:
+        return !cell.ticked;
+    default:
+        return cell.text.empty();
+    }
+}
+
 SortedTable::SortedTable(TableModel& model, QObject* parent)
     : QSortFilterProxyModel(parent),
       model_(model) {
@@ -154,7 +175,12 @@ bool SortedTable::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const
 }
 
 bool SortedTable::lessThan(const QModelIndex& left, const QModelIndex& right) const {
-    return comesBefore(model_.cell(left), model_.cell(right));
+    const TableCell one = model_.cell(left);
+    const TableCell other = model_.cell(right);
+    const bool lacks = model_.lacksValue(one, left.column());
+    if (lacks == model_.lacksValue(other, right.column()))
+        return comesBefore(one, other);
+    return lacks == (sortOrder() == Qt::DescendingOrder); // last, either way
 }
 
 } // namespace parabolt

@@ -26,15 +26,19 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
     TableCell cell(const QModelIndex& index) const;
+    /// Whether a cell of a column has nothing to sort by, as words in a column of numbers.
+    bool lacksValue(const TableCell& cell, int section) const;
 
 private:
     const TableColumn& column(int section) const;
+    QString tipOf(const QModelIndex& index) const;
 
     TableSource& source_;
     int rows_ = 0; ///< as the views know them
 };
 
-/// The rows of such a model in the order of a column's figures.
+/// The rows of such a model in the order of a column's figures, rising or falling; those without
+/// come last.
 class SortedTable : public QSortFilterProxyModel {
     Q_OBJECT
 

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <set>
 
 namespace parabolt {
@@ -56,6 +57,7 @@ TableView::TableView(TableSource& source, const QString& name, const QString& ac
     setAlternatingRowColors(true);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    setTextElideMode(Qt::ElideMiddle);
     setHorizontalScrollMode(ScrollPerPixel);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
     verticalHeader()->hide();
@@ -111,13 +113,15 @@ void TableView::lay(const TableLayout& layout) {
         }
 }
 
-/// Fits the heading and what stands below it; leaves room for names to come.
+/// Fits the heading and what stands below it; leaves room for names to come, but not for any
+/// length.
 int TableView::usualWidth(int column) const {
-    constexpr int kName = 16; // characters
-    const bool named =
-        source_.columns()[static_cast<std::size_t>(column)].holds == TableColumn::Holds::Names;
-    return std::max({horizontalHeader()->sectionSizeHint(column), sizeHintForColumn(column),
-                     named ? kName * fontMetrics().averageCharWidth() : 0});
+    const int letter = fontMetrics().averageCharWidth();
+    const int heading = horizontalHeader()->sectionSizeHint(column);
+    const int cells = std::max(sizeHintForColumn(column), heading);
+    if (source_.columns()[static_cast<std::size_t>(column)].holds != TableColumn::Holds::Names)
+        return cells;
+    return std::max(heading, std::clamp(cells, 16 * letter, 32 * letter));
 }
 
 std::string TableView::layoutText() const {
@@ -160,6 +164,21 @@ TableExtract TableView::extract() const {
             extract.columns.push_back(column);
     }
     return extract;
+}
+
+void TableView::setHint(const QString& hint) {
+    hint_ = hint;
+    setAccessibleDescription(sorted_.rowCount() == 0 ? hint : QString());
+    viewport()->update();
+}
+
+void TableView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (sorted_.rowCount() > 0)
+        return;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, hint_);
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {

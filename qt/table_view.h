@@ -29,6 +29,9 @@ public:
     /// Shows only those rows of the source for which this says yes; all, if it is empty.
     void setFilter(std::function<bool(std::size_t)> shown) { sorted_.setFilter(std::move(shown)); }
 
+    /// What stands in its middle while there are no rows.
+    void setHint(const QString& hint);
+
     /// The layout as it was left, and its text for preferences.
     void setLayoutText(std::string_view text);
     std::string layoutText() const;
@@ -44,6 +47,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void lay(const TableLayout& layout);
@@ -54,6 +58,7 @@ private:
     TableModel model_;
     SortedTable sorted_;
     QMenu* columnsMenu_;
+    QString hint_;
 };
 
 } // namespace parabolt

@@ -4,11 +4,15 @@
 #include "qt/table_view.h"
 #include "qt/text.h"
 
+#include <QAction>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QSplitter>
 
 namespace parabolt {
 namespace {
+
+constexpr const char* kChosen = "1";
 
 QList<int> numbersOf(const std::string& text) {
     QList<int> numbers;
@@ -24,6 +28,12 @@ void WindowMemory::restoreSize(QWidget& window, QSize usual) const {
     const QSize wanted = size.size() == 2 ? QSize(size[0], size[1]) : usual;
     window.resize(wanted.expandedTo(window.minimumSizeHint())
                       .boundedTo(window.screen()->availableSize() * 0.95));
+    const auto place = numbersOf(read("Place"));
+    if (place.size() != 2)
+        return;
+    const QPoint corner(place[0], place[1]);
+    if (QGuiApplication::screenAt(corner) != nullptr) // a screen may have gone
+        window.move(corner);
 }
 
 void WindowMemory::restore(QSplitter& splitter, std::string_view key) const {
@@ -35,8 +45,19 @@ void WindowMemory::restore(TableView& table, std::string_view key) const {
     table.setLayoutText(read(key));
 }
 
+void WindowMemory::restore(QAction& choice, std::string_view key) const {
+    choice.setChecked(read(key) == kChosen);
+}
+
 void WindowMemory::rememberSize(const QWidget& window) const {
+    if (window.isMaximized())
+        return;
     write("Size", std::to_string(window.width()) + " " + std::to_string(window.height()));
+    write("Place", std::to_string(window.x()) + " " + std::to_string(window.y()));
+}
+
+void WindowMemory::remember(const QAction& choice, std::string_view key) const {
+    write(key, choice.isChecked() ? kChosen : "");
 }
 
 void WindowMemory::remember(const QSplitter& splitter, std::string_view key) const {

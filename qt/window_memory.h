@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+class QAction;
 class QSplitter;
 class QWidget;
 
@@ -22,12 +23,16 @@ public:
         : preferences_(preferences),
           window_(window) {}
 
+    /// Size and place; the place is the desktop's choice until the window has had one.
     void restoreSize(QWidget& window, QSize usual) const;
     void restore(QSplitter& splitter, std::string_view key) const;
     void restore(TableView& table, std::string_view key) const;
+    void restore(QAction& choice, std::string_view key) const;
+    /// Those that it has while it isn't maximized.
     void rememberSize(const QWidget& window) const;
     void remember(const QSplitter& splitter, std::string_view key) const;
     void remember(const TableView& table, std::string_view key) const;
+    void remember(const QAction& choice, std::string_view key) const;
 
 private:
     std::string read(std::string_view key) const;

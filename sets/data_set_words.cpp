@@ -41,9 +41,12 @@ std::string dataSetName(const RunBook& book, int number) {
 std::string wordsOf(const RunBook& book, int number) {
     const Figures figures = figuresOf(book[number]);
     const auto yards = [](double value) { return formatPattern(value, "0.0") + " yd"; };
-    return dataSetName(book, number) + ": carry " + yards(figures.carry) + ", total " +
-           yards(figures.total) + ", height " + yards(figures.height) + ", landing angle " +
-           formatPattern(figures.landingAngle, "0.0") + " degrees, altitude " +
+    const std::string outcome =
+        figures.time > 0 ? "carry " + yards(figures.carry) + ", total " + yards(figures.total) +
+                               ", height " + yards(figures.height) + ", landing angle " +
+                               formatPattern(figures.landingAngle, "0.0") + " degrees"
+                         : std::string(kNoLanding);
+    return dataSetName(book, number) + ": " + outcome + ", altitude " +
            formatPattern(book[number].h, "0") + " ft";
 }
 

@@ -26,12 +26,14 @@ TableCell textCell(std::string_view text) {
     return {.text = std::string(text)};
 }
 
+bool hasLanded(const RunRecord& run) {
+    return run.CarryTime > 0;
+}
+
 /// The cell of a figure; empty for a flight that failed.
 template <double Figures::*Figure>
 TableCell figureCell(const SetRow& row, std::string_view pattern) {
-    if (!(row.run().CarryTime > 0))
-        return {};
-    return numberCell(figuresOf(row.run()).*Figure, pattern);
+    return hasLanded(row.run()) ? numberCell(figuresOf(row.run()).*Figure, pattern) : TableCell();
 }
 
 template <double Figures::*Figure>
@@ -39,11 +41,23 @@ TableCell tenths(const SetRow& row) {
     return figureCell<Figure>(row, "0.0");
 }
 
+/// The cell of what there is from the landing on.
+template <TableCell (*Cell)(const SetRow&)>
+TableCell landing(const SetRow& row) {
+    return hasLanded(row.run()) ? Cell(row) : textCell(kNoLanding);
+}
+
+/// The cell of what a swing has; empty for a launch that was typed in.
+template <TableCell (*Cell)(const SetRow&)>
+TableCell swing(const SetRow& row) {
+    return row.run().Mode == OperatingMode::Launch ? TableCell() : Cell(row);
+}
+
 /// How far a figure lies above that of the base set.
 template <double Figures::*Figure>
 TableCell difference(const SetRow& row) {
     const RunRecord& base = row.book[row.book.base()];
-    if (!(row.run().CarryTime > 0 && base.CarryTime > 0))
+    if (!hasLanded(row.run()) || !hasLanded(base))
         return {};
     const double more = figuresOf(row.run()).*Figure - figuresOf(base).*Figure;
     TableCell cell = numberCell(more, "0.0");
@@ -100,7 +114,8 @@ const std::vector<SetColumn>& allColumns() {
              return TableCell{std::to_string(row.number), double(row.number), row.run().CurveColor};
          },
          true},
-        {{"name", "Name", "What you call it: double-click, or F2, to type", true, Names},
+        {{"name", "Name", "What you call it, in 60 characters: double-click, or F2, to type", true,
+          Names},
          [](const SetRow& row) { return textCell(row.tag().name); },
          true},
         {{"club", headingOf(headings::kClub), "Wood or iron, and its number", true, Texts},
@@ -110,12 +125,14 @@ const std::vector<SetColumn>& allColumns() {
          [](const SetRow& row) { return textCell(modeName(row.run().Mode)); },
          true},
         {{"carry", headingOf(headings::kCarry), "Distance to the landing"},
-         tenths<&Figures::carry>,
+         landing<tenths<&Figures::carry>>,
          true},
         {{"carryMore", "Carry diff. [yd]", "Carry, less that of the base set"},
          difference<&Figures::carry>,
          true},
-        {{"total", headingOf(headings::kTotal), "Carry and roll"}, tenths<&Figures::total>, true},
+        {{"total", headingOf(headings::kTotal), "Carry and roll"},
+         landing<tenths<&Figures::total>>,
+         true},
         {{"totalMore", "Total diff. [yd]", "Total, less that of the base set"},
          difference<&Figures::total>,
          true},
@@ -127,7 +144,7 @@ const std::vector<SetColumn>& allColumns() {
          true},
         {{"landingAngle", headingOf(headings::kLandingAngle),
           "Angle of the path against the ground at the landing"},
-         tenths<&Figures::landingAngle>,
+         landing<tenths<&Figures::landingAngle>>,
          true},
         {{"time", headingOf(headings::kTime), "Time in the air"},
          [](const SetRow& row) { return figureCell<&Figures::time>(row, "0.00"); },
@@ -158,22 +175,22 @@ const std::vector<SetColumn>& allColumns() {
         {{"landingMore", "Landing diff. [deg]", "Landing angle, less that of the base set", false},
          difference<&Figures::landingAngle>},
         {{"roll", "Roll [yd]", "Roll on the green; below 0 when the ball spins back", false},
-         tenths<&Figures::roll>},
+         landing<tenths<&Figures::roll>>},
         {{"impactSpin", "Landing spin [rpm]", "Back spin at the landing", false},
-         whole<&RunRecord::ImpactSpin>},
+         landing<whole<&RunRecord::ImpactSpin>>},
         {{"impactSpeed", "Landing speed [mph]", "Horizontal speed at the landing", false},
-         tenth<&RunRecord::ImpactSpeed>},
+         landing<tenth<&RunRecord::ImpactSpeed>>},
         {{"headSpeed", "Head speed [mph]", "Speed of the club head at impact", false},
-         shortest<&RunRecord::HeadSpeed>},
+         swing<shortest<&RunRecord::HeadSpeed>>},
         {{"headWeight", "Head weight [g]", "Mass of the club head", false},
-         shortest<&RunRecord::HeadWeight>},
-        {{"loft", "Loft [deg]", "Loft of the club", false}, shortest<&RunRecord::LoftAngle>},
+         swing<shortest<&RunRecord::HeadWeight>>},
+        {{"loft", "Loft [deg]", "Loft of the club", false}, swing<shortest<&RunRecord::LoftAngle>>},
         {{"bend", "Bend [deg]", "Bend of the shaft at impact; adds to the loft", false},
-         shortest<&RunRecord::Bending>},
+         swing<shortest<&RunRecord::Bending>>},
         {{"attack", "Attack angle [deg]", "Attack angle, positive upward", false},
-         tenth<&RunRecord::AttackAngle>},
+         swing<tenth<&RunRecord::AttackAngle>>},
         {{"cor", "COR", "Coefficient of restitution between head and ball", false},
-         shortest<&RunRecord::COR>},
+         swing<shortest<&RunRecord::COR>>},
         {{"pressure", headingOf(headings::kPressure), "Pressure of the air, as read at sea level",
           false},
          shortest<&RunRecord::BaroPressure>},

@@ -9,37 +9,37 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace parabolt {
 namespace {
 
-// In twips: a line of text is some 200 high, a figure of it 92 wide.
+// In twips: a line of text is some 200 high.
 constexpr double kLandingMargin = 120;
-constexpr double kFigure = 92;
 constexpr double kAboveRows = 330;
 constexpr double kBelowRows = 560;
 constexpr double kTallestRow = 420;
 constexpr double kLandingMark = 75; ///< half the height of a mark
 constexpr double kLandingTick = 80;
-constexpr double kNarrowestScale = 2200; ///< else the names give way
-constexpr double kLeastRange = 4;        ///< yards
+constexpr double kMostForNames = 0.35; ///< of the width
+constexpr double kLeastRange = 4;      ///< yards
 constexpr int kMostTicks = 10;
 constexpr double kDashes = 120; ///< from one to the next
+constexpr const char* kHeading = "Carry / total";
 
-/// A data set that has landed.
-struct Landing {
+/// A row of the chart.
+struct LandingRow {
     int number;
-    Figures figures;
-    std::string name;
+    Figures figures;   ///< all zero for a flight that failed
+    std::string name;  ///< as there is room for it
     std::string words; ///< carry and total
+    bool landed() const { return figures.time > 0; }
 };
 
-/// A colour between two.
-Rgb mixed(Rgb one, Rgb other, double share) {
-    const auto mix = [share](std::uint8_t from, std::uint8_t to) {
-        return static_cast<std::uint8_t>(from + share * (to - from));
-    };
-    return {mix(one.red, other.red), mix(one.green, other.green), mix(one.blue, other.blue)};
+std::string landingWords(const Figures& figures) {
+    return figures.time > 0
+               ? formatPattern(figures.carry, "0.0") + " / " + formatPattern(figures.total, "0.0")
+               : std::string(kNoLanding);
 }
 
 class LandingDrawer {
@@ -51,26 +51,26 @@ public:
           faint_(mixed(canvas.background(), ink_, 0.2)) {
         for (const int number : numbers) {
             const Figures figures = figuresOf(book[number]);
-            if (figures.time > 0)
-                landings_.push_back({number, figures, dataSetName(book, number),
-                                     formatPattern(figures.carry, "0.0") + " / " +
-                                         formatPattern(figures.total, "0.0")});
+            rows_.push_back({number, figures, dataSetName(book, number), landingWords(figures)});
         }
     }
 
     void draw() {
         const double width = canvas_.geometry().width;
         const double height = canvas_.geometry().height;
-        if (landings_.empty()) {
-            canvas_.label({width / 2, height / 2}, "No data set is shown.", kMiddle);
+        const bool any = std::any_of(rows_.begin(), rows_.end(),
+                                     [](const LandingRow& row) { return row.landed(); });
+        if (!any) {
+            canvas_.label({width / 2, height / 2},
+                          rows_.empty() ? "No data set is shown." : "No ball has landed.", kMiddle);
             return;
         }
         layOut(width, height);
         scale();
         base();
         double y = kAboveRows + row_ / 2;
-        for (const Landing& landing : landings_) {
-            mark(landing, y);
+        for (const LandingRow& row : rows_) {
+            mark(row, y);
             y += row_;
         }
         pen(ink_);
@@ -82,38 +82,28 @@ private:
         canvas_.setDrawWidth(width);
     }
 
-    static double widthOf(const std::string& text) {
-        return static_cast<double>(characterCount(text)) * kFigure;
-    }
-
-    /// As much of a name as there is room for.
-    std::string fitting(const std::string& name) const {
-        const auto most = static_cast<std::size_t>((left_ - 2 * kLandingMargin) / kFigure);
-        if (characterCount(name) <= most)
-            return name;
-        return name.substr(0, characterStart(name, most - 1)) + "\u2026";
-    }
-
     void layOut(double width, double height) {
+        const auto measure = [this](std::string_view text) { return canvas_.textWidth(text); };
         double names = 0;
-        double figures = 0;
-        low_ = landings_.front().figures.carry;
-        high_ = low_;
-        for (const Landing& landing : landings_) {
-            names = std::max(names, widthOf(landing.name));
-            figures = std::max(figures, widthOf(landing.words));
-            for (const double yards : {landing.figures.carry, landing.figures.total}) {
-                low_ = std::min(low_, yards);
-                high_ = std::max(high_, yards);
-            }
+        double words = measure(kHeading);
+        low_ = std::numeric_limits<double>::infinity();
+        high_ = -low_;
+        for (LandingRow& row : rows_) {
+            row.name = elided(row.name, kMostForNames * width, measure);
+            names = std::max(names, measure(row.name));
+            words = std::max(words, measure(row.words));
+            if (row.landed())
+                for (const double yards : {row.figures.carry, row.figures.total}) {
+                    low_ = std::min(low_, yards);
+                    high_ = std::max(high_, yards);
+                }
         }
-        right_ = width - 2 * kLandingMargin - figures;
-        left_ = std::max(kLandingMargin * 2 + kFigure * 2,
-                         std::min(2 * kLandingMargin + names, right_ - kNarrowestScale));
+        right_ = width - 2 * kLandingMargin - words;
+        left_ = 2 * kLandingMargin + names;
         const double room = std::max(kLeastRange - (high_ - low_), (high_ - low_) * 0.1) / 2;
         low_ -= room;
         high_ += room;
-        const auto rows = static_cast<double>(landings_.size());
+        const auto rows = static_cast<double>(rows_.size());
         row_ = std::min(kTallestRow, (height - kAboveRows - kBelowRows) / rows);
         foot_ = kAboveRows + row_ * rows;
     }
@@ -136,15 +126,15 @@ private:
         canvas_.line({left_, foot_}, {right_, foot_});
         canvas_.label({(left_ + right_) / 2, foot_ + kBelowRows - 20}, "Yards from the tee",
                       kBottomMiddle);
-        canvas_.label({right_ + kLandingMargin, kAboveRows - 90}, "Carry / total", {0, 1});
+        canvas_.label({right_ + kLandingMargin, kAboveRows - 90}, kHeading, {0, 1});
     }
 
     /// Where the base set landed and came to rest, through all rows.
     void base() {
-        const auto of =
-            std::find_if(landings_.begin(), landings_.end(),
-                         [this](const Landing& landing) { return landing.number == book_.base(); });
-        if (of == landings_.end() || landings_.size() < 2)
+        const auto of = std::find_if(rows_.begin(), rows_.end(), [this](const LandingRow& row) {
+            return row.number == book_.base() && row.landed();
+        });
+        if (of == rows_.end() || rows_.size() < 2)
             return;
         pen(mixed(canvas_.background(), ink_, 0.55));
         const auto dashes = static_cast<int>(std::ceil((foot_ - kAboveRows) / kDashes));
@@ -153,29 +143,34 @@ private:
                 const double y = kAboveRows + dash * kDashes;
                 canvas_.line({x(yards), y}, {x(yards), std::min(y + kDashes / 2, foot_)});
             }
-        canvas_.label({x((of->figures.carry + of->figures.total) / 2), kAboveRows - 90},
-                      "base: " + std::to_string(of->number), kBottomMiddle);
+        const std::string name = "base: " + std::to_string(of->number);
+        const double half = canvas_.textWidth(name) / 2; // beside the heading of the words
+        canvas_.label({std::min(x((of->figures.carry + of->figures.total) / 2), right_ - half),
+                       kAboveRows - 90},
+                      name, kBottomMiddle);
     }
 
     /// A disc in the colour of the curve where the ball lands, a bar to where it comes to rest.
-    void mark(const Landing& landing, double y) {
-        const double half = std::min(kLandingMark, row_ * 0.4);
-        const Place carry{x(landing.figures.carry), y};
-        const Place total{x(landing.figures.total), y};
-        pen(ink_, 2);
-        canvas_.line(carry, total);
-        canvas_.line({total.x, y - half}, {total.x, y + half});
-        drawDisc(canvas_, carry, half, book_[landing.number].CurveColor, ink_);
+    void mark(const LandingRow& row, double y) {
+        if (row.landed()) {
+            const double half = std::min(kLandingMark, row_ * 0.4);
+            const Place carry{x(row.figures.carry), y};
+            const Place total{x(row.figures.total), y};
+            pen(ink_, 2);
+            canvas_.line(carry, total);
+            canvas_.line({total.x, y - half}, {total.x, y + half});
+            drawDisc(canvas_, carry, half, book_[row.number].CurveColor, ink_);
+        }
         pen(ink_);
-        canvas_.label({left_ - kLandingMargin, y}, fitting(landing.name), kRightMiddle);
-        canvas_.label({right_ + kLandingMargin, y}, landing.words, kLeftMiddle);
+        canvas_.label({left_ - kLandingMargin, y}, row.name, kRightMiddle);
+        canvas_.label({right_ + kLandingMargin, y}, row.words, kLeftMiddle);
     }
 
     PictureBox& canvas_;
     const RunBook& book_;
     Rgb ink_;
     Rgb faint_;
-    std::vector<Landing> landings_;
+    std::vector<LandingRow> rows_;
     double left_ = 0; ///< of the scale, twips
     double right_ = 0;
     double foot_ = 0;

@@ -1,11 +1,14 @@
 #include "shots/run_book.h"
 
+#include "numbers/characters.h"
+
 #include <array>
 #include <utility>
 
 namespace parabolt {
 
 void RunBook::setTag(int number, DataSetTag tag) {
+    tag.name = asName(tag.name, kLongestName);
     tags_.at(static_cast<std::size_t>(number)) = std::move(tag);
     ++revision_;
 }

@@ -12,7 +12,7 @@ namespace parabolt {
 
 /// What the user makes of a data set, beside what was flown.
 struct DataSetTag {
-    std::string name;      ///< as typed; empty before
+    std::string name;      ///< empty until one is given
     bool ticked = true;    ///< chosen for the plot and for comparisons
     std::int16_t ball = 0; ///< ball option of the shot, 1 to 4; 0 where nobody knows it any more
     /// All members are equal.
@@ -24,6 +24,7 @@ struct DataSetTag {
 class RunBook {
 public:
     static constexpr int kMost = 24; ///< data sets that a book should hold; whoever adds, asks
+    static constexpr std::size_t kLongestName = 60; ///< characters of a data set's name
 
     /// Number of data sets.
     int count() const { return static_cast<int>(runs_.size()) - 1; }
@@ -44,7 +45,8 @@ public:
 
     /// What the user made of the data set of a number from 1 to `count()`.
     const DataSetTag& tag(int number) const { return tags_.at(static_cast<std::size_t>(number)); }
-    /// Puts another tag on the data set of such a number.
+    /// Puts another tag on the data set of such a number. Of its name stays what a name is: one
+    /// line without control characters, no blanks around it, not too long.
     void setTag(int number, DataSetTag tag);
     /// The numbers of the ticked data sets, rising.
     std::vector<int> ticked() const;

@@ -150,6 +150,7 @@ TEST_F(DataSetsWindowTest, NamesTicksAndComparesByKeys) {
     user.press(form.Command2);
     EXPECT_TRUE(waitForRows(0));
     EXPECT_FALSE(find<QAction>("dataSetsPrint")->isEnabled());
+    EXPECT_TRUE(table->accessibleDescription().contains("Run a shot"));
     form.mnuGoBack.Click();
     EXPECT_TRUE(waitForRows(4));
     EXPECT_EQ(text(1, "Name"), "Low spin");
@@ -166,6 +167,15 @@ TEST_F(DataSetsWindowTest, TakesASetIntoTheFields) {
     user.run();
     EXPECT_EQ(form.Runs[4].Path, form.Runs[2].Path);
     EXPECT_EQ(user.messages.texts, Texts());
+    bool offered = true; // while a study runs
+    user.events.meanwhile = [&] {
+        QCoreApplication::processEvents();
+        offered = find<QAction>("dataSetsTake")->isEnabled();
+    };
+    form.mnuStySpin.Click();
+    EXPECT_FALSE(offered);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(find<QAction>("dataSetsTake")->isEnabled());
 }
 
 TEST_F(DataSetsWindowTest, IsAsItWasLeft) {
@@ -181,14 +191,16 @@ TEST_F(DataSetsWindowTest, IsAsItWasLeft) {
                                            0);
     table->sortByColumn(column("Carry"), Qt::DescendingOrder);
     EXPECT_EQ(text(0, "No.") + text(1, "No.") + text(2, "No."), "321");
-    sets.resize(900, 600);
+    sets.setGeometry(40, 30, 900, 600);
+    trigger("dataSetsOnlyTicked");
     const std::string left = table->layoutText();
     sets.close();
     DataSetsWindow again(user.main, services, printer);
     again.show();
     auto* shown = again.findChild<TableView*>("dataSetsTable");
     EXPECT_EQ(shown->layoutText(), left);
-    EXPECT_EQ(again.size(), QSize(900, 600));
+    EXPECT_EQ(again.geometry(), QRect(40, 30, 900, 600));
+    EXPECT_TRUE(again.findChild<QAction*>("dataSetsOnlyTicked")->isChecked());
     EXPECT_EQ(shown->model()->index(0, column("No.")).data(), "3");
     EXPECT_TRUE(shown->isColumnHidden(column("Mode")));
     emit shown->columnsMenu()->aboutToShow();
@@ -198,6 +210,21 @@ TEST_F(DataSetsWindowTest, IsAsItWasLeft) {
     EXPECT_EQ(shown->horizontalHeader()->hiddenSectionCount() + 1, shown->model()->columnCount());
     shown->columnsMenu()->actions().back()->trigger();
     EXPECT_FALSE(shown->isColumnHidden(column("Mode")));
+}
+
+TEST_F(DataSetsWindowTest, SortsWhatHasNoFigureLastAndTellsNamesInFull) {
+    form.Runs.add(); // a flight that failed
+    const std::string name = "<b>" + std::string(80, 'x');
+    form.Runs.setTag(2, {name, true, 4});
+    ASSERT_TRUE(waitForRows(4));
+    for (const auto& [order, rows] :
+         {std::pair(Qt::AscendingOrder, "1234"), {Qt::DescendingOrder, "3214"}}) {
+        table->sortByColumn(column("Carry"), order);
+        EXPECT_EQ(text(0, "No.") + text(1, "No.") + text(2, "No.") + text(3, "No."), rows);
+    }
+    EXPECT_EQ(text(3, "Carry"), "no landing");
+    const QString tip = table->model()->index(1, column("Name")).data(Qt::ToolTipRole).toString();
+    EXPECT_EQ(tip, "&lt;b&gt;" + QString(57, 'x'));
 }
 
 TEST_F(DataSetsWindowTest, PrintsWhatIsTicked) {
@@ -223,7 +250,7 @@ TEST_F(DataSetsWindowTest, PrintsWhatIsTicked) {
     const QString carry = toQt(text(0, "Carry"));
     for (const QString& part :
          {QString("Comparison of Data Sets"), QString("Player: Ann"), QString("Date: 0000-00-00"),
-          QString("Note: windy"), QString("The driver"), QString("Club 1/3"), carry})
+          QString("Note: windy"), QString("1 The driver"), QString("Height in yards"), carry})
         EXPECT_TRUE(page.contains(part)) << fromQt(part + page);
     EXPECT_FALSE(page.contains(toQt(text(1, "Carry")))) << "not ticked";
     EXPECT_EQ(form.windows["dataSets"], "Ann\n\n0000-00-00\nwindy\n");
@@ -300,6 +327,16 @@ TEST_F(DataSetsWindowTest, ThePlotAnswersToPointerAndKeys) {
     QTest::mouseMove(plot, QPoint(plot->width() / 2, 2)); // far from all curves
     EXPECT_TRUE(QTest::qWaitFor([&] { return !readout->isVisible(); }));
     EXPECT_EQ(plot->grab().toImage(), before) << "as if nothing had been";
+
+    form.Runs.setTag(2, {QString(60, 'W').toStdString(), true, 4});
+    QTest::mouseMove(plot, onPlot(at));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return readout->isVisible(); }));
+    EXPECT_LT(readout->width(), plot->width() / 2);
+    EXPECT_TRUE(readout->accessibleName().contains(QString(60, 'W')));
+    form.focus.give(form.Picture1);
+    QTest::keyClick(&main, Qt::Key_F6); // the pointer rests in the plot, which has the keys
+    EXPECT_TRUE(readout->text().startsWith("Data set 3\n")) << fromQt(readout->text());
+    QTest::keyClick(&main, Qt::Key_F6);
 
     user.form.focus.give(form.txtWind);
     QTest::keyClick(&main, Qt::Key_F6);

@@ -1,10 +1,12 @@
 #include "exchange/shot_columns.h"
 #include "mainform/form_shot.h"
 #include "mainform/modes.h"
+#include "plots/chart_parts.h"
 #include "results/result_table.h"
 #include "sets/data_set_words.h"
 #include "sets/data_sets.h"
 #include "sets/landing_chart.h"
+#include "sets/path_chart.h"
 #include "sets/path_export.h"
 #include "sets/path_points.h"
 #include "tables/table_text.h"
@@ -69,7 +71,13 @@ TEST_F(DataSetsTest, TellWhatCameOfThemAndHowTheyDiffer) {
                                    "31.8", "", "0.0", "0.0", "0.0"}));
     EXPECT_EQ(row(1, keys), (Texts{"2", "Low, \"new\"", "W-3", "Launch", "101.2", "104.2", "30.0",
                                    "50.6", "31.5", "Different dimple", "+1.2", "-5.8", "0.0"}));
-    EXPECT_EQ(row(2, keys), (Texts{"3", "", "I-0", "Launch", "", "", "", "", "", "", "", "", ""}));
+    EXPECT_EQ(row(2, keys), (Texts{"3", "", "I-0", "Launch", "no landing", "no landing", "", "",
+                                   "no landing", "", "", "", ""}));
+    EXPECT_EQ(row(2, {"impactSpin", "impactSpeed", "time"}),
+              (Texts{"no landing", "no landing", ""}));
+    EXPECT_EQ(wordsOf(book, 3), "3: no landing, altitude 0 ft");
+    for (const char* swing : {"headSpeed", "headWeight", "loft", "bend", "attack", "cor"})
+        EXPECT_EQ(text(0, swing), "") << swing << " of a launch";
     book.setBase(2);
     EXPECT_EQ(text(0, "carryMore") + text(0, "totalMore"), "-1.2+5.8");
     EXPECT_EQ(wordsOf(book, 2), "2 Low, \"new\": carry 101.2 yd, total 104.2 yd, height 30.0 yd, "
@@ -124,6 +132,18 @@ TEST_F(DataSetsTest, AnswerForPointsOfTheirPaths) {
               "Data set 2 Low, \"new\"\nx 50.6 yd, height 30.0 yd\n0.01 s, 10355.6 mph");
 }
 
+/// Where the leftmost and the rightmost mark of a chart end.
+std::pair<double, double> marksOf(const PictureBox& canvas) {
+    std::pair ends(1e9, 0.0);
+    for (const DrawnCircle& disc : shapesOf<DrawnCircle>(canvas)) {
+        ends.first = std::min(ends.first, disc.centre.x - disc.radius - disc.pen * 7.5);
+        ends.second = std::max(ends.second, disc.centre.x + disc.radius);
+    }
+    for (const DrawnLine& line : shapesOf<DrawnLine>(canvas))
+        ends.second = std::max(ends.second, line.to.x);
+    return ends;
+}
+
 TEST_F(DataSetsTest, StandOnTheLandingChartToScale) {
     ControlSet controls;
     PictureBox canvas(controls, "chart", kWhite, kBlack);
@@ -146,17 +166,61 @@ TEST_F(DataSetsTest, StandOnTheLandingChartToScale) {
     EXPECT_NEAR((carry2 - carry1) / yard, 1.25, 1e-6);
     EXPECT_NEAR((total2 - carry2) / yard, 3, 1e-6);
     Texts texts;
-    for (const DrawnText& text : shapesOf<DrawnText>(canvas)) {
+    for (const DrawnText& text : shapesOf<DrawnText>(canvas))
         texts.push_back(text.text);
-        EXPECT_GE(text.place.x, 0);
-        EXPECT_LE(text.place.x, 9000);
-    }
     for (const char* text :
-         {"1", "2 Low, \"new\"", "100.0 / 110.0", "101.2 / 104.2", "base: 1", "106"})
+         {"1", "2 Low, \"new\"", "100.0 / 110.0", "101.2 / 104.2", "base: 1", "106", "no landing"})
         EXPECT_EQ(std::count(texts.begin(), texts.end(), text), 1) << text;
+    // Narrow or wide, with any letters: all names stand left of all marks, all figures right of
+    // them.
+    for (const double width : {5000.0, 9000.0, 20000.0})
+        for (const double letter : {60.0, 160.0}) {
+            book.setTag(1, {std::string(30, 'W') + std::string(30, 'i'), true, 4});
+            canvas.cls();
+            canvas.setGeometry({0, 0, width, 4000});
+            canvas.setTextMeasure(
+                [letter](std::string_view text) { return letter * double(text.size()); });
+            drawLandings(canvas, book, std::vector{1, 2, 3});
+            const auto [first, last] = marksOf(canvas);
+            for (const DrawnText& text : shapesOf<DrawnText>(canvas)) {
+                const double extent = letter * double(text.text.size());
+                const double left = text.place.x - text.anchor.x * extent;
+                EXPECT_GE(left, 0) << text.text;
+                EXPECT_LE(left + extent, width + 1) << text.text;
+                EXPECT_TRUE(text.anchor.y != 0.5 || left + extent < first || left > last)
+                    << text.text;
+            }
+        }
     canvas.cls();
     drawLandings(canvas, book, {});
     EXPECT_EQ(canvas.drawings().size(), 1U) << "the word that there is none";
+}
+
+TEST_F(DataSetsTest, HaveAChartOfPathsWithTheirNumbersOnThem) {
+    ControlSet controls;
+    PictureBox canvas(controls, "chart", kWhite, kBlack);
+    canvas.setGeometry({0, 0, 7000, 3000});
+    drawPaths(canvas, book, std::vector{1, 2, 3});
+    const auto curves = shapesOf<DrawnCurve>(canvas);
+    ASSERT_EQ(curves.size(), 2U) << "a flight that failed has none";
+    const auto& [foot, top, end] =
+        std::tie(curves[1].points[0], curves[1].points[1], curves[1].points[2]);
+    EXPECT_NEAR(end.x - top.x, top.x - foot.x, 0.01);
+    EXPECT_EQ(end.y, foot.y) << "not below the ground";
+    std::map<std::string, Place> at;
+    for (const DrawnText& text : shapesOf<DrawnText>(canvas))
+        if (text.halo || text.anchor == kTopMiddle)
+            at[text.text] = text.place;
+    // The axis is the scale of the paths, and each number stands on its path.
+    EXPECT_NEAR((end.x - foot.x) / (at.at("100").x - at.at("0").x), 1.0125, 1e-5);
+    for (const DrawnCurve& curve : curves) {
+        const Place number = at.at(&curve == curves.data() ? "1" : "2");
+        EXPECT_TRUE(std::any_of(curve.points.begin(), curve.points.end(),
+                                [&](const TrajectoryPoint& point) {
+                                    return std::hypot(point.x - number.x, point.y - number.y) < 1;
+                                }));
+    }
+    drawPaths(canvas, book, {});
 }
 
 struct TickedPlot : testing::Test, ScriptedForm {};
@@ -176,6 +240,8 @@ TEST_F(TickedPlot, ShowsWhatIsTickedUnderItsOwnNumber) {
         if (text.text.starts_with("Club"))
             legend.push_back(text.text);
     EXPECT_EQ(legend, (Texts{"Club 1/3", "Club 1/17"}));
+    EXPECT_EQ(main.plot.inWords(), "2 of 17 data sets shown. " + wordsOf(form.Runs, 3) + ". " +
+                                       wordsOf(form.Runs, 17) + ".");
     form.mnuPrint.Click();
     EXPECT_EQ(shapesOf<DrawnCurve>(form.Picture4).size(), 2U);
     run();
