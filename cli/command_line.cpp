@@ -109,7 +109,7 @@ public:
         app_.set_version_flag("--version", "parabolt-cli " PARABOLT_VERSION);
         app_.require_subcommand(1);
         app_.footer("Exit status: 0 done; 1 some shots gave no result; 2 options or input that "
-                    "make no sense; 3 a file could not be read or written.");
+                    "make no sense; 3 a file could not be read or written, or memory ran out.");
         addFly();
         addBatch();
         addMap();
@@ -124,8 +124,11 @@ public:
         try {
             app_.parse(std::move(arguments));
         } catch (const CLI::ParseError& error) {
-            const bool asked = app_.exit(error, console_.out, console_.err) == 0;
-            return static_cast<int>(asked ? console_.finish() : ExitStatus::BadInput);
+            if (error.get_exit_code() != 0)
+                return static_cast<int>(console_.complain(
+                    std::string(error.what()) + ". Run with --help for more information."));
+            app_.exit(error, console_.out, console_.err); // help, or the version
+            return static_cast<int>(console_.finish());
         }
         return static_cast<int>(run_());
     }
@@ -158,6 +161,9 @@ private:
                        "The file; - or nothing for the standard input. A table has headings such "
                        "as \"Ball speed [mph]\" or ball_speed_mph; what it lacks, the options "
                        "give");
+        app.add_flag("--own-air", batch_.ownAir,
+                     "The shots of a launch monitor's file fly in the air that it tells, where it "
+                     "tells one; a table's columns count anyway");
         addShot(app, batch_.shot);
         addFormat(app, batch_.format);
         addPath(app, batch_.path);
@@ -217,9 +223,23 @@ private:
             "The format; told by the name of the file if not given");
         CLI::App& bag =
             addAction("fly", Action::Fly, "Fly the clubs of a bag and tell the gaps between them");
-        bag.add_option("--narrowest-yd", clubs_.narrowest, "Mark gaps below, in yards")
-            ->type_name("yd");
-        bag.add_option("--widest-yd", clubs_.widest, "Mark gaps above, in yards")->type_name("yd");
+        bag.add_option("--bag", clubs_.session,
+                       "A session file: its clubs owned, their names, head speeds and limits of "
+                       "gaps; its club set too if no FILE is given")
+            ->type_name("SESSION");
+        const auto addNumber = [&](const std::string& names, std::optional<std::string>& text,
+                                   const std::string& unit, const std::string& meaning) {
+            bag.add_option(names, text, meaning)->type_name(unit);
+        };
+        addNumber("--first-speed-mph,--first-speed", clubs_.firstSpeed, "mph",
+                  "Head speed of the first wood and of the first iron, 50 to 165; it falls from "
+                  "club to club");
+        addNumber("--fall-mph,--fall", clubs_.fall, "mph",
+                  "Fall of the head speed from club to club, 0 to 5; 1 if not given");
+        addNumber("--narrowest-yd,--narrowest", clubs_.narrowest, "yd",
+                  "Mark gaps below, 0 to 100; 8 if not given");
+        addNumber("--widest-yd,--widest", clubs_.widest, "yd",
+                  "Mark gaps above, 0 to 100; 18 if not given");
         addConditions(bag, clubs_.shot);
         addFormat(bag, clubs_.format);
     }

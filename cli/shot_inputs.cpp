@@ -1,8 +1,10 @@
 #include "cli/shot_inputs.h"
 
+#include "numbers/characters.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 #include "shots/ball_kinds.h"
+#include "shots/shot_words.h"
 #include "shots/shown_figures.h"
 
 #include <algorithm>
@@ -65,8 +67,9 @@ std::span<const ShotInput, kShotInputs> shotInputs() {
 }
 
 std::optional<std::size_t> shotInputNamed(std::string_view name) {
+    const std::string lower = lowerCase(name);
     for (std::size_t i = 0; i < kInputs.size(); ++i)
-        if (name == kInputs[i].key || name == kInputs[i].heading)
+        if (lower == kInputs[i].key || lower == lowerCase(kInputs[i].heading))
             return i;
     return std::nullopt;
 }
@@ -94,7 +97,8 @@ Outcome<void, std::string> ShotRequest::setClub(std::string_view text) {
 Outcome<void, std::string> ShotRequest::setBall(std::string_view text) {
     const auto number = parseNumber(text);
     for (std::size_t i = 0; i < kBallKinds.size(); ++i)
-        if (number == kBallKinds.at(i).BallType) {
+        if (number == kBallKinds.at(i).BallType ||
+            lowerCase(text) == lowerCase(ballName(kBallKinds.at(i).BallType))) {
             ball_ = i;
             return {};
         }

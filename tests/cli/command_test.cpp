@@ -13,6 +13,9 @@ using nlohmann::json;
 
 const std::string kHead = "Ball speed [mph],Launch angle [deg],Spin [rpm]\n";
 
+const std::string kSet =
+    "club,loft_deg,head_weight_g,head_speed_mph,COR,attack_angle_deg,bend_deg\n";
+
 struct Told {
     std::string arguments;
     std::string input;
@@ -26,8 +29,9 @@ TEST(Command, EndsAsItsManualSays) {
     const Told cases[] = {
         {"--help", "", 0, "Subcommands:", ""},
         {"--version", "", 0, "parabolt-cli ", ""},
-        {"", "", 2, "", "subcommand is required"},
-        {"fly --nonsense", "", 2, "", "--nonsense"},
+        {"", "", 2, "", "parabolt-cli: A subcommand is required"},
+        {"fly --nonsense", "", 2, "",
+         "parabolt-cli: The following argument was not expected: --nonsense"},
         {"fly --format xml", "", 2, "", "xml"},
         // Limits: accepted themselves, refused beyond, in the words of the form.
         {"fly --ball-speed 30 --spin 0", "", 0, ",LM,30,", ""},
@@ -48,24 +52,39 @@ TEST(Command, EndsAsItsManualSays) {
         {"study spin --club W1", "", 2, "", "flies a launch"},
         {"study height", "", 2, "", "height"},
         {"map --across 1:2", "", 2, "", "--across: Give first, last and step"},
+        {"map --across 1:2:3:", "", 2, "", "--across: Give first, last and step"},
+        {"map --kind swing --spin 3000", "", 2, "", "A map of swings takes a swing"},
+        {"study loft --launch-angle 12", "", 2, "", "A study of the loft flies a swing"},
         {"map --up 5:4:1", "", 2, "", "--up: An axis rises"},
         {"map --across 0:30000:100", "", 2, "", "--across: Enter a value between 0 and 22000"},
         // Tables of shots.
         {"batch", "", 2, "", "There is no table"},
         {"batch /nowhere.csv", "", 3, "", "/nowhere.csv: No such file"},
         {"batch", kHead + "144,9.5,3200\n", 0, "2,,144,9.5,3200,228.36668,", ""},
-        {"batch", kHead + "144,9.5,3200\n12,9,1\n150,9,2500\n", 1, "\r\n3,,,,,,,,,,,,Ball speed",
-         "line 3: Ball speed [mph]: " + speed},
+        {"batch", kHead + "144,9.5,3200\n12,9,1\n150,9,2500\n", 1,
+         "\r\n3,,,,,,,,,,,,,,,,,,Ball speed", "line 3: Ball speed [mph]: " + speed},
         {"batch", kHead + "144,9.5,3200,7\n", 1, "2,,", "line 2: The row has more cells"},
-        {"batch", kHead + "144,\"9.5\n", 2, "Line,Club", "line 2: A quote is not closed."},
+        {"batch", kHead + "144,\"9.5\n", 2, "Line,Club",
+         "line 2: a quote is opened and never closed."},
         {"batch --wind 10", "\xEF\xBB\xBF\n\nspin_rpm;ball_speed_mph;club\n3200;144;\"a;b\"\n", 0,
          "\r\n4,a;b,144,9.5,3200,205.", ""},
         {"batch", "sep=;\nBall speed [mph];Launch angle [deg]\n144;\n", 0, "3,,144,9.5,3200,228",
          ""},
         {"batch", "Club,Head speed [mph]\nDriver,\n7i,80\nW11,\n", 1, "\r\n3,7i,", "line 4: There"},
         {"batch --path", kHead + "144,9.5,3200\n", 0, "\r\n2,0.01,0.69131", ""},
+        {"batch", "BALL SPEED [MPH];launch_angle_deg\n144,5;9,5\n", 0, "\r\n2,,144.5,9.5,", ""},
+        {"batch", "ball_speed_mph,Ball speed [mph]\n144,145\n", 2, "", "says again what another"},
+        {"batch", "speed,angle\n144,9\n", 2, "", "not known are: \"speed\", \"angle\"."},
+        {"batch", std::string(3 << 20, 'x'), 2, "", "line 1: the row is longer than 1 MB."},
+        {"batch", std::string(3 << 20, '\n'), 2, "", "no headings in the first 1 MB"},
+        {"batch", kHead + std::string(3 << 20, ' '), 2, "Line,", "line 2: the row is longer"},
         // Files of launch monitors: what their rows leave out is told, and is no fault.
         {"batch " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 0, ",7 Iron,", "is left out: "},
+        {"batch " PARABOLT_TEST_DATA "/measured/trap_tabs.txt", "", 0, "Line,", "a file of "},
+        {"batch --club W1 --clubs x " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 3, "",
+         "x: No such"},
+        {"batch --spin 1 " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 2, "",
+         "with it: --spin-rpm."},
         {"batch " PARABOLT_TEST_DATA "/measured/unknown.csv", "", 2, "", "No known launch monitor"},
         {"batch " PARABOLT_TEST_DATA "/measured/own.csv", "", 0, "\r\n3,1,144,9.5,3200,2",
          "\"Name\" is not read"},
@@ -74,13 +93,22 @@ TEST(Command, EndsAsItsManualSays) {
         {"normalise --to-altitude-ft 16000 -", "", 2, "", "--to-altitude-ft: Enter a value"},
         // Clubs.
         {"clubs check", "", 0, "", ""},
-        {"clubs check -", "Club,COR\n7i,0.9\n", 2, "", "7i: Then COR must between 0.7 and 0.86"},
-        {"clubs list -", "abc", 2, "", "-: It is no clubs file."},
+        {"clubs check -", kSet + "7i,34,260,94,0.9,0,0\n", 2, "", "are missing: Driver, 2W, 3W"},
+        {"clubs check -", kSet + "7i,34,260,94,0.8,0,0\nI7,3", 2, "", "line 3: The row has not as"},
+        {"clubs check -", kSet + "7i,34,1,1,1,0,0\nI7,3,1,1,1,0,0", 2, "", "7i stands there twice"},
+        {"clubs list -", "abc", 2, "", "standard input: It is no clubs file."},
         {"clubs list -", "Club,Lofty\n", 2, "", "no heading \"Lofty\""},
-        {"clubs list -", "Club,COR\n7i,x\n", 2, "", "line 2: \"x\" is no number."},
-        {"clubs list -", "{\"clubs\":[{\"club\":\"9z\"}]}", 2, "", "A club without a known name"},
+        {"clubs list -", "Club,COR\n7i,0.8\n", 2, "",
+         "columns are missing: Loft [deg], Head weight"},
+        {"clubs list -", kSet + "7i,x,,,,,\n", 2, "", "line 2: \"x\" is no number."},
+        {"clubs list -", "{\"clubs\":[{\"club\":\"9z\"}]}", 2, "", "There is no club \"9z\""},
+        {"clubs list -", "{\"clubs\":[{\"club\":\"7i\"}]}", 2, "", "no number \"loft_deg\""},
         {"clubs convert", "", 2, "", "Say with --to"},
         {"clubs fly --narrowest-yd 9", "", 0, "too narrow", ""},
+        {"clubs fly --narrowest-yd nan", "", 2, "", "--narrowest-yd: Enter a value between 0"},
+        {"clubs fly --narrowest 19", "", 2, "", "19 yards, is above the widest, 18 yards"},
+        {"clubs fly --first-speed 105 --fall 2.5", "", 0, "\r\n3W,100,235.7", ""},
+        {"clubs fly --bag /nowhere", "", 3, "", "/nowhere: No such file"},
     };
     for (const Told& each : cases) {
         const auto run = runCommand(each.arguments, each.input);

@@ -147,7 +147,7 @@ TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
         {rows + "\n200,140,3000,12\n", "Line 10002: the file has more than 10,000 rows."},
         {headings + "200,140,\"3000,12\n200\n", "Line 2: a quote is opened and never closed."},
         {headings + std::string(2'000'000, 'x'),
-         "Line 2: the row is too long for a table of shots."},
+         "Line 2: the row is longer than 1 MB."},
         {std::string("PK\3\4 \0 \0\xFF", 9),
          "This is no text file: tables of shots are read from CSV and text files."},
         {"Club,Speed\nD,150\n",
