@@ -7,6 +7,7 @@
 #include "cli/normalise_command.h"
 #include "cli/session_command.h"
 #include "cli/study_command.h"
+#include "measured/measured_flights.h"
 #include "numbers/text_number.h"
 
 #include <CLI/CLI.hpp>
@@ -102,14 +103,18 @@ void addPath(CLI::App& app, bool& path) {
                  "beside the figures");
 }
 
+constexpr auto kStatuses =
+    "Exit status: 0 done; 1 some shots gave no result; 2 options or input that make no sense; 3 a "
+    "file could not be read or written, or memory ran out.";
+constexpr std::string_view kAskHelp = " Run with --help for more information.";
+
 /// The command line as a whole: its commands, their options, and the one that is to run.
 class CommandLine {
 public:
     explicit CommandLine(const Console& console) : console_(console) {
         app_.set_version_flag("--version", "parabolt-cli " PARABOLT_VERSION);
         app_.require_subcommand(1);
-        app_.footer("Exit status: 0 done; 1 some shots gave no result; 2 options or input that "
-                    "make no sense; 3 a file could not be read or written, or memory ran out.");
+        app_.footer(kStatuses);
         addFly();
         addBatch();
         addMap();
@@ -120,13 +125,21 @@ public:
     }
 
     int run(std::vector<std::string> arguments) {
+        if (const std::string name = unknownCommand(arguments); !name.empty())
+            return static_cast<int>(
+                console_.complain("There is no command \"" + name + "\"." + std::string(kAskHelp)));
         std::reverse(arguments.begin(), arguments.end()); // as the library wants them
         try {
             app_.parse(std::move(arguments));
+        } catch (const CLI::ArgumentMismatch& error) {
+            const std::string_view what = error.what();
+            return static_cast<int>(console_.complain(std::string(what.substr(0, what.find(':'))) +
+                                                      ": Its value is missing." +
+                                                      std::string(kAskHelp)));
         } catch (const CLI::ParseError& error) {
             if (error.get_exit_code() != 0)
-                return static_cast<int>(console_.complain(
-                    std::string(error.what()) + ". Run with --help for more information."));
+                return static_cast<int>(
+                    console_.complain(std::string(error.what()) + "." + std::string(kAskHelp)));
             app_.exit(error, console_.out, console_.err); // help, or the version
             return static_cast<int>(console_.finish());
         }
@@ -134,6 +147,21 @@ public:
     }
 
 private:
+    /// The word that stands in the place of a command and is none; empty if there is none such.
+    std::string unknownCommand(const std::vector<std::string>& arguments) const {
+        const CLI::App* app = &app_;
+        for (const std::string& word : arguments) {
+            if (app->get_subcommands({}).empty() || word.starts_with('-'))
+                break;
+            const auto named =
+                app->get_subcommands([&](const CLI::App* sub) { return sub->get_name() == word; });
+            if (named.empty())
+                return word;
+            app = named.front();
+        }
+        return {};
+    }
+
     /// A command that runs a function with its options.
     template <class Options>
     CLI::App& add(CLI::App& parent, const std::string& name, const std::string& meaning,
@@ -186,11 +214,15 @@ private:
 
     void addStudy() {
         CLI::App& app =
-            add(app_, "study", "Find the launch angle, the spin or the loft that carries furthest",
+            add(app_, "study",
+                "Raise the launch angle or the spin until the carry falls, or find the best loft",
                 study_, studyCommand);
         addChoice<Study>(app, "WHAT", study_.study,
                          {{"launch", Study::Launch}, {"spin", Study::Spin}, {"loft", Study::Loft}},
-                         "What is looked for: launch, spin or loft")
+                         "launch: the angle, from 2 degrees in whole ones; spin: from 0 in steps "
+                         "of 100 rpm: each up to the first fall of the carry, as in the window's "
+                         "studies; loft: the one with which the swing carries furthest. A value "
+                         "given for what is looked for doesn't count")
             ->required();
         addShot(app, study_.shot);
         addFormat(app, study_.format);
@@ -248,6 +280,7 @@ private:
         CLI::App& app =
             add(app_, "normalise", "Bring the carries of a launch monitor's file to calm air",
                 normalise_, normaliseCommand);
+        app.footer(std::string(kNormalisedNote) + "\n" + kStatuses);
         app.add_option("FILE", normalise_.file, "The file; - or nothing for the standard input");
         app.add_flag("--own-air", normalise_.ownAir,
                      "The shots were hit in the air that the file tells, where it tells one");
@@ -255,19 +288,21 @@ private:
                                const std::string& unit, const std::string& meaning) {
             app.add_option(name, text, meaning)->type_name(unit)->group("The calm air");
         };
-        addTo("--to-altitude-ft", normalise_.altitude, "ft", "Altitude, 0 if not given");
-        addTo("--to-temperature-deg-f", normalise_.temperature, "deg F",
+        addTo("--to-altitude-ft,--to-altitude", normalise_.altitude, "ft",
+              "Altitude, 0 if not given");
+        addTo("--to-temperature-deg-f,--to-temperature", normalise_.temperature, "deg F",
               "Temperature, 70 if not given");
-        addTo("--to-pressure-inhg", normalise_.pressure, "inHg",
+        addTo("--to-pressure-inhg,--to-pressure", normalise_.pressure, "inHg",
               "Pressure as read at sea level, 29.92 if not given");
-        addTo("--to-humidity-percent", normalise_.humidity, "%",
+        addTo("--to-humidity-percent,--to-humidity", normalise_.humidity, "%",
               "Relative humidity, 50 if not given");
         addConditions(app, normalise_.shot);
         addFormat(app, normalise_.format);
     }
 
     void addSession() {
-        CLI::App& app = add(app_, "session", "Write the data sets that a session file holds",
+        CLI::App& app = add(app_, "session",
+                            "Write what a session file holds: its data sets, in JSON all of it",
                             session_, sessionCommand);
         app.add_option("FILE", session_.file, "The file; - or nothing for the standard input");
         addFormat(app, session_.format);
