@@ -20,6 +20,16 @@ std::string faultText(const CsvFault& fault) {
     return lineText(fault.line, textOf(fault.kind)) + ".";
 }
 
+/// Headings in a line: "a", "b" and more.
+std::string quoted(std::span<const std::string> headings, std::size_t most) {
+    std::string text;
+    for (const std::string& heading : headings.first(std::min(most, headings.size()))) {
+        text += text.empty() ? "\"" : ", \"";
+        text += shownCell(std::string_view(heading), {}) + "\"";
+    }
+    return headings.size() > most ? text + " and more" : text;
+}
+
 /// What a row takes in memory, about.
 std::size_t bytesOf(const CsvRow& row) {
     std::size_t bytes = row.cells.size() * sizeof(std::string);
@@ -150,8 +160,9 @@ private:
     }
 
     ExitStatus flyTable(TableStream& table, const BatchColumns& columns) {
-        for (const std::string& heading : columns.unknown())
-            console_.err << "The column \"" << heading << "\" is not read.\n";
+        if (!columns.unknown().empty())
+            console_.err << input_.name() << ": not read are the columns "
+                         << quoted(columns.unknown(), columns.unknown().size()) << ".\n";
         RowStream out(console_, format_, this->columns());
         OrderedWork work(console_, out);
         std::vector<CsvRow> rows;
@@ -225,16 +236,10 @@ private:
     /// Behind the message that nobody knows a file: what a table would have to name otherwise.
     static std::string unknownHeadings(const BatchColumns& columns) {
         constexpr std::size_t kMostNamed = 8;
-        std::string text;
-        for (const std::string& heading : columns.unknown())
-            if (&heading - columns.unknown().data() < std::ptrdiff_t{kMostNamed})
-                text += (text.empty() ? "\"" : ", \"") + shownCell(std::string_view(heading), {}) +
-                        "\"";
-        if (columns.unknown().size() > kMostNamed)
-            text += " and more";
+        const std::string text = quoted(columns.unknown(), kMostNamed);
         return text.empty() ? text
                             : " As a table of shots it would have headings such as \"Ball speed "
-                              "[mph]\" or ball_speed_mph; not known are: " +
+                              "[mph]\" or ball_speed_mph; not known are " +
                                   text + ".";
     }
 

@@ -49,7 +49,8 @@ bool isResult(std::string_view heading) {
         return std::any_of(columns.begin(), columns.end(),
                            [&](const Column& column) { return names(heading, column); });
     };
-    return isAmong(batchColumns(Format::Csv)) || isAmong(shotColumns());
+    return isAmong(batchColumns(Format::Csv)) || isAmong(shotColumns()) ||
+           names(heading, kDataSetColumn);
 }
 
 void complain(BatchText& text, std::size_t line, std::string_view problem) {

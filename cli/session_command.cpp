@@ -13,10 +13,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr Column kNumber{"data_set", "Data set", "0"};
-
 std::vector<Column> withNumber(std::span<const Column> columns) {
-    std::vector<Column> all = {kNumber};
+    std::vector<Column> all = {kDataSetColumn};
     all.insert(all.end(), columns.begin(), columns.end());
     return all;
 }

@@ -8,6 +8,9 @@
 
 namespace parabolt::cli {
 
+/// The number of a data set.
+inline constexpr Column kDataSetColumn{"data_set", "Data set", "0"};
+
 /// What came of a flight, without the shot: seven columns from the carry to the time.
 std::span<const Column> figureColumns();
 /// Appends the cells of a flight that came down.

@@ -1,4 +1,6 @@
 #include "clubs/clubs_file.h"
+#include "measured/measured_codec.h"
+#include "sessions/session_codec.h"
 #include "shots/figures.h"
 #include "tests/cli/command_run.h"
 #include "tests/support/shots.h"
@@ -74,7 +76,7 @@ TEST(Command, EndsAsItsManualSays) {
         {"batch --path", kHead + "144,9.5,3200\n", 0, "\r\n2,0.01,0.69131", ""},
         {"batch", "BALL SPEED [MPH];launch_angle_deg\n144,5;9,5\n", 0, "\r\n2,,144.5,9.5,", ""},
         {"batch", "ball_speed_mph,Ball speed [mph]\n144,145\n", 2, "", "says again what another"},
-        {"batch", "speed,angle\n144,9\n", 2, "", "not known are: \"speed\", \"angle\"."},
+        {"batch", "speed,angle\n144,9\n", 2, "", "not known are \"speed\", \"angle\"."},
         {"batch", std::string(3 << 20, 'x'), 2, "", "line 1: the row is longer than 1 MB."},
         {"batch", std::string(3 << 20, '\n'), 2, "", "no headings in the first 1 MB"},
         {"batch", kHead + std::string(3 << 20, ' '), 2, "Line,", "line 2: the row is longer"},
@@ -87,7 +89,7 @@ TEST(Command, EndsAsItsManualSays) {
          "with it: --spin-rpm."},
         {"batch " PARABOLT_TEST_DATA "/measured/unknown.csv", "", 2, "", "No known launch monitor"},
         {"batch " PARABOLT_TEST_DATA "/measured/own.csv", "", 0, "\r\n3,1,144,9.5,3200,2",
-         "\"Name\" is not read"},
+         "not read are the columns \"Number\", \"Name\"."},
         {"normalise " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 0, ",7 Iron,",
          "is left out: "},
         {"normalise --to-altitude-ft 16000 -", "", 2, "", "--to-altitude-ft: Enter a value"},
@@ -166,6 +168,87 @@ TEST(Command, KeepsTheOrderOfALongTable) {
     }
     // Its own results read back, and fly to the same.
     EXPECT_EQ(runCommand("batch", run.out).out, run.out);
+}
+
+// What was flown is flown again from its results, whatever made the launch; and from their results.
+TEST(Command, ReadsItsOwnResults) {
+    for (const char* options : {"fly --ball-speed 151 --spin 2345.6 --ball 2 --wind -7.3",
+                                "fly --club 7i --head-speed 88 --altitude 4100 --ball 1",
+                                "fly --club W3 --launch-angle 12.3 --pressure 29.13",
+                                "fly --loft 47 --bend 1.5 --temperature 48 --humidity 12"}) {
+        const auto flown = runCommand(options).out;
+        const auto read = runCommand("batch --format json", flown);
+        ASSERT_EQ(read.status, 0) << read.err;
+        EXPECT_EQ(read.err, "");
+        json again = json::parse(read.out)[0];
+        const json once = json::parse(runCommand(std::string(options) + " --format json").out);
+        again.erase("line");
+        again.erase("problem");
+        for (const auto& [key, value] : again.items())
+            EXPECT_EQ(value, once[key]) << options << ' ' << key;
+        const auto second = runCommand("batch", flown).out;
+        EXPECT_EQ(runCommand("batch", second).out, second);
+    }
+    // Rows without a result, and the table of data sets with its words.
+    const auto failed = runCommand("batch --wind 3", "Club,ball_speed_mph\n7i,12\nX9,\nD,144\n");
+    const auto again = runCommand("batch", failed.out);
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_EQ(again.out, failed.out);
+    EXPECT_EQ(again.err, failed.err);
+    const std::string head = "Mode,Loft [deg],Ball,ball_speed_mph,launch_angle_deg,spin_rpm\n";
+    EXPECT_EQ(json::parse(runCommand("batch --format json",
+                                     head + "Manual,10,Different dimple,144,9.5,3200\n")
+                              .out)[0]["carry_yd"],
+              json::parse(runCommand("fly --ball 2 --format json").out)["carry_yd"]);
+    EXPECT_NE(runCommand("batch", head + ",10,4,144,,\n").err.find("not both"), std::string::npos);
+    EXPECT_NE(runCommand("batch", head + "XM,10,4,144,9,1\n").err.find("no mode"),
+              std::string::npos);
+}
+
+TEST(Command, TellsAllOfASessionAndFliesItsBag) {
+    Session session{{}, "2026-11-23 10:32"};
+    session.desk.clubs = InitClubTables();
+    session.desk.clubs.Woods[3].HeadSpeed = 120;
+    session.desk.club = 1;
+    session.desk.fillIn = true;
+    session.desk.scale = 250.5F;
+    session.desk.table = {{"a row\n", {1, 2, 3}}};
+    session.desk.reportCaption = "Ann";
+    session.desk.runs = {flightOf(mildShot(150, 12, 2500)).record};
+    session.desk.tags = {{"low", false, 2}};
+    MeasuredSession measured;
+    for (BagClub& club : measured.bag.clubs)
+        club.owned = club.name == "3W" || club.name == "PW";
+    measured.bag.clubs.at(2).name = "Old faithful";
+    session.desk.windows = {{kMeasuredKey, encodeMeasured(measured)}, {"other", "{ words"}};
+    const std::string file = encodeSession(session);
+    const json all = json::parse(runCommand("session --format json", file).out);
+    for (const auto& [pointer, value] : std::initializer_list<std::pair<const char*, json>>{
+             {"/mode", "MM"},
+             {"/ball", 4},
+             {"/club", "2W"},
+             {"/fill_in", true},
+             {"/scale_yd", 250.5},
+             {"/shot/cor", 0.83},
+             {"/table/0/text", "a row\n"},
+             {"/table/0/colour", {1, 2, 3}},
+             {"/report_caption", "Ann"},
+             {"/data_sets/0/name", "low"},
+             {"/data_sets/0/ticked", false},
+             {"/data_sets/0/ball", 2},
+             {"/base_data_set", 1},
+             {"/club_set/clubs/2/head_speed_mph", 120},
+             {"/windows/measured/bag/widest", 18},
+             {"/windows/other", "{ words"}})
+        EXPECT_EQ(all.at(json::json_pointer(pointer)), value) << pointer;
+    const auto rows = linesOf(runCommand("clubs fly --bag -", file).out);
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_TRUE(rows[1].starts_with("Old faithful,120,")) << rows[1];
+    EXPECT_TRUE(rows[1].ends_with(",too wide")) << rows[1];
+    EXPECT_TRUE(rows[2].starts_with("PW,91,")) << rows[2];
+    session.desk.windows.clear();
+    EXPECT_NE(runCommand("clubs fly --bag -", encodeSession(session)).err.find("has no bag"),
+              std::string::npos);
 }
 
 /// A reader that goes away after some bytes, and a table without end.
