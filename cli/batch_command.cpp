@@ -204,7 +204,7 @@ private:
             return console_.complain(content.why());
         const auto file = importMonitorFile(*content, input_.name(), console_);
         if (!file)
-            return console_.complain(file.why() + unknownHeadings(columns));
+            return console_.complain(file.why() + unknownHeadings(*content, columns));
         if (const std::string given = launchOptions(options_.shot); !given.empty())
             return console_.complain(input_.name() +
                                      ": It is a launch monitor's file, which tells "
@@ -234,13 +234,14 @@ private:
     }
 
     /// Behind the message that nobody knows a file: what a table would have to name otherwise.
-    static std::string unknownHeadings(const BatchColumns& columns) {
+    static std::string unknownHeadings(std::string_view content, const BatchColumns& columns) {
+        const auto file = readShotFile(content);
+        if (!file || recognise(*file) != nullptr || columns.unknown().empty())
+            return {};
         constexpr std::size_t kMostNamed = 8;
-        const std::string text = quoted(columns.unknown(), kMostNamed);
-        return text.empty() ? text
-                            : " As a table of shots it would have headings such as \"Ball speed "
-                              "[mph]\" or ball_speed_mph; not known are " +
-                                  text + ".";
+        return " As a table of shots it would have headings such as \"Ball speed [mph]\" or "
+               "ball_speed; not known are " +
+               quoted(columns.unknown(), kMostNamed) + ".";
     }
 
     const BatchOptions& options_;

@@ -42,10 +42,8 @@ std::string limitsText(const ShotInput& input) {
 /// "--ball-speed-mph", and the same without its unit.
 std::string optionNames(const ShotInput& input) {
     const std::string option = optionOf(input);
-    const bool hasUnit = input.heading.find(" [") != std::string_view::npos;
-    const std::size_t unit =
-        option.find("-deg-f") != std::string::npos ? option.find("-deg-f") : option.rfind('-');
-    return hasUnit ? option + "," + option.substr(0, unit) : option;
+    const std::size_t unit = input.key.size() - keyWithoutUnit(input).size();
+    return unit > 0 ? option + "," + option.substr(0, option.size() - unit) : option;
 }
 
 std::string unitOf(const ShotInput& input) {
@@ -133,9 +131,11 @@ public:
             app_.parse(std::move(arguments));
         } catch (const CLI::ArgumentMismatch& error) {
             const std::string_view what = error.what();
-            return static_cast<int>(console_.complain(std::string(what.substr(0, what.find(':'))) +
-                                                      ": Its value is missing." +
-                                                      std::string(kAskHelp)));
+            const bool again = what.find("received") != std::string_view::npos;
+            return static_cast<int>(console_.complain(
+                std::string(what.substr(0, what.find(':'))) +
+                (again ? ": It is given more than once." : ": Its value is missing.") +
+                std::string(kAskHelp)));
         } catch (const CLI::ParseError& error) {
             if (error.get_exit_code() != 0)
                 return static_cast<int>(

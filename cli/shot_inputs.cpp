@@ -66,10 +66,20 @@ std::span<const ShotInput, kShotInputs> shotInputs() {
     return kInputs;
 }
 
+std::string_view keyWithoutUnit(const ShotInput& input) {
+    if (input.heading.find(" [") == std::string_view::npos)
+        return input.key;
+    constexpr std::string_view kInTwoWords = "_deg_f";
+    return input.key.substr(0, input.key.ends_with(kInTwoWords)
+                                   ? input.key.size() - kInTwoWords.size()
+                                   : input.key.rfind('_'));
+}
+
 std::optional<std::size_t> shotInputNamed(std::string_view name) {
     const std::string lower = lowerCase(name);
     for (std::size_t i = 0; i < kInputs.size(); ++i)
-        if (lower == kInputs[i].key || lower == lowerCase(kInputs[i].heading))
+        if (lower == kInputs[i].key || lower == keyWithoutUnit(kInputs[i]) ||
+            lower == lowerCase(kInputs[i].heading))
             return i;
     return std::nullopt;
 }

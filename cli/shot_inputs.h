@@ -31,7 +31,10 @@ inline constexpr std::size_t kShotInputs = 14;
 
 /// All inputs that are numbers, in the order of the form.
 std::span<const ShotInput, kShotInputs> shotInputs();
-/// The place of the input that a column names by its heading or its key, in any letters.
+/// "ball_speed", of "ball_speed_mph".
+std::string_view keyWithoutUnit(const ShotInput& input);
+/// The place of the input that a column names by its heading, or by its key with or without the
+/// unit, in any letters.
 std::optional<std::size_t> shotInputNamed(std::string_view name);
 
 /// What has been said of a shot, on its way to a shot. Values that nobody gives are those with

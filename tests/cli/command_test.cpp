@@ -34,6 +34,9 @@ TEST(Command, EndsAsItsManualSays) {
         {"", "", 2, "", "parabolt-cli: A subcommand is required"},
         {"fly --nonsense", "", 2, "",
          "parabolt-cli: The following argument was not expected: --nonsense"},
+        {"fly --spin", "", 2, "", "parabolt-cli: --spin-rpm: Its value is missing."},
+        {"fly --spin 1 --spin 2", "", 2, "", "--spin-rpm: It is given more than once."},
+        {"clubs foo", "", 2, "", "parabolt-cli: There is no command \"foo\""},
         {"fly --format xml", "", 2, "", "xml"},
         // Limits: accepted themselves, refused beyond, in the words of the form.
         {"fly --ball-speed 30 --spin 0", "", 0, ",LM,30,", ""},
@@ -74,7 +77,8 @@ TEST(Command, EndsAsItsManualSays) {
          ""},
         {"batch", "Club,Head speed [mph]\nDriver,\n7i,80\nW11,\n", 1, "\r\n3,7i,", "line 4: There"},
         {"batch --path", kHead + "144,9.5,3200\n", 0, "\r\n2,0.01,0.69131", ""},
-        {"batch", "BALL SPEED [MPH];launch_angle_deg\n144,5;9,5\n", 0, "\r\n2,,144.5,9.5,", ""},
+        {"batch", "BALL SPEED [MPH];launch_angle;Temperature\n144,5;9,5;70\n", 0,
+         "\r\n2,,144.5,9.5,", ""},
         {"batch", "ball_speed_mph,Ball speed [mph]\n144,145\n", 2, "", "says again what another"},
         {"batch", "speed,angle\n144,9\n", 2, "", "not known are \"speed\", \"angle\"."},
         {"batch", std::string(3 << 20, 'x'), 2, "", "line 1: the row is longer than 1 MB."},
@@ -83,6 +87,7 @@ TEST(Command, EndsAsItsManualSays) {
         // Files of launch monitors: what their rows leave out is told, and is no fault.
         {"batch " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 0, ",7 Iron,", "is left out: "},
         {"batch " PARABOLT_TEST_DATA "/measured/trap_tabs.txt", "", 0, "Line,", "a file of "},
+        {"batch " PARABOLT_TEST_DATA "/measured/trap_unknown_unit.csv", "", 2, "", ", knots.\n"},
         {"batch --club W1 --clubs x " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 3, "",
          "x: No such"},
         {"batch --spin 1 " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 2, "",
