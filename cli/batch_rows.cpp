@@ -9,6 +9,7 @@
 #include "shots/shown_figures.h"
 
 #include <algorithm>
+#include <array>
 
 namespace parabolt::cli {
 namespace {
@@ -39,7 +40,7 @@ std::vector<Column> composePathColumns() {
 }
 
 /// True for a heading or key of a column, in any letters.
-bool names(std::string_view heading, const Column& column) {
+bool namesColumn(std::string_view heading, const Column& column) {
     return lowerCase(heading) == column.key || lowerCase(heading) == lowerCase(column.heading);
 }
 
@@ -47,10 +48,10 @@ bool names(std::string_view heading, const Column& column) {
 bool isResult(std::string_view heading) {
     const auto isAmong = [&](std::span<const Column> columns) {
         return std::any_of(columns.begin(), columns.end(),
-                           [&](const Column& column) { return names(heading, column); });
+                           [&](const Column& column) { return namesColumn(heading, column); });
     };
     return isAmong(batchColumns(Format::Csv)) || isAmong(shotColumns()) ||
-           names(heading, kDataSetColumn);
+           namesColumn(heading, kDataSetColumn);
 }
 
 void complain(BatchText& text, std::size_t line, std::string_view problem) {
@@ -92,13 +93,13 @@ void appendResult(BatchText& text, const RowWriter& writer, std::vector<Cell>& c
 
 /// True for a mode, by its code in our results or by its name in the table of data sets.
 bool isMode(std::string_view text) {
-    const std::string lower = lowerCase(text);
-    for (const std::int16_t mode :
-         {OperatingMode::Launch, OperatingMode::Default, OperatingMode::Manual, OperatingMode::Auto,
-          OperatingMode::Actual})
-        if (lower == lowerCase(modeCode(mode)) || lower == lowerCase(modeName(mode)))
-            return true;
-    return false;
+    constexpr std::array<std::int16_t, 5> kModes = {OperatingMode::Launch, OperatingMode::Default,
+                                                    OperatingMode::Manual, OperatingMode::Auto,
+                                                    OperatingMode::Actual};
+    return std::any_of(kModes.begin(), kModes.end(), [&](std::int16_t mode) {
+        return lowerCase(text) == lowerCase(modeCode(mode)) ||
+               lowerCase(text) == lowerCase(modeName(mode));
+    });
 }
 
 } // namespace
@@ -159,21 +160,19 @@ Outcome<void, std::string> BatchColumns::take(ShotRequest& request, const CsvRow
         return because(std::string(problem));
     const bool told = !mode.empty() && launchCells == launch.size();
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        const std::string& cell = row.cells[i];
         const std::size_t meaning = meanings_[i];
-        Outcome<void, std::string> taken;
-        if (cell.empty() || (meaning > kShotInputs && meaning != Ball))
+        if (row.cells[i].empty() || meaning >= kShotInputs)
             continue;
-        if (meaning == Ball)
-            taken = request.setBall(cell);
-        else if (meaning < kShotInputs &&
-                 !(told && shotInputs()[meaning].of == ShotInput::Of::Swing))
-            taken = request.set(meaning, withDecimalPoint(cell, delimiter_));
-        if (!taken)
-            return meaning == Ball
-                       ? taken
-                       : because(std::string(shotInputs()[meaning].heading) + ": " + taken.why());
+        const ShotInput& input = shotInputs()[meaning];
+        if (told && input.of == ShotInput::Of::Swing)
+            continue;
+        if (const auto taken = request.set(meaning, withDecimalPoint(row.cells[i], delimiter_));
+            !taken)
+            return because(std::string(input.heading) + ": " + taken.why());
     }
+    if (const std::string_view ball = cellOf(row, Ball); !ball.empty())
+        if (auto taken = request.setBall(ball); !taken)
+            return taken;
     const std::string_view club = cellOf(row, Club);
     if (club.empty() || request.givesLaunch())
         return {};

@@ -81,7 +81,7 @@ public:
         const auto club = clubNamed(name, usual_);
         if (!club)
             return because("There is no club \"" + std::string(name) +
-                           "\". Its name is one such as \"Driver\" or \"7i\".");
+                           R"(". Its name is one such as "Driver" or "7i".)");
         if (!seen_.insert(*club).second)
             return because(usualName(*club) + " stands there twice.");
         return *club;
@@ -140,8 +140,8 @@ Outcome<std::vector<float ClubRecord::*>, std::string> fieldsOf(const CsvRow& he
             return lowerCase(heading) == lowerCase(column.heading) ||
                    lowerCase(heading) == column.key;
         };
-        const auto field = std::find_if(kFields.begin(), kFields.end(),
-                                        [&](const auto& each) { return named(each.column); });
+        const auto* const field = std::find_if(
+            kFields.begin(), kFields.end(), [&](const auto& each) { return named(each.column); });
         if (field == kFields.end() && !named(kClubColumn))
             return because("There is no heading \"" + heading + "\" in a table of clubs.");
         float ClubRecord::*const member = field != kFields.end() ? field->member : nullptr;

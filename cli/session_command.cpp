@@ -34,7 +34,7 @@ std::vector<Cell> numberedCells(const Desk& desk, std::size_t run) {
     return cells;
 }
 
-void writePath(const RunRecord& run, std::size_t number, RowStream& rows) {
+void writeNumberedPath(const RunRecord& run, std::size_t number, RowStream& rows) {
     for (std::size_t point = 0; point < run.Path.size(); ++point) {
         auto cells = pathCells(run, point);
         cells.insert(cells.begin(), static_cast<double>(number));
@@ -141,7 +141,7 @@ ExitStatus sessionCommand(const SessionOptions& options, const Console& console)
         RowStream rows(console, format, columns);
         for (std::size_t run = 0; run < session->desk.runs.size(); ++run)
             if (options.path)
-                writePath(session->desk.runs[run], run + 1, rows);
+                writeNumberedPath(session->desk.runs[run], run + 1, rows);
             else
                 rows.row(numberedCells(session->desk, run));
         rows.end();

@@ -5,8 +5,8 @@
 namespace parabolt {
 
 void appendCsvField(std::string& text, std::string_view field) {
-    constexpr char kSpecial[] = {kCsvDelimiter, kCsvQuote, '\r', '\n'};
-    if (field.find_first_of(std::string_view(kSpecial, sizeof kSpecial)) ==
+    constexpr std::array kSpecial = {kCsvDelimiter, kCsvQuote, '\r', '\n'};
+    if (field.find_first_of(std::string_view(kSpecial.data(), kSpecial.size())) ==
         std::string_view::npos) {
         text += field;
         return;

@@ -1,6 +1,7 @@
 #include "cli/batch_rows.h"
 #include "cli/club_files.h"
 #include "cli/descriptor_stream.h"
+#include "cli/ordered_work.h"
 #include "cli/shot_options.h"
 #include "tests/cli/command_run.h"
 #include "tests/support/golden.h"
@@ -201,6 +202,18 @@ TEST(CommandParts, ReadFilesUpToTheirLimit) {
               folder.path() + ": Is a directory");
     putContent(folder.path("empty"), "");
     EXPECT_EQ(*Input::open(folder.path("empty"), console)->readAll(9), "");
+}
+
+TEST(CommandParts, PassOnWhatAPieceThrows) {
+    std::istringstream in;
+    std::ostringstream out, err;
+    const Console console{in, out, err};
+    RowStream rows(console, Format::Csv, batchColumns(Format::Csv));
+    OrderedWork work(console, rows);
+    work.add([](const std::stop_token&) -> BatchText { throw std::bad_alloc(); });
+    work.add([](const std::stop_token&) { return BatchText{"late\r\n", "", 1, 0}; });
+    EXPECT_THROW(work.finish(), std::bad_alloc);
+    EXPECT_EQ(out.str().find("late"), std::string::npos);
 }
 
 // Paths of a batch: rows with their line, and in JSON beside the figures.
