@@ -107,10 +107,11 @@ bool isMode(std::string_view text) {
 BatchColumns::BatchColumns(const CsvRow& headings, char delimiter) : delimiter_(delimiter) {
     bool any = false;
     bool ballSpeed = false;
-    for (const std::string& heading : headings.cells) {
+    for (const std::string& cell : headings.cells) {
+        const std::string_view heading = trimmed(cell);
         const std::size_t meaning = meaningOf(heading);
-        if (meaning == Ignored && !isResult(heading))
-            unknown_.push_back(heading);
+        if (meaning == Ignored && !heading.empty() && !isResult(heading))
+            unknown_.emplace_back(heading);
         const bool again = meaning != Ignored && std::find(meanings_.begin(), meanings_.end(),
                                                            meaning) != meanings_.end();
         if (again && repeated_.empty())
@@ -126,7 +127,7 @@ BatchColumns::BatchColumns(const CsvRow& headings, char delimiter) : delimiter_(
     isTable_ = !ofDevice && (ballSpeed || (any && unknown_.empty()));
 }
 
-std::size_t BatchColumns::meaningOf(const std::string& heading) const {
+std::size_t BatchColumns::meaningOf(std::string_view heading) const {
     if (const auto input = shotInputNamed(heading))
         return *input;
     for (const auto& [name, meaning] :
@@ -140,9 +141,8 @@ std::size_t BatchColumns::meaningOf(const std::string& heading) const {
 std::string_view BatchColumns::cellOf(const CsvRow& row, std::size_t meaning) const {
     const auto found = std::find(meanings_.begin(), meanings_.end(), meaning);
     const auto column = static_cast<std::size_t>(found - meanings_.begin());
-    return column < row.cells.size() && found != meanings_.end()
-               ? std::string_view(row.cells[column])
-               : std::string_view();
+    return column < row.cells.size() && found != meanings_.end() ? trimmed(row.cells[column])
+                                                                 : std::string_view();
 }
 
 /// Takes what the cells of a row say; the reason if they say what can't be.
@@ -161,7 +161,7 @@ Outcome<void, std::string> BatchColumns::take(ShotRequest& request, const CsvRow
     const bool told = !mode.empty() && launchCells == launch.size();
     for (std::size_t i = 0; i < row.cells.size(); ++i) {
         const std::size_t meaning = meanings_[i];
-        if (row.cells[i].empty() || meaning >= kShotInputs)
+        if (meaning >= kShotInputs || trimmed(row.cells[i]).empty())
             continue;
         const ShotInput& input = shotInputs()[meaning];
         if (told && input.of == ShotInput::Of::Swing)

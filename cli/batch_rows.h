@@ -37,7 +37,7 @@ public:
 
 private:
     enum Meaning : std::size_t { Club = kShotInputs, Ball, Mode, Problem, Ignored };
-    std::size_t meaningOf(const std::string& heading) const;
+    std::size_t meaningOf(std::string_view heading) const;
     std::string_view cellOf(const CsvRow& row, std::size_t meaning) const;
     Outcome<void, std::string> take(ShotRequest& request, const CsvRow& row) const;
 

@@ -135,7 +135,8 @@ Outcome<ClubTables, std::string> clubsOfJson(std::string_view text) {
 /// The members that the headings of a table mean, null for the name of the club.
 Outcome<std::vector<float ClubRecord::*>, std::string> fieldsOf(const CsvRow& headings) {
     std::vector<float ClubRecord::*> fields;
-    for (const std::string& heading : headings.cells) {
+    for (const std::string& cell : headings.cells) {
+        const std::string heading(trimmed(cell));
         const auto named = [&](const Column& column) {
             return lowerCase(heading) == lowerCase(column.heading) ||
                    lowerCase(heading) == column.key;

@@ -100,7 +100,7 @@ std::string_view textOf(CsvFault::Kind kind) {
 
 bool isEmpty(const CsvRow& row) {
     return std::all_of(row.cells.begin(), row.cells.end(),
-                       [](const std::string& cell) { return cell.empty(); });
+                       [](const std::string& cell) { return trimmed(cell).empty(); });
 }
 
 std::string_view withoutByteOrderMark(std::string_view text) {

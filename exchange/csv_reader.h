@@ -57,7 +57,7 @@ private:
     bool finished_ = false;
 };
 
-/// True if no cell of a row has content.
+/// True if no cell of a row has content, blanks aside.
 bool isEmpty(const CsvRow& row);
 
 /// The text without a byte order mark of UTF-8.

@@ -16,6 +16,9 @@ std::size_t characterCount(std::string_view text);
 /// Where a character, counted from 0, starts in a UTF-8 text; the text's size if it has no such.
 std::size_t characterStart(std::string_view text, std::size_t character);
 
+/// The text without certain characters around it: blanks and tabs, if no others are named.
+std::string_view trimmed(std::string_view text, std::string_view what = " \t");
+
 /// The text with its letters A to Z in lower case; all other bytes stay, in every locale.
 std::string lowerCase(std::string_view text);
 

@@ -79,6 +79,7 @@ TEST(Command, EndsAsItsManualSays) {
         {"batch --path", kHead + "144,9.5,3200\n", 0, "\r\n2,0.01,0.69131", ""},
         {"batch", "BALL SPEED [MPH];launch_angle;Temperature\n144,5;9,5;70\n", 0,
          "\r\n2,,144.5,9.5,", ""},
+        {"batch", " ball_speed , Club,\n 144 , Driver,\n  \n", 0, "\r\n2,Driver,144,9.5,", ""},
         {"batch", "ball_speed_mph,Ball speed [mph]\n144,145\n", 2, "", "says again what another"},
         {"batch", "speed,angle\n144,9\n", 2, "", "not known are \"speed\", \"angle\"."},
         {"batch", std::string(3 << 20, 'x'), 2, "", "line 1: the row is longer than 1 MB."},
