@@ -1,8 +1,8 @@
 #include "cli/batch_command.h"
 
+#include "cli/monitor_file.h"
 #include "cli/ordered_work.h"
 #include "measured/measured_flights.h"
-#include "measured/shot_import.h"
 
 #include <algorithm>
 #include <memory>
@@ -11,12 +11,31 @@
 namespace parabolt::cli {
 namespace {
 
-constexpr std::size_t kMostRows = 2048; ///< of a piece of work
+// Of a piece of work: what it holds in memory, with its results, is to be small.
+constexpr std::size_t kMostShots = 2048;
+constexpr std::size_t kMostPaths = 64;
+constexpr std::size_t kMostBytes = std::size_t{1} << 20;
 
 std::string faultText(const CsvFault& fault) {
-    return "line " + std::to_string(fault.line) +
-           (fault.kind == CsvFault::Kind::QuoteNotClosed ? ": A quote is not closed."
-                                                         : ": The row is too long.");
+    return lineText(fault.line, textOf(fault.kind)) + ".";
+}
+
+/// Headings in a line: "a", "b" and more.
+std::string quoted(std::span<const std::string> headings, std::size_t most) {
+    std::string text;
+    for (const std::string& heading : headings.first(std::min(most, headings.size()))) {
+        text += text.empty() ? "\"" : ", \"";
+        text += shownCell(std::string_view(heading), {}) + "\"";
+    }
+    return headings.size() > most ? text + " and more" : text;
+}
+
+/// What a row takes in memory, about.
+std::size_t bytesOf(const CsvRow& row) {
+    std::size_t bytes = row.cells.size() * sizeof(std::string);
+    for (const std::string& cell : row.cells)
+        bytes += cell.size();
+    return bytes;
 }
 
 /// A table that comes in pieces. It waits for more only where a row needs it.
@@ -25,12 +44,14 @@ public:
     explicit TableStream(std::istream& in) : in_(in), buffer_(std::size_t{64} << 10, '\0') {}
 
     /// The first row with content. What was read of the text until then stays in `head`.
-    Outcome<std::optional<CsvRow>, CsvFault> headings(std::string& head) {
+    Outcome<std::optional<CsvRow>, std::string> headings(std::string& head) {
         do
             head += readPiece();
-        while (head.find('\n') == std::string::npos && !ended_);
+        while (head.find_first_of("\r\n") == std::string::npos && !ended_ &&
+               head.size() <= CsvReader::kLongestRow);
         const std::string_view text = withoutByteOrderMark(head);
-        reader_ = CsvReader(delimiterOf(text));
+        delimiter_ = delimiterOf(text);
+        reader_ = CsvReader(delimiter_);
         reader_.feed(text);
         if (ended_)
             reader_.finish();
@@ -38,15 +59,19 @@ public:
         while (true) {
             const auto found = reader_.next(row);
             if (!found)
-                return because(found.why());
+                return because(faultText(found.why()));
             if (!*found && ended_)
                 return std::optional<CsvRow>();
+            if (*found && !isEmpty(row) && !namesDelimiter(row))
+                return std::optional(row);
+            if (!*found && head.size() > CsvReader::kLongestRow)
+                return because(std::string("There are no headings in the first 1 MB."));
             if (!*found)
                 head += feed();
-            else if (!isEmpty(row) && !row.cells.front().starts_with("sep="))
-                return std::optional(row);
         }
     }
+    /// What parts the cells.
+    char delimiter() const { return delimiter_; }
 
     /// Takes the next row; false at the end. Calls `beforeWait` where none has arrived yet.
     template <class BeforeWait>
@@ -66,11 +91,6 @@ public:
     }
 
 private:
-    static bool isEmpty(const CsvRow& row) {
-        return std::all_of(row.cells.begin(), row.cells.end(),
-                           [](const std::string& cell) { return cell.empty(); });
-    }
-
     std::string_view feed() {
         const std::string_view piece = readPiece();
         reader_.feed(piece);
@@ -93,6 +113,7 @@ private:
     std::istream& in_;
     std::string buffer_;
     CsvReader reader_;
+    char delimiter_ = ',';
     bool ended_ = false;
 };
 
@@ -113,40 +134,44 @@ public:
         std::string head;
         const auto headings = table.headings(head);
         if (!headings)
-            return console_.complain(faultText(headings.why()));
+            return console_.complain(input_.name() + ": " + headings.why());
         if (input_.stream().bad())
-            return unreadable();
+            return console_.complain(input_.unreadable());
         if (!*headings)
-            return console_.complain("There is no table: the input is empty.");
-        if (const auto columns = BatchColumns::of(**headings))
-            return flyTable(table, *columns);
-        return flyMonitorFile(head);
+            return console_.complain(input_.name() + ": There is no table: it is empty.");
+        const BatchColumns columns(**headings, table.delimiter());
+        if (!columns.isTable())
+            return flyMonitorFile(std::move(head), columns);
+        if (!columns.repeated().empty())
+            return console_.complain(input_.name() + ": The heading \"" + columns.repeated() +
+                                     "\" says again what another one says.");
+        return flyTable(table, columns);
     }
 
 private:
-    std::span<const Column> columns() const { return paths_ ? batchPathColumns() : batchColumns(); }
-
-    ExitStatus unreadable() const {
-        return console_.complain(options_.file + ": it can't be read to its end.",
-                                 ExitStatus::FileFailed);
+    std::span<const Column> columns() const {
+        return paths_ ? batchPathColumns() : batchColumns(format_);
     }
+    std::size_t mostShots() const { return options_.path ? kMostPaths : kMostShots; }
 
     BatchText flyShots(std::span<const BatchShot> shots, const RowWriter& writer,
                        const std::stop_token& stop) const {
-        return options_.path ? flyBatchPaths(shots, format_, writer, stop)
-                             : flyBatch(shots, writer, stop);
+        return options_.path ? flyBatchPaths(shots, writer, stop) : flyBatch(shots, writer, stop);
     }
 
     ExitStatus flyTable(TableStream& table, const BatchColumns& columns) {
-        for (const std::string& heading : columns.unknown())
-            console_.err << "The column \"" << heading << "\" is not read.\n";
+        if (!columns.unknown().empty())
+            console_.err << input_.name() << ": not read are the columns "
+                         << quoted(columns.unknown(), columns.unknown().size()) << ".\n";
         RowStream out(console_, format_, this->columns());
         OrderedWork work(console_, out);
         std::vector<CsvRow> rows;
+        std::size_t bytes = 0;
         bool writable = true;
         const auto submit = [&] {
             if (rows.empty())
                 return;
+            bytes = 0;
             writable = work.add([&, rows = std::exchange(rows, {})](const std::stop_token& stop) {
                 std::vector<BatchShot> shots;
                 shots.reserve(rows.size());
@@ -157,42 +182,66 @@ private:
         };
         Outcome<bool, CsvFault> more{true};
         for (CsvRow row; writable && (more = table.next(row, submit)) && *more;) {
+            bytes += bytesOf(row);
             rows.push_back(std::exchange(row, {}));
-            if (rows.size() == kMostRows)
+            if (rows.size() == mostShots() || bytes > kMostBytes)
                 submit();
         }
         submit();
         const std::size_t failed = work.finish();
         out.end();
         if (!more)
-            return console_.finish(console_.complain(faultText(more.why())));
+            return console_.finish(console_.complain(input_.name() + ": " + faultText(more.why())));
         if (input_.stream().bad())
-            return unreadable();
+            return console_.finish(console_.complain(input_.unreadable()));
         return console_.finish(failed > 0 ? ExitStatus::SomeFailed : ExitStatus::Done);
     }
 
     /// The file as a whole; what its preview would leave out is told and left out.
-    ExitStatus flyMonitorFile(const std::string& head) {
-        const auto rest =
-            input_.readAll(kLongestShotFile - std::min(kLongestShotFile, head.size()));
-        if (!rest)
-            return console_.complain(rest.why());
-        const auto preview = importShots(head + *rest);
-        if (!preview)
-            return console_.complain(preview.why().message);
+    ExitStatus flyMonitorFile(std::string head, const BatchColumns& columns) {
+        const auto content = input_.readAll(kLongestShotFile, std::move(head));
+        if (!content)
+            return console_.complain(content.why());
+        const auto file = importMonitorFile(*content, input_.name(), console_);
+        if (!file)
+            return console_.complain(file.why() + unknownHeadings(*content, columns));
+        if (const std::string given = launchOptions(options_.shot); !given.empty())
+            return console_.complain(input_.name() +
+                                     ": It is a launch monitor's file, which tells "
+                                     "the launches itself. These options don't go "
+                                     "with it: " +
+                                     given + ".");
         const auto conditions = base_.shot();
-        std::vector<BatchShot> shots;
-        for (const ImportRow& row : preview->rows)
-            if (row.reason.empty())
-                shots.push_back({row.line, row.shot.club, shotOf(row.shot, *conditions, false)});
-            else
-                console_.err << "line " << row.line << " is left out: " << row.reason << '\n';
-        RowStream out(console_, format_, columns());
-        const BatchText text = flyShots(shots, out.writer(), {});
-        console_.err << text.complaints;
-        out.rows(text.rows);
+        RowStream out(console_, format_, this->columns());
+        OrderedWork work(console_, out);
+        std::vector<MeasuredShot> shots = file->taken();
+        for (std::size_t first = 0; first < shots.size(); first += mostShots()) {
+            const auto piece = std::span<const MeasuredShot>(shots).subspan(
+                first, std::min(mostShots(), shots.size() - first));
+            const bool writable = work.add([&, piece](const std::stop_token& stop) {
+                std::vector<BatchShot> flights;
+                for (const MeasuredShot& shot : piece)
+                    flights.push_back(
+                        {shot.line, shot.club, shotOf(shot, *conditions, options_.ownAir)});
+                return flyShots(flights, out.writer(), stop);
+            });
+            if (!writable)
+                break;
+        }
+        const std::size_t failed = work.finish();
         out.end();
-        return console_.finish(text.failed > 0 ? ExitStatus::SomeFailed : ExitStatus::Done);
+        return console_.finish(failed > 0 ? ExitStatus::SomeFailed : ExitStatus::Done);
+    }
+
+    /// Behind the message that nobody knows a file: what a table would have to name otherwise.
+    static std::string unknownHeadings(std::string_view content, const BatchColumns& columns) {
+        const auto file = readShotFile(content);
+        if (!file || recognise(*file) != nullptr || columns.unknown().empty())
+            return {};
+        constexpr std::size_t kMostNamed = 8;
+        return " As a table of shots it would have headings such as \"Ball speed [mph]\" or "
+               "ball_speed; not known are " +
+               quoted(columns.unknown(), kMostNamed) + ".";
     }
 
     const BatchOptions& options_;
@@ -208,15 +257,15 @@ private:
 ExitStatus batchCommand(const BatchOptions& options, const Console& console) {
     const auto clubs = clubsFor(options.shot, console);
     if (!clubs)
-        return console.complain(clubs.why().message, clubs.why().status);
+        return console.complain(clubs.why());
     const auto base = requestOf(options.shot, *clubs);
     if (!base)
-        return console.complain(base.why().message, base.why().status);
+        return console.complain(base.why());
     if (const auto shot = base->shot(); !shot)
         return console.complain(shot.why());
     auto input = Input::open(options.file, console);
     if (!input)
-        return console.complain(input.why(), ExitStatus::FileFailed);
+        return console.complain(input.why());
     return Batch(options, *base, *input, console).run();
 }
 

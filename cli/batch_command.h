@@ -9,6 +9,7 @@ struct BatchOptions {
     std::string file = "-";
     std::optional<Format> format;
     bool path = false;
+    bool ownAir = false; ///< of a launch monitor's file: its air, where it brings some
 };
 
 /// Flies the shots of a table, or of a launch monitor's file, and writes a row for each in its

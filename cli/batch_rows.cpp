@@ -2,10 +2,14 @@
 
 #include "cli/shot_rows.h"
 #include "exchange/shot_columns.h"
+#include "measured/devices.h"
 #include "numbers/characters.h"
 #include "shots/fault_words.h"
+#include "shots/shot_words.h"
+#include "shots/shown_figures.h"
 
 #include <algorithm>
+#include <array>
 
 namespace parabolt::cli {
 namespace {
@@ -16,10 +20,15 @@ constexpr Column kProblem{"problem", "Problem", {}};
 
 constexpr decltype(ShotInput::member) kBallSpeedMember = &ShotInputs::LaunchSpeed;
 
-std::vector<Column> composeBatchColumns() {
+std::vector<Column> composeBatchColumns(Format format) {
     std::vector<Column> columns = {kLine, kClubColumn};
-    for (const auto part : {launchColumns(), figureColumns()})
+    const auto add = [&](std::span<const Column> part) {
         columns.insert(columns.end(), part.begin(), part.end());
+    };
+    add(launchColumns());
+    add(figureColumns());
+    if (format != Format::Table)
+        add(conditionColumns());
     columns.push_back(kProblem);
     return columns;
 }
@@ -30,10 +39,19 @@ std::vector<Column> composePathColumns() {
     return columns;
 }
 
+/// True for a heading or key of a column, in any letters.
+bool namesColumn(std::string_view heading, const Column& column) {
+    return lowerCase(heading) == column.key || lowerCase(heading) == lowerCase(column.heading);
+}
+
+/// True for a column of results that tells nothing of the shot.
 bool isResult(std::string_view heading) {
-    return std::any_of(batchColumns().begin(), batchColumns().end(), [&](const Column& column) {
-        return heading == column.key || heading == column.heading;
-    });
+    const auto isAmong = [&](std::span<const Column> columns) {
+        return std::any_of(columns.begin(), columns.end(),
+                           [&](const Column& column) { return namesColumn(heading, column); });
+    };
+    return isAmong(batchColumns(Format::Csv)) || isAmong(shotColumns()) ||
+           namesColumn(heading, kDataSetColumn);
 }
 
 void complain(BatchText& text, std::size_t line, std::string_view problem) {
@@ -55,64 +73,123 @@ std::vector<Cell>& beginCells(std::vector<Cell>& cells, const BatchShot& shot,
     return cells;
 }
 
+/// Writes the row that begins with the cells.
 void appendFailure(BatchText& text, const RowWriter& writer, std::vector<Cell>& cells,
                    std::size_t line, std::string_view problem) {
     complain(text, line, problem);
-    appendNoFigures(cells);
+    cells.resize(batchColumns(writer.format()).size() - 1);
     cells.emplace_back(problem);
     writer.row(text.rows, cells);
 }
 
+void appendResult(BatchText& text, const RowWriter& writer, std::vector<Cell>& cells,
+                  const ShotInputs& shot, const FlightOutcome& flown) {
+    appendFigures(cells, flown);
+    if (writer.format() != Format::Table)
+        appendConditions(cells, shot);
+    cells.emplace_back();
+    writer.row(text.rows, cells);
+}
+
+/// True for a mode, by its code in our results or by its name in the table of data sets.
+bool isMode(std::string_view text) {
+    constexpr std::array<std::int16_t, 5> kModes = {OperatingMode::Launch, OperatingMode::Default,
+                                                    OperatingMode::Manual, OperatingMode::Auto,
+                                                    OperatingMode::Actual};
+    return std::any_of(kModes.begin(), kModes.end(), [&](std::int16_t mode) {
+        return lowerCase(text) == lowerCase(modeCode(mode)) ||
+               lowerCase(text) == lowerCase(modeName(mode));
+    });
+}
+
 } // namespace
 
-std::optional<BatchColumns> BatchColumns::of(const CsvRow& headings) {
-    BatchColumns columns;
+BatchColumns::BatchColumns(const CsvRow& headings, char delimiter) : delimiter_(delimiter) {
     bool any = false;
-    bool ours = false;
-    for (const std::string& heading : headings.cells) {
-        std::size_t meaning = Ignored;
-        if (const auto input = shotInputNamed(heading)) {
-            meaning = *input;
-            ours = ours || shotInputs()[*input].member == kBallSpeedMember;
-        } else if (lowerCase(heading) == "club" || lowerCase(heading) == "ball") {
-            meaning = lowerCase(heading) == "club" ? Club : Ball;
-        } else if (!isResult(heading)) {
-            columns.unknown_.push_back(heading);
-        }
-        any = any || meaning != Ignored;
-        columns.meanings_.push_back(meaning);
+    bool ballSpeed = false;
+    for (const std::string& cell : headings.cells) {
+        const std::string_view heading = trimmed(cell);
+        const std::size_t meaning = meaningOf(heading);
+        if (meaning == Ignored && !heading.empty() && !isResult(heading))
+            unknown_.emplace_back(heading);
+        const bool again = meaning != Ignored && std::find(meanings_.begin(), meanings_.end(),
+                                                           meaning) != meanings_.end();
+        if (again && repeated_.empty())
+            repeated_ = heading;
+        any = any || meaning < Mode;
+        ballSpeed = ballSpeed ||
+                    (meaning < kShotInputs && shotInputs()[meaning].member == kBallSpeedMember);
+        meanings_.push_back(meaning);
     }
-    return ours || (any && columns.unknown_.empty()) ? std::optional(columns) : std::nullopt;
+    // Devices name some columns in the same words, but not all of their marks.
+    const Device* device = recognise({delimiter, {headings}});
+    const bool ofDevice = device != nullptr && !device->plainNumbers;
+    isTable_ = !ofDevice && (ballSpeed || (any && unknown_.empty()));
+}
+
+std::size_t BatchColumns::meaningOf(std::string_view heading) const {
+    if (const auto input = shotInputNamed(heading))
+        return *input;
+    for (const auto& [name, meaning] :
+         {std::pair("club", Club), {"ball", Ball}, {"mode", Mode}, {"problem", Problem}})
+        if (lowerCase(heading) == name)
+            return meaning;
+    return Ignored;
+}
+
+/// The cell of the row that has the meaning; empty if there is none.
+std::string_view BatchColumns::cellOf(const CsvRow& row, std::size_t meaning) const {
+    const auto found = std::find(meanings_.begin(), meanings_.end(), meaning);
+    const auto column = static_cast<std::size_t>(found - meanings_.begin());
+    return column < row.cells.size() && found != meanings_.end() ? trimmed(row.cells[column])
+                                                                 : std::string_view();
+}
+
+/// Takes what the cells of a row say; the reason if they say what can't be.
+Outcome<void, std::string> BatchColumns::take(ShotRequest& request, const CsvRow& row) const {
+    if (row.cells.size() > meanings_.size())
+        return because(std::string("The row has more cells than there are headings."));
+    const std::string_view mode = cellOf(row, Mode);
+    if (!mode.empty() && !isMode(mode))
+        return because("Mode: There is no mode \"" + std::string(mode) + "\".");
+    const auto launch = shotInputs().first<3>();
+    std::size_t launchCells = 0;
+    for (std::size_t i = 0; i < launch.size(); ++i)
+        launchCells += cellOf(row, i).empty() ? 0U : 1U;
+    if (const std::string_view problem = cellOf(row, Problem); !problem.empty() && launchCells == 0)
+        return because(std::string(problem));
+    const bool told = !mode.empty() && launchCells == launch.size();
+    for (std::size_t i = 0; i < row.cells.size(); ++i) {
+        const std::size_t meaning = meanings_[i];
+        if (meaning >= kShotInputs || trimmed(row.cells[i]).empty())
+            continue;
+        const ShotInput& input = shotInputs()[meaning];
+        if (told && input.of == ShotInput::Of::Swing)
+            continue;
+        if (const auto taken = request.set(meaning, withDecimalPoint(row.cells[i], delimiter_));
+            !taken)
+            return because(std::string(input.heading) + ": " + taken.why());
+    }
+    if (const std::string_view ball = cellOf(row, Ball); !ball.empty())
+        if (auto taken = request.setBall(ball); !taken)
+            return taken;
+    const std::string_view club = cellOf(row, Club);
+    if (club.empty() || request.givesLaunch())
+        return {};
+    return request.setClub(club);
 }
 
 BatchShot BatchColumns::shotOf(const CsvRow& row, const ShotRequest& base) const {
-    BatchShot result;
-    result.line = row.line;
     ShotRequest request = base;
-    Outcome<void, std::string> taken;
-    const std::size_t count = std::min(row.cells.size(), meanings_.size());
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::string& cell = row.cells[i];
-        if (meanings_[i] == Club)
-            result.club = cell;
-        if (!taken || cell.empty() || meanings_[i] == Club || meanings_[i] == Ignored)
-            continue;
-        if (meanings_[i] == Ball)
-            taken = request.setBall(cell);
-        else if (taken = request.set(meanings_[i], cell); !taken)
-            taken = because(std::string(shotInputs()[meanings_[i]].heading) + ": " + taken.why());
-    }
-    if (row.cells.size() > meanings_.size())
-        taken = because(std::string("The row has more cells than there are headings."));
-    if (taken && !result.club.empty() && !request.givesLaunch())
-        taken = request.setClub(result.club);
-    result.shot = taken ? request.shot() : because(taken.why());
-    return result;
+    const auto taken = take(request, row);
+    return {row.line, std::string(cellOf(row, Club)),
+            taken ? request.shot() : because(taken.why())};
 }
 
-std::span<const Column> batchColumns() {
-    static const auto kColumns = composeBatchColumns();
-    return kColumns;
+std::span<const Column> batchColumns(Format format) {
+    static const auto kAll = composeBatchColumns(Format::Csv);
+    static const auto kForPeople = composeBatchColumns(Format::Table);
+    return format == Format::Table ? kForPeople : kAll;
 }
 
 std::span<const Column> batchPathColumns() {
@@ -155,14 +232,12 @@ BatchText flyBatch(std::span<const BatchShot> shots, const RowWriter& writer,
             appendFailure(text, writer, cells, shots[i].line, faultDescription(*flown.fault));
             continue;
         }
-        appendFigures(cells, flown);
-        cells.emplace_back();
-        writer.row(text.rows, cells);
+        appendResult(text, writer, cells, *state, flown);
     }
     return text;
 }
 
-BatchText flyBatchPaths(std::span<const BatchShot> shots, Format format, const RowWriter& writer,
+BatchText flyBatchPaths(std::span<const BatchShot> shots, const RowWriter& writer,
                         const std::stop_token& stop) {
     BatchText text;
     text.count = shots.size();
@@ -175,12 +250,10 @@ BatchText flyBatchPaths(std::span<const BatchShot> shots, Format format, const R
             flown
                 ? ""
                 : (shot.shot ? std::string(faultDescription(flown.why().fault)) : shot.shot.why());
-        if (format == Format::Json) {
+        if (writer.format() == Format::Json) {
             beginCells(cells, shot, flown ? &flown->shot : nullptr);
             if (flown) {
-                appendFigures(cells, outcomeOf(flown->record));
-                cells.emplace_back();
-                writer.row(text.rows, cells);
+                appendResult(text, writer, cells, flown->shot, outcomeOf(flown->record));
                 text.rows.back() = ',';
                 appendJsonPath(text.rows.append("\"path\":"), flown->record);
                 text.rows += '}';

@@ -18,24 +18,40 @@ struct BatchShot {
 /// What the columns of a table of shots mean, by its headings.
 class BatchColumns {
 public:
-    /// Nothing if the table is not one of ours: those have our ball speed among their headings, or
+    /// Cells with decimal commas are read where another delimiter parts them.
+    BatchColumns(const CsvRow& headings, char delimiter);
+
+    /// False if the table is not one of ours: those have our ball speed among their headings, or
     /// only headings of ours.
-    static std::optional<BatchColumns> of(const CsvRow& headings);
+    bool isTable() const { return isTable_; }
     /// Headings that mean nothing here.
     const std::vector<std::string>& unknown() const { return unknown_; }
+    /// A heading that stands for what another one has told; empty if there is none.
+    const std::string& repeated() const { return repeated_; }
 
     /// The shot of a row: `base` with what its cells say. Empty cells say nothing. Beside a ball
-    /// speed or a spin, the club is only a name.
+    /// speed or a spin, the club is only a name. A row of results is flown by its launch: its mode
+    /// says that the swing beside it is told, not asked for. One that had no result has none again,
+    /// unless it has got a launch.
     BatchShot shotOf(const CsvRow& row, const ShotRequest& base) const;
 
 private:
-    enum Meaning : std::size_t { Club = kShotInputs, Ball, Ignored };
+    enum Meaning : std::size_t { Club = kShotInputs, Ball, Mode, Problem, Ignored };
+    std::size_t meaningOf(std::string_view heading) const;
+    std::string_view cellOf(const CsvRow& row, std::size_t meaning) const;
+    Outcome<void, std::string> take(ShotRequest& request, const CsvRow& row) const;
+
+    char delimiter_;
+    bool isTable_ = false;
     std::vector<std::size_t> meanings_; ///< of each column: an input's place, or a `Meaning`
     std::vector<std::string> unknown_;
+    std::string repeated_;
 };
 
-/// The columns of the results of a batch, or of its paths.
-std::span<const Column> batchColumns();
+/// The columns of the results of a batch: what `BatchColumns` reads, and what came of it. People
+/// see them without the weather.
+std::span<const Column> batchColumns(Format format);
+/// The columns of the paths of a batch.
 std::span<const Column> batchPathColumns();
 
 /// The results of some shots as text.
@@ -51,7 +67,7 @@ struct BatchText {
 BatchText flyBatch(std::span<const BatchShot> shots, const RowWriter& writer,
                    const std::stop_token& stop);
 /// The same with the points of each path; in JSON, both.
-BatchText flyBatchPaths(std::span<const BatchShot> shots, Format format, const RowWriter& writer,
+BatchText flyBatchPaths(std::span<const BatchShot> shots, const RowWriter& writer,
                         const std::stop_token& stop);
 
 } // namespace parabolt::cli

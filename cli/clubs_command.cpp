@@ -1,12 +1,17 @@
 #include "cli/clubs_command.h"
 
 #include "cli/row_writer.h"
+#include "cli/session_command.h"
 #include "exchange/shot_columns.h"
 #include "files/file_access.h"
-#include "measured/bag.h"
+#include "measured/measured_codec.h"
+#include "numbers/rounding.h"
+#include "numbers/text_number.h"
 #include "shots/fault_words.h"
 
 #include <algorithm>
+#include <utility>
+#include <variant>
 
 namespace parabolt::cli {
 namespace {
@@ -82,16 +87,61 @@ ExitStatus convert(const ClubTables& clubs, const ClubsOptions& options, const C
     return ExitStatus::Done;
 }
 
-/// The flights of the clubs owned, as many as the rules allow, from the longest down; beside each
-/// the gap to the next one.
-ExitStatus flyClubs(const ClubTables& clubs, const ClubsOptions& options, Format format,
-                    const Console& console) {
+/// The bag of the options: that of a session, if one is given, or the usual one, with what else the
+/// options say of it. The option with the reason why it is refused.
+Outcome<BagChoice, Refusal> bagOf(const ClubsOptions& options, const Session* session) {
+    BagChoice bag = usualBag();
+    if (session != nullptr) {
+        const auto window = session->desk.windows.find(kMeasuredKey);
+        const auto measured = window != session->desk.windows.end()
+                                  ? decodeMeasured(window->second.text())
+                                  : std::nullopt;
+        if (!measured)
+            return because(Refusal{options.session + ": The session has no bag."});
+        bag = measured->bag;
+    }
+    struct Given {
+        std::string_view option;
+        const std::optional<std::string>& text;
+        double least;
+        double most;
+        std::variant<float BagChoice::*, double BagChoice::*> member;
+    };
+    for (const Given& given :
+         {Given{"--first-speed-mph", options.firstSpeed, limits::kHeadSpeed.lowest,
+                limits::kHeadSpeed.highest, &BagChoice::firstSpeed},
+          Given{"--fall-mph", options.fall, 0, 5, &BagChoice::fall},
+          Given{"--narrowest-yd", options.narrowest, 0, 100, &BagChoice::narrowest},
+          Given{"--widest-yd", options.widest, 0, 100, &BagChoice::widest}}) {
+        if (!given.text)
+            continue;
+        const auto value = parseNumber(*given.text);
+        if (!value || *value < given.least || *value > given.most)
+            return because(Refusal{std::string(given.option) + ": Enter a value between " +
+                                   shortestText(given.least) + " and " + shortestText(given.most) +
+                                   "."});
+        if (const auto* narrow = std::get_if<float BagChoice::*>(&given.member)) {
+            bag.*(*narrow) = store32(*value);
+            bag.speeds = HeadSpeeds::Falling;
+        } else {
+            bag.*std::get<double BagChoice::*>(given.member) = *value;
+        }
+    }
+    if (bag.narrowest > bag.widest)
+        return because(Refusal{"--narrowest-yd: The narrowest good gap, " +
+                               shortestText(bag.narrowest) + " yards, is above the widest, " +
+                               shortestText(bag.widest) + " yards."});
+    return bag;
+}
+
+/// The flights of the clubs owned, from the longest down; beside each the gap to the next one.
+ExitStatus flyClubs(const ClubTables& clubs, const BagChoice& bag, const ClubsOptions& options,
+                    Format format, const Console& console) {
     const auto conditions = shotOf(options.shot, console);
     if (!conditions)
-        return console.complain(conditions.why().message, conditions.why().status);
-    const BagChoice bag = usualBag();
+        return console.complain(conditions.why());
     auto flights = flyBag(bag, clubs, *conditions);
-    const auto gaps = gapsOf(flights, options.narrowest, options.widest);
+    const auto gaps = gapsOf(flights, bag.narrowest, bag.widest);
     std::vector<std::size_t> order(flights.size());
     for (std::size_t i = 0; i < order.size(); ++i)
         order[i] = i;
@@ -112,8 +162,8 @@ ExitStatus flyClubs(const ClubTables& clubs, const ClubsOptions& options, Format
             continue;
         }
         const Figures& figures = club.flight.figures;
-        cells.insert(cells.end(), {figures.carry, figures.total, figures.height,
-                                   figures.landingAngle, figures.time});
+        cells.insert(cells.end(), {store32(figures.carry), figures.total, store32(figures.height),
+                                   figures.landingAngle, store32(figures.time)});
         const auto gap = std::find_if(gaps.begin(), gaps.end(),
                                       [&](const BagGap& each) { return each.longer == i; });
         cells.push_back(gap != gaps.end() ? Cell(gap->yards) : Cell());
@@ -127,11 +177,19 @@ ExitStatus flyClubs(const ClubTables& clubs, const ClubsOptions& options, Format
 } // namespace
 
 ExitStatus clubsCommand(const ClubsOptions& options, const Console& console) {
+    std::optional<Session> session;
+    if (!options.session.empty()) {
+        auto read = readSession(options.session, console);
+        if (!read)
+            return console.complain(read.why());
+        session = *std::move(read);
+    }
     ShotOptions source;
     source.clubsFile = options.file;
-    const auto clubs = clubsFor(source, console);
+    const auto clubs =
+        session && options.file.empty() ? session->desk.clubs : clubsFor(source, console);
     if (!clubs)
-        return console.complain(clubs.why().message, clubs.why().status);
+        return console.complain(clubs.why());
     const Format format = options.format.value_or(console.usualFormat());
     switch (options.action) {
     case ClubsOptions::Action::List:
@@ -141,9 +199,12 @@ ExitStatus clubsCommand(const ClubsOptions& options, const Console& console) {
     case ClubsOptions::Action::Convert:
         return convert(*clubs, options, console);
     case ClubsOptions::Action::Fly:
-        return flyClubs(*clubs, options, format, console);
+        break;
     }
-    return ExitStatus::Done;
+    const auto bag = bagOf(options, session ? &*session : nullptr);
+    if (!bag)
+        return console.complain(bag.why());
+    return flyClubs(*clubs, *bag, options, format, console);
 }
 
 } // namespace parabolt::cli

@@ -15,9 +15,11 @@ struct ClubsOptions {
     std::optional<Format> format;
     std::string target = "-"; ///< of a conversion: a file, or the standard output
     std::optional<ClubsFormat> to;
-    ShotOptions shot;     ///< weather and ball
-    double narrowest = 8; ///< yards: a gap below is marked
-    double widest = 18;   ///< yards: a gap above is marked
+    ShotOptions shot; ///< weather and ball
+    // Of the bag, as typed; what isn't given is that of the session, or the usual.
+    std::string session; ///< file of the session that has the bag; empty for the usual bag
+    std::optional<std::string> firstSpeed, fall;  ///< mph: speeds fall from club to club
+    std::optional<std::string> narrowest, widest; ///< yards: gaps beyond are marked
 };
 
 /// Reads, checks and converts clubs files, and flies the bag.

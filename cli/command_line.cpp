@@ -7,6 +7,7 @@
 #include "cli/normalise_command.h"
 #include "cli/session_command.h"
 #include "cli/study_command.h"
+#include "measured/measured_flights.h"
 #include "numbers/text_number.h"
 
 #include <CLI/CLI.hpp>
@@ -41,10 +42,8 @@ std::string limitsText(const ShotInput& input) {
 /// "--ball-speed-mph", and the same without its unit.
 std::string optionNames(const ShotInput& input) {
     const std::string option = optionOf(input);
-    const bool hasUnit = input.heading.find(" [") != std::string_view::npos;
-    const std::size_t unit =
-        option.find("-deg-f") != std::string::npos ? option.find("-deg-f") : option.rfind('-');
-    return hasUnit ? option + "," + option.substr(0, unit) : option;
+    const std::size_t unit = input.key.size() - keyWithoutUnit(input).size();
+    return unit > 0 ? option + "," + option.substr(0, option.size() - unit) : option;
 }
 
 std::string unitOf(const ShotInput& input) {
@@ -102,14 +101,18 @@ void addPath(CLI::App& app, bool& path) {
                  "beside the figures");
 }
 
+constexpr auto kStatuses =
+    "Exit status: 0 done; 1 some shots gave no result; 2 options or input that make no sense; 3 a "
+    "file could not be read or written, or memory ran out.";
+constexpr std::string_view kAskHelp = " Run with --help for more information.";
+
 /// The command line as a whole: its commands, their options, and the one that is to run.
 class CommandLine {
 public:
     explicit CommandLine(const Console& console) : console_(console) {
         app_.set_version_flag("--version", "parabolt-cli " PARABOLT_VERSION);
         app_.require_subcommand(1);
-        app_.footer("Exit status: 0 done; 1 some shots gave no result; 2 options or input that "
-                    "make no sense; 3 a file could not be read or written.");
+        app_.footer(kStatuses);
         addFly();
         addBatch();
         addMap();
@@ -120,17 +123,45 @@ public:
     }
 
     int run(std::vector<std::string> arguments) {
+        if (const std::string name = unknownCommand(arguments); !name.empty())
+            return static_cast<int>(
+                console_.complain("There is no command \"" + name + "\"." + std::string(kAskHelp)));
         std::reverse(arguments.begin(), arguments.end()); // as the library wants them
         try {
             app_.parse(std::move(arguments));
+        } catch (const CLI::ArgumentMismatch& error) {
+            const std::string_view what = error.what();
+            const bool again = what.find("received") != std::string_view::npos;
+            return static_cast<int>(console_.complain(
+                std::string(what.substr(0, what.find(':'))) +
+                (again ? ": It is given more than once." : ": Its value is missing.") +
+                std::string(kAskHelp)));
         } catch (const CLI::ParseError& error) {
-            const bool asked = app_.exit(error, console_.out, console_.err) == 0;
-            return static_cast<int>(asked ? console_.finish() : ExitStatus::BadInput);
+            if (error.get_exit_code() != 0)
+                return static_cast<int>(
+                    console_.complain(std::string(error.what()) + "." + std::string(kAskHelp)));
+            app_.exit(error, console_.out, console_.err); // help, or the version
+            return static_cast<int>(console_.finish());
         }
         return static_cast<int>(run_());
     }
 
 private:
+    /// The word that stands in the place of a command and is none; empty if there is none such.
+    std::string unknownCommand(const std::vector<std::string>& arguments) const {
+        const CLI::App* app = &app_;
+        for (const std::string& word : arguments) {
+            if (app->get_subcommands({}).empty() || word.starts_with('-'))
+                break;
+            const auto named =
+                app->get_subcommands([&](const CLI::App* sub) { return sub->get_name() == word; });
+            if (named.empty())
+                return word;
+            app = named.front();
+        }
+        return {};
+    }
+
     /// A command that runs a function with its options.
     template <class Options>
     CLI::App& add(CLI::App& parent, const std::string& name, const std::string& meaning,
@@ -158,6 +189,9 @@ private:
                        "The file; - or nothing for the standard input. A table has headings such "
                        "as \"Ball speed [mph]\" or ball_speed_mph; what it lacks, the options "
                        "give");
+        app.add_flag("--own-air", batch_.ownAir,
+                     "The shots of a launch monitor's file fly in the air that it tells, where it "
+                     "tells one; a table's columns count anyway");
         addShot(app, batch_.shot);
         addFormat(app, batch_.format);
         addPath(app, batch_.path);
@@ -180,11 +214,15 @@ private:
 
     void addStudy() {
         CLI::App& app =
-            add(app_, "study", "Find the launch angle, the spin or the loft that carries furthest",
+            add(app_, "study",
+                "Raise the launch angle or the spin until the carry falls, or find the best loft",
                 study_, studyCommand);
         addChoice<Study>(app, "WHAT", study_.study,
                          {{"launch", Study::Launch}, {"spin", Study::Spin}, {"loft", Study::Loft}},
-                         "What is looked for: launch, spin or loft")
+                         "launch: the angle, from 2 degrees in whole ones; spin: from 0 in steps "
+                         "of 100 rpm: each up to the first fall of the carry, as in the window's "
+                         "studies; loft: the one with which the swing carries furthest. A value "
+                         "given for what is looked for doesn't count")
             ->required();
         addShot(app, study_.shot);
         addFormat(app, study_.format);
@@ -217,9 +255,23 @@ private:
             "The format; told by the name of the file if not given");
         CLI::App& bag =
             addAction("fly", Action::Fly, "Fly the clubs of a bag and tell the gaps between them");
-        bag.add_option("--narrowest-yd", clubs_.narrowest, "Mark gaps below, in yards")
-            ->type_name("yd");
-        bag.add_option("--widest-yd", clubs_.widest, "Mark gaps above, in yards")->type_name("yd");
+        bag.add_option("--bag", clubs_.session,
+                       "A session file: its clubs owned, their names, head speeds and limits of "
+                       "gaps; its club set too if no FILE is given")
+            ->type_name("SESSION");
+        const auto addNumber = [&](const std::string& names, std::optional<std::string>& text,
+                                   const std::string& unit, const std::string& meaning) {
+            bag.add_option(names, text, meaning)->type_name(unit);
+        };
+        addNumber("--first-speed-mph,--first-speed", clubs_.firstSpeed, "mph",
+                  "Head speed of the first wood and of the first iron, 50 to 165; it falls from "
+                  "club to club");
+        addNumber("--fall-mph,--fall", clubs_.fall, "mph",
+                  "Fall of the head speed from club to club, 0 to 5; 1 if not given");
+        addNumber("--narrowest-yd,--narrowest", clubs_.narrowest, "yd",
+                  "Mark gaps below, 0 to 100; 8 if not given");
+        addNumber("--widest-yd,--widest", clubs_.widest, "yd",
+                  "Mark gaps above, 0 to 100; 18 if not given");
         addConditions(bag, clubs_.shot);
         addFormat(bag, clubs_.format);
     }
@@ -228,6 +280,7 @@ private:
         CLI::App& app =
             add(app_, "normalise", "Bring the carries of a launch monitor's file to calm air",
                 normalise_, normaliseCommand);
+        app.footer(std::string(kNormalisedNote) + "\n" + kStatuses);
         app.add_option("FILE", normalise_.file, "The file; - or nothing for the standard input");
         app.add_flag("--own-air", normalise_.ownAir,
                      "The shots were hit in the air that the file tells, where it tells one");
@@ -235,19 +288,21 @@ private:
                                const std::string& unit, const std::string& meaning) {
             app.add_option(name, text, meaning)->type_name(unit)->group("The calm air");
         };
-        addTo("--to-altitude-ft", normalise_.altitude, "ft", "Altitude, 0 if not given");
-        addTo("--to-temperature-deg-f", normalise_.temperature, "deg F",
+        addTo("--to-altitude-ft,--to-altitude", normalise_.altitude, "ft",
+              "Altitude, 0 if not given");
+        addTo("--to-temperature-deg-f,--to-temperature", normalise_.temperature, "deg F",
               "Temperature, 70 if not given");
-        addTo("--to-pressure-inhg", normalise_.pressure, "inHg",
+        addTo("--to-pressure-inhg,--to-pressure", normalise_.pressure, "inHg",
               "Pressure as read at sea level, 29.92 if not given");
-        addTo("--to-humidity-percent", normalise_.humidity, "%",
+        addTo("--to-humidity-percent,--to-humidity", normalise_.humidity, "%",
               "Relative humidity, 50 if not given");
         addConditions(app, normalise_.shot);
         addFormat(app, normalise_.format);
     }
 
     void addSession() {
-        CLI::App& app = add(app_, "session", "Write the data sets that a session file holds",
+        CLI::App& app = add(app_, "session",
+                            "Write what a session file holds: its data sets, in JSON all of it",
                             session_, sessionCommand);
         app.add_option("FILE", session_.file, "The file; - or nothing for the standard input");
         addFormat(app, session_.format);

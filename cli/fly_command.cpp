@@ -50,7 +50,7 @@ void writeJson(const FlownShot& flown, const std::vector<Cell>& cells, bool path
 ExitStatus flyCommand(const FlyOptions& options, const Console& console) {
     const auto shot = shotOf(options.shot, console);
     if (!shot)
-        return console.complain(shot.why().message, shot.why().status);
+        return console.complain(shot.why());
     return flyAndWrite(*shot, options.format.value_or(console.usualFormat()), options.path,
                        console);
 }

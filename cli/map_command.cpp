@@ -1,8 +1,10 @@
 #include "cli/map_command.h"
 
+#include "cli/row_writer.h"
 #include "maps/map_table.h"
 #include "maps/map_words.h"
 #include "numbers/characters.h"
+#include "numbers/rounding.h"
 #include "numbers/text_number.h"
 #include "shots/fault_words.h"
 
@@ -16,6 +18,8 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+constexpr std::string_view kAxisForm = "Give first, last and step of the axis, as 1000:4000:50.";
+
 /// The axis of a text such as "1000:4000:50", within the limits of its input.
 Outcome<MapAxis, std::string> axisOf(std::string_view text, const MapInput& input) {
     std::array<double, 3> values{};
@@ -23,12 +27,14 @@ Outcome<MapAxis, std::string> axisOf(std::string_view text, const MapInput& inpu
     for (double& value : values) {
         const auto number = parseNumber(rest.substr(0, rest.find(':')));
         if (!number)
-            return because(std::string("Give first, last and step of the axis, as 1000:4000:50."));
+            return because(std::string(kAxisForm));
         value = *number;
-        rest.remove_prefix(std::min(rest.find(':'), rest.size() - 1) + 1);
+        const std::size_t colon = rest.find(':');
+        const bool last = &value == &values.back();
+        if (last != (colon == std::string_view::npos))
+            return because(std::string(kAxisForm));
+        rest.remove_prefix(last ? 0 : colon + 1);
     }
-    if (!rest.empty())
-        return because(std::string("Give first, last and step of the axis, no more."));
     const MapAxis axis{values[0], values[1], values[2]};
     if (!input.hold(axis.first) || !input.hold(axis.last))
         return because(std::string(input.rangeMessage));
@@ -56,8 +62,18 @@ std::string keyOf(const MapInput& input) {
 }
 
 void addFigures(Json& json, const Figures& figures) {
-    for (const MapOutcome outcome : mapOutcomes())
-        json[keyOf(textOf(outcome).name, textOf(outcome).unit)] = figureOf(figures, outcome);
+    for (const MapOutcome outcome : mapOutcomes()) {
+        const double figure = figureOf(figures, outcome);
+        json[keyOf(textOf(outcome).name, textOf(outcome).unit)] =
+            isNarrow(outcome) ? withFewestDigits(store32(figure)) : figure;
+    }
+}
+
+/// A value of an input, which is 32 bits wide but for the wind.
+double valueOf(const MapInput& input, double value) {
+    return std::holds_alternative<float ShotInputs::*>(input.member)
+               ? withFewestDigits(store32(value))
+               : value;
 }
 
 Json pointJson(MapKind kind, MapPoint point) {
@@ -80,7 +96,7 @@ Json stepsJson(const std::vector<StepEffect>& steps) {
     };
     for (const StepEffect& step : steps)
         json.push_back({{"input", keyOf(*step.input)},
-                        {"value", step.value},
+                        {"value", valueOf(*step.input, step.value)},
                         {"step", step.input->step},
                         {"one_less_gains_yd", orNull(step.less)},
                         {"one_more_gains_yd", orNull(step.more)}});
@@ -109,9 +125,10 @@ std::string mapJson(const MapResult& map) {
     json["best_carry"] = bestJson(kind, map.bestCarry);
     json["best_total"] = bestJson(kind, map.bestTotal);
     if (map.reach.carry && map.reach.total) {
-        json["best_loft_deg"] = {{"carry", map.reach.carry->loft},
-                                 {"total", map.reach.total->loft}};
-        json["good_lofts_deg"] = {map.reach.lowestGood, map.reach.highestGood};
+        const auto loft = [](double value) { return valueOf(loftInput(), value); };
+        json["best_loft_deg"] = {{"carry", loft(map.reach.carry->loft)},
+                                 {"total", loft(map.reach.total->loft)}};
+        json["good_lofts_deg"] = {loft(map.reach.lowestGood), loft(map.reach.highestGood)};
     }
     json["steps"] = stepsJson(map.steps);
     json["nodes"] = nodesJson(map);
@@ -143,7 +160,11 @@ std::string mapWords(const MapResult& map) {
 ExitStatus mapCommand(const MapOptions& options, const Console& console) {
     const auto shot = shotOf(options.shot, console);
     if (!shot)
-        return console.complain(shot.why().message, shot.why().status);
+        return console.complain(shot.why());
+    const bool isLaunch = shot->Mode == OperatingMode::Launch;
+    if (options.kind == MapKind::Swing && isLaunch && tellsLaunch(options.shot))
+        return console.complain("A map of swings takes a swing: give head speed, a club and the "
+                                "like, and no launch.");
     const auto base = baseOf(*shot, options.kind);
     if (!base)
         return console.complain(faultDescription(base.why()), ExitStatus::SomeFailed);
@@ -159,7 +180,9 @@ ExitStatus mapCommand(const MapOptions& options, const Console& console) {
             return console.complain(std::string(option) + ": " + given.why());
         *axis = *given;
     }
-    const MapResult map = completeMap(request);
+    MapResult map = completeMap(request);
+    if (options.kind == MapKind::Launch && isLaunch)
+        map.reach = {}; // nobody has told a swing
     switch (options.format.value_or(console.usualFormat())) {
     case Format::Csv:
         console.out << composeMapTable(map);

@@ -1,9 +1,9 @@
 #include "cli/normalise_command.h"
 
+#include "cli/monitor_file.h"
 #include "cli/row_writer.h"
 #include "exchange/shot_columns.h"
 #include "measured/measured_flights.h"
-#include "measured/shot_import.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 #include "shots/fault_words.h"
@@ -70,7 +70,7 @@ std::size_t writeRows(std::span<const MeasuredShot> shots, std::span<const Model
         rows.row(std::array<Cell, kColumns.size()>{
             static_cast<double>(shot.line), std::string_view(shot.club), shot.ballSpeed,
             shot.launchAngle, shot.backSpin, orNone(shot.device.carry),
-            fault ? Cell() : Cell(flights[i].figures.carry), orNone(carries[i]), problem});
+            fault ? Cell() : Cell(store32(flights[i].figures.carry)), orNone(carries[i]), problem});
     }
     return without;
 }
@@ -80,31 +80,28 @@ std::size_t writeRows(std::span<const MeasuredShot> shots, std::span<const Model
 ExitStatus normaliseCommand(const NormaliseOptions& options, const Console& console) {
     const auto conditions = shotOf(options.shot, console);
     if (!conditions)
-        return console.complain(conditions.why().message, conditions.why().status);
+        return console.complain(conditions.why());
     const auto air = airOf(options);
     if (!air)
         return console.complain(air.why());
     auto input = Input::open(options.file, console);
     if (!input)
-        return console.complain(input.why(), ExitStatus::FileFailed);
+        return console.complain(input.why());
     const auto content = input->readAll(kLongestShotFile);
     if (!content)
         return console.complain(content.why());
-    const auto preview = importShots(*content);
-    if (!preview)
-        return console.complain(preview.why().message);
-    for (const ImportRow& row : preview->rows)
-        if (!row.reason.empty())
-            console.err << "line " << row.line << " is left out: " << row.reason << '\n';
-    const auto shots = preview->taken();
+    const auto file = importMonitorFile(*content, input->name(), console);
+    if (!file)
+        return console.complain(file.why());
+    const auto shots = file->taken();
     const auto flights = flyMeasured(shots, *conditions, options.ownAir);
     const auto carries = normalisedCarries(shots, flights, *conditions, *air);
     const Format format = options.format.value_or(console.usualFormat());
     RowStream rows(console, format, kColumns);
     const std::size_t without = writeRows(shots, flights, carries, rows);
     rows.end();
-    if (format == Format::Table)
-        console.out << '\n' << kNormalisedNote << '\n';
+    // Beside the figures for people; other programs read what is on the standard output.
+    (format == Format::Table ? console.out << '\n' : console.err) << kNormalisedNote << '\n';
     return console.finish(without > 0 ? ExitStatus::SomeFailed : ExitStatus::Done);
 }
 

@@ -16,7 +16,7 @@ OrderedWork::OrderedWork(const Console& console, RowStream& rows)
 
 OrderedWork::~OrderedWork() {
     stop_.request_stop();
-    finish();
+    end();
 }
 
 bool OrderedWork::add(Piece piece) {
@@ -30,6 +30,13 @@ bool OrderedWork::add(Piece piece) {
 }
 
 std::size_t OrderedWork::finish() {
+    end();
+    if (thrown_)
+        std::rethrow_exception(std::exchange(thrown_, nullptr));
+    return failed_;
+}
+
+void OrderedWork::end() {
     {
         const std::scoped_lock lock(mutex_);
         ends_ = true;
@@ -37,7 +44,6 @@ std::size_t OrderedWork::finish() {
     }
     if (writer_.joinable())
         writer_.join();
-    return failed_;
 }
 
 void OrderedWork::write() {
@@ -48,7 +54,7 @@ void OrderedWork::write() {
             break;
         std::future<BatchText> piece = std::move(pieces_.front());
         lock.unlock();
-        const BatchText text = piece.get();
+        const BatchText text = resultOf(std::move(piece));
         lock.lock();
         pieces_.pop_front(); // its place is free only now: it was under way
         const bool idle = pieces_.empty();
@@ -57,11 +63,14 @@ void OrderedWork::write() {
         if (!broken_ && !stop_.stop_requested()) {
             count_ += text.count;
             failed_ += text.failed;
-            console_.err << text.complaints;
+            if (!text.complaints.empty()) {
+                clearProgress();
+                console_.err << text.complaints;
+            }
             rows_.rows(text.rows);
             if (idle) // whoever waits for these results has them now
                 console_.out.flush();
-            tellProgress(false);
+            tellProgress();
             if (!console_.out) {
                 broken_ = true;
                 stop_.request_stop();
@@ -69,19 +78,35 @@ void OrderedWork::write() {
         }
         lock.lock();
     }
-    tellProgress(true);
+    clearProgress();
+}
+
+/// What a piece gives; nothing more is written where it throws.
+BatchText OrderedWork::resultOf(std::future<BatchText> piece) {
+    try {
+        return piece.get();
+    } catch (...) {
+        thrown_ = thrown_ ? thrown_ : std::current_exception();
+        broken_ = true;
+        stop_.request_stop();
+        return {};
+    }
 }
 
 /// Twice a second, on a terminal that doesn't show the results themselves.
-void OrderedWork::tellProgress(bool last) {
+void OrderedWork::tellProgress() {
     using namespace std::chrono_literals;
-    if (!console_.errIsTerminal || console_.outIsTerminal)
-        return;
     const auto now = std::chrono::steady_clock::now();
-    if (last ? count_ > 0 : now - told_ > 500ms) {
-        told_ = now;
-        console_.err << '\r' << count_ << " shots" << (last ? "\n" : "") << std::flush;
-    }
+    if (!console_.errIsTerminal || console_.outIsTerminal || now - told_ <= 500ms)
+        return;
+    told_ = now;
+    progressStands_ = true;
+    console_.err << '\r' << count_ << " shots" << std::flush;
+}
+
+void OrderedWork::clearProgress() {
+    if (std::exchange(progressStands_, false))
+        console_.err << "\r\x1B[K" << std::flush;
 }
 
 } // namespace parabolt::cli

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <deque>
+#include <exception>
 #include <future>
 #include <mutex>
 #include <thread>
@@ -25,12 +26,16 @@ public:
     using Piece = std::function<BatchText(const std::stop_token& stop)>;
     /// Waits for room, and begins. False if the results can't be written any more.
     bool add(Piece piece);
-    /// Waits until all has been written; gives the number of shots without a result.
+    /// Waits until all has been written; gives the number of shots without a result. What a piece
+    /// has thrown goes on from here.
     std::size_t finish();
 
 private:
+    void end();
     void write();
-    void tellProgress(bool last);
+    BatchText resultOf(std::future<BatchText> piece);
+    void tellProgress();
+    void clearProgress();
 
     const Console& console_;
     RowStream& rows_;
@@ -45,6 +50,8 @@ private:
     // Of the writing thread.
     std::size_t count_ = 0;
     std::size_t failed_ = 0;
+    std::exception_ptr thrown_;
+    bool progressStands_ = false;
     std::chrono::steady_clock::time_point told_;
     std::jthread writer_; ///< last: it works on all of the above
 };

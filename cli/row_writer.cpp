@@ -1,11 +1,10 @@
 #include "cli/row_writer.h"
 
+#include "exchange/csv_rules.h"
 #include "numbers/characters.h"
 #include "numbers/text_number.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
@@ -13,13 +12,6 @@ namespace parabolt::cli {
 namespace {
 
 constexpr std::size_t kNarrowest = 7; ///< characters of a column of numbers in a table
-
-template <class Number>
-void appendNumber(std::string& text, Number number) {
-    std::array<char, 64> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    text.append(digits.data(), end);
-}
 
 /// A heading in two parts: "Ball speed", "[mph]".
 std::pair<std::string_view, std::string_view> headingLines(std::string_view heading) {
@@ -34,15 +26,9 @@ std::size_t widthOf(const Column& column) {
     return std::max({characterCount(name), characterCount(unit), kNarrowest});
 }
 
-void appendCsvText(std::string& text, std::string_view value) {
-    if (value.find_first_of(",\"\r\n") == std::string_view::npos) {
-        text += value;
-        return;
-    }
-    text += '"';
-    for (const char c : value)
-        text.append(c == '"' ? 2 : 1, c);
-    text += '"';
+/// What stands before the cell of a column.
+std::string& appendDelimiter(std::string& text, std::size_t column) {
+    return text.append(column > 0 ? 1 : 0, kCsvDelimiter);
 }
 
 } // namespace
@@ -58,10 +44,10 @@ void RowWriter::begin(std::string& text) const {
     }
     for (std::size_t i = 0; i < columns_.size(); ++i)
         if (format_ == Format::Csv)
-            csvCell(text.append(i > 0 ? "," : ""), columns_[i].heading);
+            csvCell(appendDelimiter(text, i), columns_[i].heading);
         else
             tableCell(text, headingLines(columns_[i].heading).first, i);
-    text += format_ == Format::Csv ? "\r\n" : "\n";
+    text += format_ == Format::Csv ? kCsvLineEnd : "\n";
     if (format_ == Format::Csv)
         return;
     for (std::size_t i = 0; i < columns_.size(); ++i)
@@ -75,7 +61,7 @@ void RowWriter::row(std::string& text, std::span<const Cell> cells) const {
     for (std::size_t i = 0; i < cells.size(); ++i)
         switch (format_) {
         case Format::Csv:
-            csvCell(text.append(i > 0 ? "," : ""), cells[i]);
+            csvCell(appendDelimiter(text, i), cells[i]);
             break;
         case Format::Json:
             text.append(i > 0 ? "," : "").append("\"").append(columns_[i].key).append("\":");
@@ -85,7 +71,7 @@ void RowWriter::row(std::string& text, std::span<const Cell> cells) const {
             tableCell(text, shownCell(cells[i], columns_[i].pattern), i);
             break;
         }
-    text += format_ == Format::Csv ? "\r\n" : format_ == Format::Json ? "}" : "\n";
+    text += format_ == Format::Csv ? kCsvLineEnd : format_ == Format::Json ? "}" : "\n";
 }
 
 std::string_view RowWriter::withoutComma(std::string_view rows) const {
@@ -103,7 +89,7 @@ void RowWriter::csvCell(std::string& text, const Cell& cell) const {
     else if (const auto* narrow = std::get_if<float>(&cell))
         appendNumber(text, *narrow);
     else if (const auto* words = std::get_if<std::string_view>(&cell))
-        appendCsvText(text, *words);
+        appendCsvField(text, *words);
 }
 
 /// Numbers end where their heading ends; the last column has no blanks behind it.
@@ -148,6 +134,12 @@ void appendJsonCell(std::string& text, const Cell& cell) {
         appendJsonText(text, *words);
     else
         text += "null";
+}
+
+double withFewestDigits(float value) {
+    std::string digits;
+    appendNumber(digits, value);
+    return parseNumber(digits).value_or(value);
 }
 
 RowStream::RowStream(const Console& console, Format format, std::span<const Column> columns)

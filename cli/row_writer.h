@@ -32,6 +32,7 @@ public:
     /// The rows of which the first is the first of all.
     std::string_view withoutComma(std::string_view rows) const;
     void end(std::string& text) const;
+    Format format() const { return format_; }
 
 private:
     void csvCell(std::string& text, const Cell& cell) const;
@@ -47,6 +48,10 @@ std::string shownCell(const Cell& cell, std::string_view pattern);
 void appendJsonText(std::string& text, std::string_view value);
 /// Appends a cell as a JSON value, null for none and for what JSON has no number for.
 void appendJsonCell(std::string& text, const Cell& cell);
+
+/// The 64-bit number that is written in the same digits as the 32-bit one, the fewest that give it
+/// back: for writers that know only the former.
+double withFewestDigits(float value);
 
 /// Rows that go straight to the standard output.
 class RowStream {

@@ -1,8 +1,10 @@
 #include "cli/shot_inputs.h"
 
+#include "numbers/characters.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
 #include "shots/ball_kinds.h"
+#include "shots/shot_words.h"
 #include "shots/shown_figures.h"
 
 #include <algorithm>
@@ -64,9 +66,20 @@ std::span<const ShotInput, kShotInputs> shotInputs() {
     return kInputs;
 }
 
+std::string_view keyWithoutUnit(const ShotInput& input) {
+    if (input.heading.find(" [") == std::string_view::npos)
+        return input.key;
+    constexpr std::string_view kInTwoWords = "_deg_f";
+    return input.key.substr(0, input.key.ends_with(kInTwoWords)
+                                   ? input.key.size() - kInTwoWords.size()
+                                   : input.key.rfind('_'));
+}
+
 std::optional<std::size_t> shotInputNamed(std::string_view name) {
+    const std::string lower = lowerCase(name);
     for (std::size_t i = 0; i < kInputs.size(); ++i)
-        if (name == kInputs[i].key || name == kInputs[i].heading)
+        if (lower == kInputs[i].key || lower == keyWithoutUnit(kInputs[i]) ||
+            lower == lowerCase(kInputs[i].heading))
             return i;
     return std::nullopt;
 }
@@ -94,7 +107,8 @@ Outcome<void, std::string> ShotRequest::setClub(std::string_view text) {
 Outcome<void, std::string> ShotRequest::setBall(std::string_view text) {
     const auto number = parseNumber(text);
     for (std::size_t i = 0; i < kBallKinds.size(); ++i)
-        if (number == kBallKinds.at(i).BallType) {
+        if (number == kBallKinds.at(i).BallType ||
+            lowerCase(text) == lowerCase(ballName(kBallKinds.at(i).BallType))) {
             ball_ = i;
             return {};
         }

@@ -31,8 +31,10 @@ inline constexpr std::size_t kShotInputs = 14;
 
 /// All inputs that are numbers, in the order of the form.
 std::span<const ShotInput, kShotInputs> shotInputs();
-/// The place of the input that a column names by its heading or its key. Letters count: devices
-/// write some of the headings in others, and mean what they know of it.
+/// "ball_speed", of "ball_speed_mph".
+std::string_view keyWithoutUnit(const ShotInput& input);
+/// The place of the input that a column names by its heading, or by its key with or without the
+/// unit, in any letters.
 std::optional<std::size_t> shotInputNamed(std::string_view name);
 
 /// What has been said of a shot, on its way to a shot. Values that nobody gives are those with
@@ -50,16 +52,17 @@ public:
     /// of the form.
     Outcome<void, std::string> set(std::size_t input, std::string_view text);
     Outcome<void, std::string> setClub(std::string_view text); ///< "W1", "Driver", "7i"
-    Outcome<void, std::string> setBall(std::string_view text);
+    Outcome<void, std::string> setBall(std::string_view text); ///< "4", "Larger MOI"
 
     /// The shot; the reason where what was said doesn't fit together, or the values of the club
     /// leave the limits.
     Outcome<Shot, std::string> shot() const;
     /// Whether a ball speed or a spin was given.
     bool givesLaunch() const;
+    /// Whether a swing was given: a club, or a value of one.
+    bool asksForSwing() const;
 
 private:
-    bool asksForSwing() const;
     Outcome<void, std::string> takeClub(Shot& shot) const;
 
     const ClubTables* clubs_;

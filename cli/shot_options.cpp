@@ -12,6 +12,27 @@ std::string optionOf(const ShotInput& input) {
     return option;
 }
 
+std::string launchOptions(const ShotOptions& options) {
+    std::string given;
+    const auto add = [&](bool is, const std::string& option) {
+        if (is)
+            given += (given.empty() ? "" : ", ") + option;
+    };
+    for (std::size_t i = 0; i < kShotInputs; ++i)
+        add(shotInputs()[i].of != ShotInput::Of::Air && options.inputs.at(i),
+            optionOf(shotInputs()[i]));
+    add(options.club.has_value(), "--club");
+    add(!options.clubsFile.empty(), "--clubs");
+    return given;
+}
+
+bool tellsLaunch(const ShotOptions& options) {
+    for (std::size_t i = 0; i < kShotInputs; ++i)
+        if (shotInputs()[i].of == ShotInput::Of::Launch && options.inputs.at(i))
+            return true;
+    return false;
+}
+
 Outcome<ClubTables, Refusal> clubsFor(const ShotOptions& options, const Console& console) {
     if (options.clubsFile.empty())
         return InitClubTables();

@@ -5,12 +5,6 @@
 
 namespace parabolt::cli {
 
-/// Why something can't be done, and how the command ends for it.
-struct Refusal {
-    std::string message;
-    ExitStatus status = ExitStatus::BadInput;
-};
-
 /// The options that describe a shot, as they were typed.
 struct ShotOptions {
     std::array<std::optional<std::string>, kShotInputs> inputs; ///< as `shotInputs`
@@ -21,6 +15,12 @@ struct ShotOptions {
 
 /// The option of an input: "--ball-speed-mph".
 std::string optionOf(const ShotInput& input);
+
+/// The options given that tell a launch, a swing or a club, by name; empty if there are none.
+std::string launchOptions(const ShotOptions& options);
+
+/// True if a ball speed, launch angle or spin is given. A launch angle may stand beside a swing.
+bool tellsLaunch(const ShotOptions& options);
 
 /// The club set of the file, or the default set.
 Outcome<ClubTables, Refusal> clubsFor(const ShotOptions& options, const Console& console);

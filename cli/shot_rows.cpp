@@ -37,11 +37,24 @@ constexpr std::array<Column, 3> kPath = {{
 
 constexpr double kPathStep = 100; ///< points of a path a second
 
-std::vector<Column> composeLaunchColumns() {
+/// The columns of one sort of inputs.
+std::vector<Column> composeInputColumns(ShotInput::Of sort) {
     std::vector<Column> columns;
     for (const ShotInput& input : shotInputs())
-        if (input.of == ShotInput::Of::Launch)
+        if (input.of == sort)
             columns.push_back({input.key, input.heading, input.pattern});
+    return columns;
+}
+
+void appendInputs(std::vector<Cell>& cells, const ShotInputs& shot, ShotInput::Of sort) {
+    for (const ShotInput& input : shotInputs())
+        if (input.of == sort)
+            std::visit([&](auto member) { cells.emplace_back(shot.*member); }, input.member);
+}
+
+std::vector<Column> composeConditionColumns() {
+    auto columns = composeInputColumns(ShotInput::Of::Air);
+    columns.push_back({"ball", "Ball", "0"});
     return columns;
 }
 
@@ -53,9 +66,8 @@ std::vector<Column> composeShotColumns() {
     add(launchColumns());
     add(kFigures);
     add(kImpact);
-    for (const ShotInput& input : shotInputs())
-        if (input.of != ShotInput::Of::Launch)
-            columns.push_back({input.key, input.heading, input.pattern});
+    add(composeInputColumns(ShotInput::Of::Swing));
+    add(conditionColumns());
     return columns;
 }
 
@@ -83,17 +95,23 @@ void appendFigures(std::vector<Cell>& cells, const FlightOutcome& flight) {
                                figures.landingAngle, flight.time});
 }
 
-void appendNoFigures(std::vector<Cell>& cells) {
-    cells.resize(cells.size() + kFigures.size());
-}
-
 std::span<const Column> launchColumns() {
-    static const auto kColumns = composeLaunchColumns();
+    static const auto kColumns = composeInputColumns(ShotInput::Of::Launch);
     return kColumns;
 }
 
 void appendLaunch(std::vector<Cell>& cells, const ShotInputs& shot) {
     cells.insert(cells.end(), {shot.LaunchSpeed, shot.LaunchAngle, shot.RPM});
+}
+
+std::span<const Column> conditionColumns() {
+    static const auto kColumns = composeConditionColumns();
+    return kColumns;
+}
+
+void appendConditions(std::vector<Cell>& cells, const ShotInputs& shot) {
+    appendInputs(cells, shot, ShotInput::Of::Air);
+    cells.push_back(shot.BallType > 0 ? Cell(static_cast<double>(shot.BallType)) : Cell());
 }
 
 std::span<const Column> shotColumns() {
@@ -113,12 +131,10 @@ std::vector<Cell> shotCells(const FlownShot& flown) {
         cells.emplace_back(flown.record.ImpactSpeed);
         cells.emplace_back(flown.record.ImpactSpin);
     } else {
-        appendNoFigures(cells);
-        cells.resize(cells.size() + kImpact.size());
+        cells.resize(cells.size() + kFigures.size() + kImpact.size());
     }
-    for (const ShotInput& input : shotInputs())
-        if (input.of != ShotInput::Of::Launch)
-            std::visit([&](auto member) { cells.emplace_back(shot.*member); }, input.member);
+    appendInputs(cells, shot, ShotInput::Of::Swing);
+    appendConditions(cells, shot);
     return cells;
 }
 

@@ -8,16 +8,21 @@
 
 namespace parabolt::cli {
 
+/// The number of a data set.
+inline constexpr Column kDataSetColumn{"data_set", "Data set", "0"};
+
 /// What came of a flight, without the shot: seven columns from the carry to the time.
 std::span<const Column> figureColumns();
 /// Appends the cells of a flight that came down.
 void appendFigures(std::vector<Cell>& cells, const FlightOutcome& flight);
-/// Appends as many empty cells.
-void appendNoFigures(std::vector<Cell>& cells);
 
 /// The launch: ball speed, launch angle, spin.
 std::span<const Column> launchColumns();
 void appendLaunch(std::vector<Cell>& cells, const ShotInputs& shot);
+
+/// The weather and the ball.
+std::span<const Column> conditionColumns();
+void appendConditions(std::vector<Cell>& cells, const ShotInputs& shot);
 
 /// A flown shot with all that the form's table of results has of it, and more.
 std::span<const Column> shotColumns();

@@ -34,11 +34,15 @@ Outcome<Shot, Fault> lofted(const Shot& shot) {
 ExitStatus studyCommand(const StudyOptions& options, const Console& console) {
     auto shot = shotOf(options.shot, console);
     if (!shot)
-        return console.complain(shot.why().message, shot.why().status);
-    if (options.study != Study::Loft && shot->Mode != OperatingMode::Launch)
+        return console.complain(shot.why());
+    const bool isLaunch = shot->Mode == OperatingMode::Launch;
+    if (options.study != Study::Loft && !isLaunch)
         return console.complain("A study of launch angle or spin flies a launch: give ball speed, "
                                 "launch angle or spin, and no swing.");
-    if (options.study == Study::Loft && shot->Mode == OperatingMode::Launch)
+    if (options.study == Study::Loft && isLaunch && tellsLaunch(options.shot))
+        return console.complain("A study of the loft flies a swing: give head speed, a club and "
+                                "the like, and no launch.");
+    if (options.study == Study::Loft && isLaunch)
         shot->Mode = OperatingMode::Manual;
     const auto found =
         options.study == Study::Loft

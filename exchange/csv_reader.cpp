@@ -9,8 +9,6 @@
 namespace parabolt {
 namespace {
 
-constexpr std::string_view kNamesDelimiter = "sep=";
-
 /// Line ends of any kind in a text.
 std::size_t lineEnds(std::string_view text) {
     std::size_t count = 0;
@@ -95,6 +93,16 @@ Outcome<bool, CsvFault> CsvReader::incomplete(std::size_t length) const {
     return false;
 }
 
+std::string_view textOf(CsvFault::Kind kind) {
+    return kind == CsvFault::Kind::QuoteNotClosed ? "a quote is opened and never closed"
+                                                  : "the row is longer than 1 MB";
+}
+
+bool isEmpty(const CsvRow& row) {
+    return std::all_of(row.cells.begin(), row.cells.end(),
+                       [](const std::string& cell) { return trimmed(cell).empty(); });
+}
+
 std::string_view withoutByteOrderMark(std::string_view text) {
     constexpr std::string_view kMark = "\xEF\xBB\xBF";
     return text.starts_with(kMark) ? text.substr(kMark.size()) : text;
@@ -124,6 +132,15 @@ char delimiterOf(std::string_view text) {
                candidates.begin(), candidates.end(),
                [](const Candidate& a, const Candidate& b) { return a.count < b.count; })
         ->delimiter;
+}
+
+std::string withDecimalPoint(std::string_view cell, char delimiter) {
+    std::string text(cell);
+    const std::size_t comma = text.find_first_of(".,");
+    const bool only = comma != std::string::npos && text.find_last_of(".,") == comma;
+    if (delimiter != ',' && only && text[comma] == ',')
+        text[comma] = '.';
+    return text;
 }
 
 bool namesDelimiter(const CsvRow& row) {

@@ -21,6 +21,8 @@ struct CsvFault {
     enum class Kind { QuoteNotClosed, RowTooLong } kind;
     std::size_t line; ///< on which the row begins
 };
+/// The fault for people, without its line: "a quote is opened and never closed".
+std::string_view textOf(CsvFault::Kind kind);
 
 /// Reads what `CsvWriter` writes, and its kin, row by row from a text that comes in pieces: fields
 /// between commas or another delimiter, quotes by RFC 4180, lines that end in CR LF, LF or CR. A
@@ -55,6 +57,9 @@ private:
     bool finished_ = false;
 };
 
+/// True if no cell of a row has content, blanks aside.
+bool isEmpty(const CsvRow& row);
+
 /// The text without a byte order mark of UTF-8.
 std::string_view withoutByteOrderMark(std::string_view text);
 
@@ -62,6 +67,10 @@ std::string_view withoutByteOrderMark(std::string_view text);
 /// of comma, semicolon and tab that stands most often outside quotes, the comma if none does. One
 /// between two digits doesn't count: it may be a decimal comma.
 char delimiterOf(std::string_view text);
+
+/// A cell whose number has a decimal comma, with a point in its place; any other cell as it is.
+/// Between commas there are no decimal commas.
+std::string withDecimalPoint(std::string_view cell, char delimiter);
 
 /// True for the line before a table that names its delimiter, `sep=;`: it is no row of it.
 bool namesDelimiter(const CsvRow& row);

@@ -1,20 +1,28 @@
 #pragma once
 
-#include <algorithm>
+#include <array>
+#include <charconv>
+#include <string>
 #include <string_view>
 
 namespace parabolt {
 
-// What reader and writer of comma-separated values agree on (RFC 4180).
+// What all readers and writers of comma-separated values agree on (RFC 4180).
 
+inline constexpr char kCsvDelimiter = ','; ///< of what is written
 inline constexpr char kCsvQuote = '"'; ///< around a field; a doubled one inside stands for itself
+inline constexpr std::string_view kNamesDelimiter = "sep="; ///< before a table, on a line alone
 inline constexpr std::string_view kCsvLineEnd = "\r\n";
 
-/// True if a field must stand in quotes: it holds what would end it, or a quote.
-constexpr bool needsCsvQuotes(std::string_view field, char delimiter) {
-    return std::any_of(field.begin(), field.end(), [delimiter](char c) {
-        return c == delimiter || c == kCsvQuote || c == '\r' || c == '\n';
-    });
+/// Appends a field, in quotes if it holds what would end it, or a quote.
+void appendCsvField(std::string& text, std::string_view field);
+
+/// Appends a number, 32 or 64 bits wide, in the fewest digits that give it back.
+template <class Number>
+void appendNumber(std::string& text, Number number) {
+    std::array<char, 64> digits{};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    text.append(digits.data(), end);
 }
 
 } // namespace parabolt

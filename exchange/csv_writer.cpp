@@ -2,51 +2,42 @@
 
 #include "exchange/csv_rules.h"
 
-#include <array>
-#include <charconv>
-
 namespace parabolt {
-namespace {
 
-constexpr char kDelimiter = ',';
-
-template <class Number>
-void append(std::string& text, Number number) {
-    std::array<char, 64> digits{};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    text.append(digits.data(), end);
+void appendCsvField(std::string& text, std::string_view field) {
+    constexpr std::array kSpecial = {kCsvDelimiter, kCsvQuote, '\r', '\n'};
+    if (field.find_first_of(std::string_view(kSpecial.data(), kSpecial.size())) ==
+        std::string_view::npos) {
+        text += field;
+        return;
+    }
+    text += kCsvQuote;
+    for (const char c : field)
+        text.append(c == kCsvQuote ? 2 : 1, c);
+    text += kCsvQuote;
 }
-
-} // namespace
 
 void CsvWriter::startField() {
     if (rowStarted_)
-        text_ += kDelimiter;
+        text_ += kCsvDelimiter;
     rowStarted_ = true;
 }
 
 CsvWriter& CsvWriter::field(std::string_view text) {
     startField();
-    if (!needsCsvQuotes(text, kDelimiter)) {
-        text_ += text;
-        return *this;
-    }
-    text_ += kCsvQuote;
-    for (const char c : text)
-        text_.append(c == kCsvQuote ? 2 : 1, c);
-    text_ += kCsvQuote;
+    appendCsvField(text_, text);
     return *this;
 }
 
 CsvWriter& CsvWriter::field(double number) {
     startField();
-    append(text_, number);
+    appendNumber(text_, number);
     return *this;
 }
 
 CsvWriter& CsvWriter::field(float number) {
     startField();
-    append(text_, number);
+    appendNumber(text_, number);
     return *this;
 }
 

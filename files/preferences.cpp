@@ -11,25 +11,23 @@ constexpr std::uint32_t kNoSection = 0x800403E9;
 constexpr std::uint32_t kNoKey = 0x800403EA;
 constexpr std::uint32_t kStoreFailureBase = 0x800407D0; ///< the system's code comes on top
 
-std::string trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+/// A name without the blanks around it.
+std::string bareName(std::string_view text) {
+    return std::string(trimmed(text, " "));
 }
 
 /// The one spelling under which a section is stored.
 std::string sectionName(std::string_view section) {
-    return lowerCase(trimmed(section));
+    return lowerCase(bareName(section));
 }
 
 Outcome<void, Failure> checkAddress(std::string_view appName, std::string_view section,
                                     std::string_view key) {
-    if (trimmed(appName).empty())
+    if (bareName(appName).empty())
         return because(Failure{kNoAppName, "AppName may not be empty"});
-    if (trimmed(section).empty())
+    if (bareName(section).empty())
         return because(Failure{kNoSection, "Section may not be empty"});
-    if (trimmed(key).empty())
+    if (bareName(key).empty())
         return because(Failure{kNoKey, "Key may not be empty"});
     return {};
 }
@@ -48,7 +46,7 @@ Outcome<std::string, Failure> GetRegString(PreferencesStore& store, std::string_
                                            std::string_view Default) {
     if (const auto address = checkAddress(AppName, Section, Key); !address)
         return because(address.why());
-    const auto text = store.read(trimmed(AppName), sectionName(Section), std::string(Key));
+    const auto text = store.read(bareName(AppName), sectionName(Section), std::string(Key));
     if (!text)
         return failure(text.why(), "Could not open registry section", "Registry data not a string");
     return text->value_or(std::string(Default));
@@ -59,8 +57,8 @@ Outcome<void, Failure> SaveRegString(PreferencesStore& store, std::string_view A
                                      std::string_view Setting) {
     if (auto address = checkAddress(AppName, Section, Key); !address)
         return address;
-    const auto written =
-        store.write(trimmed(AppName), sectionName(Section), std::string(Key), std::string(Setting));
+    const auto written = store.write(bareName(AppName), sectionName(Section), std::string(Key),
+                                     std::string(Setting));
     if (!written)
         return failure(written.why(), "Could not open/create registry section",
                        "Could not set key value");

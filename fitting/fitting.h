@@ -6,9 +6,6 @@
 
 namespace parabolt {
 
-/// Where the desk keeps the session of measured shots and of the bag, among the windows.
-inline constexpr auto kMeasuredKey = "measured";
-
 /// What the windows of measured shots and of the bag stand on: one session for both, which the desk
 /// of the main form carries as a text. The text is written when the session changes, and read when
 /// another desk is laid; a look that finds neither costs nothing.

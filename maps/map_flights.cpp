@@ -42,6 +42,10 @@ std::span<const MapOutcome> mapOutcomes() {
     return kOutcomes;
 }
 
+bool isNarrow(MapOutcome outcome) {
+    return outcome != MapOutcome::Total && outcome != MapOutcome::LandingAngle;
+}
+
 double figureOf(const Figures& figures, MapOutcome outcome) {
     switch (outcome) {
     case MapOutcome::Carry:

@@ -33,6 +33,9 @@ using MapCell = Outcome<MapFlight, Fault>;
 /// The figure of an outcome, as the rest of the program has it.
 double figureOf(const Figures& figures, MapOutcome outcome);
 
+/// True for the figures that are 32-bit values of the flight, not computed from them.
+bool isNarrow(MapOutcome outcome);
+
 /// The figure as a map draws and compares it: carry and total end where the path meets the ground.
 /// They change smoothly from shot to shot, where the figures go by the length of a step.
 double smoothFigure(const MapFlight& flight, MapOutcome outcome);

@@ -1,14 +1,20 @@
 #include "maps/map_table.h"
 
 #include "exchange/csv_writer.h"
+#include "numbers/rounding.h"
 #include "shots/fault_words.h"
 
 namespace parabolt {
 namespace {
 
-/// Name and unit as a heading of a table: "Carry (yd)".
+/// Name and unit as a heading of a table: "Carry [yd]".
 std::string columnHeading(std::string_view name, std::string_view unit) {
-    return std::string(name) + " (" + (unit == "\u00b0" ? "degrees" : std::string(unit)) + ")";
+    return std::string(name) + " [" + (unit == "\u00b0" ? "deg" : std::string(unit)) + "]";
+}
+
+void writeFigure(CsvWriter& csv, const Figures& figures, MapOutcome outcome) {
+    const double figure = figureOf(figures, outcome);
+    isNarrow(outcome) ? csv.field(store32(figure)) : csv.field(figure);
 }
 
 } // namespace
@@ -29,7 +35,10 @@ std::string composeMapTable(const MapResult& result) {
                 continue;
             csv.field(grid.point(column, row).across).field(grid.point(column, row).up);
             for (const MapOutcome outcome : mapOutcomes())
-                *node ? csv.field(figureOf((*node)->figures, outcome)) : csv.empty();
+                if (*node)
+                    writeFigure(csv, (*node)->figures, outcome);
+                else
+                    csv.empty();
             csv.field(*node ? std::string_view() : faultDescription(node->why())).endRow();
         }
     return csv.text();

@@ -8,9 +8,10 @@ namespace parabolt {
 namespace {
 
 constexpr std::array<LaunchLimit, 3> kLaunchLimits = {{
-    {"ball speed", "mph", &MeasuredShot::ballSpeed, &ShotInputs::LaunchSpeed, 30, 250},
-    {"launch angle", "deg", &MeasuredShot::launchAngle, &ShotInputs::LaunchAngle, 0, 55},
-    {"spin", "rpm", &MeasuredShot::backSpin, &ShotInputs::RPM, 0, 22000},
+    {limits::kLaunchSpeed, "ball speed", "mph", &MeasuredShot::ballSpeed, &ShotInputs::LaunchSpeed},
+    {limits::kLaunchAngle, "launch angle", "deg", &MeasuredShot::launchAngle,
+     &ShotInputs::LaunchAngle},
+    {limits::kSpin, "spin", "rpm", &MeasuredShot::backSpin, &ShotInputs::RPM},
 }};
 
 } // namespace
@@ -22,7 +23,7 @@ std::span<const LaunchLimit> launchLimits() {
 std::string whyNotFlown(const MeasuredShot& shot) {
     for (const LaunchLimit& limit : kLaunchLimits) {
         const float value = shot.*limit.measured;
-        if (value >= limit.lowest && value <= limit.highest)
+        if (limit.hold(value))
             continue;
         return std::string(limit.name) + " " + shortestText(value) + " " + std::string(limit.unit) +
                (value > limit.highest ? " is above " + shortestText(limit.highest)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shots/input_limits.h"
 #include "shots/shot.h"
 
 #include <cstddef>
@@ -47,13 +48,11 @@ struct MeasuredShot {
 };
 
 /// What a shot needs so that it can be flown, with the limits of the main form's fields.
-struct LaunchLimit {
+struct LaunchLimit : InputLimits {
     std::string_view name; ///< "ball speed"
     std::string_view unit;
     float MeasuredShot::*measured;
     float ShotInputs::*input;
-    float lowest;  ///< accepted itself
-    float highest; ///< accepted itself
 };
 std::span<const LaunchLimit> launchLimits();
 

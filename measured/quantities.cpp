@@ -126,13 +126,6 @@ const UnitRow& unitRow(MeasuredUnit unit) {
                          [unit](const UnitRow& row) { return row.unit == unit; });
 }
 
-std::string_view withoutEnds(std::string_view text, std::string_view what) {
-    const std::size_t first = text.find_first_not_of(what);
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(what) - first + 1);
-}
-
 std::optional<MeasuredUnit> spelled(std::string_view text) {
     for (const Spelling& spelling : kSpellings)
         if (spelling.text == text)
@@ -156,11 +149,11 @@ std::string_view nameOf(MeasuredUnit unit) {
 }
 
 std::optional<MeasuredUnit> unitNamed(std::string_view text) {
-    const std::string lower = lowerCase(withoutEnds(text, "[]() .\t"));
+    const std::string lower = lowerCase(trimmed(text, "[]() .\t"));
     if (const auto unit = spelled(lower))
         return unit;
     // "deg L-/R+": the sense of the sign stands behind the unit.
-    return spelled(withoutEnds(std::string_view(lower).substr(0, lower.find(' ')), "."));
+    return spelled(trimmed(std::string_view(lower).substr(0, lower.find(' ')), "."));
 }
 
 bool suits(MeasuredUnit unit, Quantity quantity) {

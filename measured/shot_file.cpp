@@ -129,10 +129,7 @@ Outcome<ShotFile, ImportFault> readShotFile(std::string_view bytes) {
     for (CsvRow row;;) {
         const auto read = reader.next(row);
         if (!read)
-            return because(
-                aboutLine(read.why().line, read.why().kind == CsvFault::Kind::QuoteNotClosed
-                                               ? "a quote is opened and never closed."
-                                               : "the row is too long for a table of shots."));
+            return because(aboutLine(read.why().line, std::string(textOf(read.why().kind)) + "."));
         if (!*read)
             break;
         const bool empty = std::all_of(row.cells.begin(), row.cells.end(), [](const auto& cell) {

@@ -18,24 +18,16 @@ namespace {
 
 /// True for a row that sums up others: one of its cells says so.
 bool isSummary(const CsvRow& row) {
-    constexpr std::array<std::string_view, 15> kWords = {"average",
-                                                         "averages",
-                                                         "avg",
-                                                         "mean",
-                                                         "median",
-                                                         "stddev",
-                                                         "stdev",
-                                                         "sd",
-                                                         "consistency",
-                                                         "deviation",
-                                                         "standarddeviation",
-                                                         "summary",
-                                                         "min",
-                                                         "max",
-                                                         "durchschnitt"};
+    constexpr auto kWords = std::to_array<std::string_view>(
+        {"average", "averages", "avg", "consistency", "deviation", "max", "maximum", "mean",
+         "means", "median", "min", "minimum", "range", "sd", "standarddeviation", "stddev", "stdev",
+         "sum", "summary", "total", "totals",
+         // Deutsch
+         "durchschnitt", "gesamt", "mittel", "mittelwert", "mittelwerte", "stabw",
+         "standardabweichung", "streuung", "summe"});
     return std::any_of(row.cells.begin(), row.cells.end(), [&kWords](const std::string& cell) {
         std::string word = lowerCase(cell);
-        std::erase_if(word, [](char c) { return c == ' ' || c == '.' || c == ':'; });
+        std::erase_if(word, [](char c) { return c == ' ' || c == '.' || c == ':' || c == '-'; });
         return std::find(kWords.begin(), kWords.end(), word) != kWords.end();
     });
 }

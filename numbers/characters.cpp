@@ -68,6 +68,13 @@ std::string elided(std::string_view text, double room,
     return withLetters(fits);
 }
 
+std::string_view trimmed(std::string_view text, std::string_view what) {
+    const std::size_t first = text.find_first_not_of(what);
+    return first == std::string_view::npos
+               ? std::string_view()
+               : text.substr(first, text.find_last_not_of(what) - first + 1);
+}
+
 std::string lowerCase(std::string_view text) {
     std::string lower(text);
     std::transform(lower.begin(), lower.end(), lower.begin(), [](char c) {

@@ -26,6 +26,9 @@ std::string asName(std::string_view text, std::size_t most);
 std::string elided(std::string_view text, double room,
                    const std::function<double(std::string_view)>& widthOf);
 
+/// The text without certain characters around it: blanks and tabs, if no others are named.
+std::string_view trimmed(std::string_view text, std::string_view what = " \t");
+
 /// The text with its letters A to Z in lower case; all other bytes stay, in every locale.
 std::string lowerCase(std::string_view text);
 

@@ -8,10 +8,6 @@
 
 namespace parabolt {
 
-/// How people know an operating mode: "Launch". Empty for a number that is none.
-std::string_view modeName(int mode);
-/// How people know a ball option, 1 to 4: "Soft ball". Empty for 0, an unknown one.
-std::string_view ballName(int ball);
 /// A club by type and number: "W-1", "I-7".
 std::string clubName(const RunRecord& run);
 

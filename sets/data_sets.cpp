@@ -5,6 +5,7 @@
 #include "sets/data_set_words.h"
 #include "shots/figures.h"
 #include "shots/fly.h"
+#include "shots/shot_words.h"
 
 #include <array>
 

@@ -1,4 +1,6 @@
 #include "clubs/clubs_file.h"
+#include "measured/measured_codec.h"
+#include "sessions/session_codec.h"
 #include "shots/figures.h"
 #include "tests/cli/command_run.h"
 #include "tests/support/shots.h"
@@ -13,6 +15,9 @@ using nlohmann::json;
 
 const std::string kHead = "Ball speed [mph],Launch angle [deg],Spin [rpm]\n";
 
+const std::string kSet =
+    "club,loft_deg,head_weight_g,head_speed_mph,COR,attack_angle_deg,bend_deg\n";
+
 struct Told {
     std::string arguments;
     std::string input;
@@ -26,8 +31,12 @@ TEST(Command, EndsAsItsManualSays) {
     const Told cases[] = {
         {"--help", "", 0, "Subcommands:", ""},
         {"--version", "", 0, "parabolt-cli ", ""},
-        {"", "", 2, "", "subcommand is required"},
-        {"fly --nonsense", "", 2, "", "--nonsense"},
+        {"", "", 2, "", "parabolt-cli: A subcommand is required"},
+        {"fly --nonsense", "", 2, "",
+         "parabolt-cli: The following argument was not expected: --nonsense"},
+        {"fly --spin", "", 2, "", "parabolt-cli: --spin-rpm: Its value is missing."},
+        {"fly --spin 1 --spin 2", "", 2, "", "--spin-rpm: It is given more than once."},
+        {"clubs foo", "", 2, "", "parabolt-cli: There is no command \"foo\""},
         {"fly --format xml", "", 2, "", "xml"},
         // Limits: accepted themselves, refused beyond, in the words of the form.
         {"fly --ball-speed 30 --spin 0", "", 0, ",LM,30,", ""},
@@ -48,39 +57,66 @@ TEST(Command, EndsAsItsManualSays) {
         {"study spin --club W1", "", 2, "", "flies a launch"},
         {"study height", "", 2, "", "height"},
         {"map --across 1:2", "", 2, "", "--across: Give first, last and step"},
+        {"map --across 1:2:3:", "", 2, "", "--across: Give first, last and step"},
+        {"map --kind swing --spin 3000", "", 2, "", "A map of swings takes a swing"},
+        {"study loft --launch-angle 12", "", 2, "", "A study of the loft flies a swing"},
         {"map --up 5:4:1", "", 2, "", "--up: An axis rises"},
         {"map --across 0:30000:100", "", 2, "", "--across: Enter a value between 0 and 22000"},
         // Tables of shots.
         {"batch", "", 2, "", "There is no table"},
         {"batch /nowhere.csv", "", 3, "", "/nowhere.csv: No such file"},
         {"batch", kHead + "144,9.5,3200\n", 0, "2,,144,9.5,3200,228.36668,", ""},
-        {"batch", kHead + "144,9.5,3200\n12,9,1\n150,9,2500\n", 1, "\r\n3,,,,,,,,,,,,Ball speed",
-         "line 3: Ball speed [mph]: " + speed},
+        {"batch", kHead + "144,9.5,3200\n12,9,1\n150,9,2500\n", 1,
+         "\r\n3,,,,,,,,,,,,,,,,,,Ball speed", "line 3: Ball speed [mph]: " + speed},
         {"batch", kHead + "144,9.5,3200,7\n", 1, "2,,", "line 2: The row has more cells"},
-        {"batch", kHead + "144,\"9.5\n", 2, "Line,Club", "line 2: A quote is not closed."},
+        {"batch", kHead + "144,\"9.5\n", 2, "Line,Club",
+         "line 2: a quote is opened and never closed."},
         {"batch --wind 10", "\xEF\xBB\xBF\n\nspin_rpm;ball_speed_mph;club\n3200;144;\"a;b\"\n", 0,
          "\r\n4,a;b,144,9.5,3200,205.", ""},
         {"batch", "sep=;\nBall speed [mph];Launch angle [deg]\n144;\n", 0, "3,,144,9.5,3200,228",
          ""},
         {"batch", "Club,Head speed [mph]\nDriver,\n7i,80\nW11,\n", 1, "\r\n3,7i,", "line 4: There"},
         {"batch --path", kHead + "144,9.5,3200\n", 0, "\r\n2,0.01,0.69131", ""},
+        {"batch", "BALL SPEED [MPH];launch_angle;Temperature\n144,5;9,5;70\n", 0,
+         "\r\n2,,144.5,9.5,", ""},
+        {"batch", " ball_speed , Club,\n 144 , Driver,\n  \n", 0, "\r\n2,Driver,144,9.5,", ""},
+        {"batch", "ball_speed_mph,Ball speed [mph]\n144,145\n", 2, "", "says again what another"},
+        {"batch", "speed,angle\n144,9\n", 2, "", "not known are \"speed\", \"angle\"."},
+        {"batch", std::string(3 << 20, 'x'), 2, "", "line 1: the row is longer than 1 MB."},
+        {"batch", std::string(3 << 20, '\n'), 2, "", "no headings in the first 1 MB"},
+        {"batch", kHead + std::string(3 << 20, ' '), 2, "Line,", "line 2: the row is longer"},
         // Files of launch monitors: what their rows leave out is told, and is no fault.
         {"batch " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 0, ",7 Iron,", "is left out: "},
+        {"batch " PARABOLT_TEST_DATA "/measured/trap_tabs.txt", "", 0, "Line,", "a file of "},
+        {"batch " PARABOLT_TEST_DATA "/measured/trap_unknown_unit.csv", "", 2, "", ", knots.\n"},
+        {"batch --club W1 --clubs x " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 3, "",
+         "x: No such"},
+        {"batch --spin 1 " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 2, "",
+         "with it: --spin-rpm."},
         {"batch " PARABOLT_TEST_DATA "/measured/unknown.csv", "", 2, "", "No known launch monitor"},
         {"batch " PARABOLT_TEST_DATA "/measured/own.csv", "", 0, "\r\n3,1,144,9.5,3200,2",
-         "\"Name\" is not read"},
+         "not read are the columns \"Number\", \"Name\"."},
         {"normalise " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 0, ",7 Iron,",
          "is left out: "},
         {"normalise --to-altitude-ft 16000 -", "", 2, "", "--to-altitude-ft: Enter a value"},
         // Clubs.
         {"clubs check", "", 0, "", ""},
-        {"clubs check -", "Club,COR\n7i,0.9\n", 2, "", "7i: Then COR must between 0.7 and 0.86"},
-        {"clubs list -", "abc", 2, "", "-: It is no clubs file."},
+        {"clubs check -", kSet + "7i,34,260,94,0.9,0,0\n", 2, "", "are missing: Driver, 2W, 3W"},
+        {"clubs check -", kSet + "7i,34,260,94,0.8,0,0\nI7,3", 2, "", "line 3: The row has not as"},
+        {"clubs check -", kSet + "7i,34,1,1,1,0,0\nI7,3,1,1,1,0,0", 2, "", "7i stands there twice"},
+        {"clubs list -", "abc", 2, "", "standard input: It is no clubs file."},
         {"clubs list -", "Club,Lofty\n", 2, "", "no heading \"Lofty\""},
-        {"clubs list -", "Club,COR\n7i,x\n", 2, "", "line 2: \"x\" is no number."},
-        {"clubs list -", "{\"clubs\":[{\"club\":\"9z\"}]}", 2, "", "A club without a known name"},
+        {"clubs list -", "Club,COR\n7i,0.8\n", 2, "",
+         "columns are missing: Loft [deg], Head weight"},
+        {"clubs list -", kSet + "7i,x,,,,,\n", 2, "", "line 2: \"x\" is no number."},
+        {"clubs list -", "{\"clubs\":[{\"club\":\"9z\"}]}", 2, "", "There is no club \"9z\""},
+        {"clubs list -", "{\"clubs\":[{\"club\":\"7i\"}]}", 2, "", "no number \"loft_deg\""},
         {"clubs convert", "", 2, "", "Say with --to"},
         {"clubs fly --narrowest-yd 9", "", 0, "too narrow", ""},
+        {"clubs fly --narrowest-yd nan", "", 2, "", "--narrowest-yd: Enter a value between 0"},
+        {"clubs fly --narrowest 19", "", 2, "", "19 yards, is above the widest, 18 yards"},
+        {"clubs fly --first-speed 105 --fall 2.5", "", 0, "\r\n3W,100,235.7", ""},
+        {"clubs fly --bag /nowhere", "", 3, "", "/nowhere: No such file"},
     };
     for (const Told& each : cases) {
         const auto run = runCommand(each.arguments, each.input);
@@ -138,6 +174,87 @@ TEST(Command, KeepsTheOrderOfALongTable) {
     }
     // Its own results read back, and fly to the same.
     EXPECT_EQ(runCommand("batch", run.out).out, run.out);
+}
+
+// What was flown is flown again from its results, whatever made the launch; and from their results.
+TEST(Command, ReadsItsOwnResults) {
+    for (const char* options : {"fly --ball-speed 151 --spin 2345.6 --ball 2 --wind -7.3",
+                                "fly --club 7i --head-speed 88 --altitude 4100 --ball 1",
+                                "fly --club W3 --launch-angle 12.3 --pressure 29.13",
+                                "fly --loft 47 --bend 1.5 --temperature 48 --humidity 12"}) {
+        const auto flown = runCommand(options).out;
+        const auto read = runCommand("batch --format json", flown);
+        ASSERT_EQ(read.status, 0) << read.err;
+        EXPECT_EQ(read.err, "");
+        json again = json::parse(read.out)[0];
+        const json once = json::parse(runCommand(std::string(options) + " --format json").out);
+        again.erase("line");
+        again.erase("problem");
+        for (const auto& [key, value] : again.items())
+            EXPECT_EQ(value, once[key]) << options << ' ' << key;
+        const auto second = runCommand("batch", flown).out;
+        EXPECT_EQ(runCommand("batch", second).out, second);
+    }
+    // Rows without a result, and the table of data sets with its words.
+    const auto failed = runCommand("batch --wind 3", "Club,ball_speed_mph\n7i,12\nX9,\nD,144\n");
+    const auto again = runCommand("batch", failed.out);
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_EQ(again.out, failed.out);
+    EXPECT_EQ(again.err, failed.err);
+    const std::string head = "Mode,Loft [deg],Ball,ball_speed_mph,launch_angle_deg,spin_rpm\n";
+    EXPECT_EQ(json::parse(runCommand("batch --format json",
+                                     head + "Manual,10,Different dimple,144,9.5,3200\n")
+                              .out)[0]["carry_yd"],
+              json::parse(runCommand("fly --ball 2 --format json").out)["carry_yd"]);
+    EXPECT_NE(runCommand("batch", head + ",10,4,144,,\n").err.find("not both"), std::string::npos);
+    EXPECT_NE(runCommand("batch", head + "XM,10,4,144,9,1\n").err.find("no mode"),
+              std::string::npos);
+}
+
+TEST(Command, TellsAllOfASessionAndFliesItsBag) {
+    Session session{{}, "2026-11-23 10:32"};
+    session.desk.clubs = InitClubTables();
+    session.desk.clubs.Woods[3].HeadSpeed = 120;
+    session.desk.club = 1;
+    session.desk.fillIn = true;
+    session.desk.scale = 250.5F;
+    session.desk.table = {{"a row\n", {1, 2, 3}}};
+    session.desk.reportCaption = "Ann";
+    session.desk.runs = {flightOf(mildShot(150, 12, 2500)).record};
+    session.desk.tags = {{"low", false, 2}};
+    MeasuredSession measured;
+    for (BagClub& club : measured.bag.clubs)
+        club.owned = club.name == "3W" || club.name == "PW";
+    measured.bag.clubs.at(2).name = "Old faithful";
+    session.desk.windows = {{kMeasuredKey, encodeMeasured(measured)}, {"other", "{ words"}};
+    const std::string file = encodeSession(session);
+    const json all = json::parse(runCommand("session --format json", file).out);
+    for (const auto& [pointer, value] : std::initializer_list<std::pair<const char*, json>>{
+             {"/mode", "MM"},
+             {"/ball", 4},
+             {"/club", "2W"},
+             {"/fill_in", true},
+             {"/scale_yd", 250.5},
+             {"/shot/cor", 0.83},
+             {"/table/0/text", "a row\n"},
+             {"/table/0/colour", {1, 2, 3}},
+             {"/report_caption", "Ann"},
+             {"/data_sets/0/name", "low"},
+             {"/data_sets/0/ticked", false},
+             {"/data_sets/0/ball", 2},
+             {"/base_data_set", 1},
+             {"/club_set/clubs/2/head_speed_mph", 120},
+             {"/windows/measured/bag/widest", 18},
+             {"/windows/other", "{ words"}})
+        EXPECT_EQ(all.at(json::json_pointer(pointer)), value) << pointer;
+    const auto rows = linesOf(runCommand("clubs fly --bag -", file).out);
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_TRUE(rows[1].starts_with("Old faithful,120,")) << rows[1];
+    EXPECT_TRUE(rows[1].ends_with(",too wide")) << rows[1];
+    EXPECT_TRUE(rows[2].starts_with("PW,91,")) << rows[2];
+    session.desk.windows.clear();
+    EXPECT_NE(runCommand("clubs fly --bag -", encodeSession(session)).err.find("has no bag"),
+              std::string::npos);
 }
 
 /// A reader that goes away after some bytes, and a table without end.

@@ -47,9 +47,8 @@ def main():
             for block in blocks(document):
                 for line, expected in examples(block):
                     count += 1
-                    run = subprocess.run(["bash", "-c", line], capture_output=True, text=True, cwd=folder,
-                                         env=environment)
-                    printed = (run.stdout + run.stderr).replace("\r\n", "\n")
+                    run = subprocess.run(["bash", "-c", line], capture_output=True, cwd=folder, env=environment)
+                    printed = (run.stdout + run.stderr).decode() # with line ends as they are
                     if printed != expected:
                         faults += 1
                         print(f"{document}: $ {line}\n{printed}--- but the document has\n{expected}")

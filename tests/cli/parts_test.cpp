@@ -1,6 +1,7 @@
 #include "cli/batch_rows.h"
 #include "cli/club_files.h"
 #include "cli/descriptor_stream.h"
+#include "cli/ordered_work.h"
 #include "cli/shot_options.h"
 #include "tests/cli/command_run.h"
 #include "tests/support/golden.h"
@@ -92,7 +93,6 @@ TEST(CommandParts, ChooseTheModeByWhatIsGiven) {
         EXPECT_EQ(shot->sources.measuredLaunchAngle.has_value(),
                   shot->Mode == OperatingMode::Actual);
     }
-    EXPECT_FALSE(shotInputNamed("Ball Speed [mph]")) << "a device's, in other letters";
     // The values of the club must suit the form, and go there as texts.
     ClubTables odd = clubs;
     odd.Woods[1].COR = 0.8349F;
@@ -192,12 +192,28 @@ TEST(CommandParts, ReadFilesUpToTheirLimit) {
     std::ostringstream out;
     const Console console{in, out, out};
     EXPECT_EQ(*Input::open(folder.path("ten"), console)->readAll(10), "0123456789");
-    EXPECT_NE(Input::open(folder.path("ten"), console)->readAll(9).why().find("more than 9 bytes"),
+    EXPECT_NE(Input::open(folder.path("ten"), console)
+                  ->readAll(9)
+                  .why()
+                  .message.find("more than 9 bytes"),
               std::string::npos);
     EXPECT_EQ(*Input::open("-", console)->readAll(100), "standard");
-    EXPECT_EQ(Input::open(folder.path(), console).why(), folder.path() + ": Is a directory");
+    EXPECT_EQ(Input::open(folder.path(), console).why().message,
+              folder.path() + ": Is a directory");
     putContent(folder.path("empty"), "");
     EXPECT_EQ(*Input::open(folder.path("empty"), console)->readAll(9), "");
+}
+
+TEST(CommandParts, PassOnWhatAPieceThrows) {
+    std::istringstream in;
+    std::ostringstream out, err;
+    const Console console{in, out, err};
+    RowStream rows(console, Format::Csv, batchColumns(Format::Csv));
+    OrderedWork work(console, rows);
+    work.add([](const std::stop_token&) -> BatchText { throw std::bad_alloc(); });
+    work.add([](const std::stop_token&) { return BatchText{"late\r\n", "", 1, 0}; });
+    EXPECT_THROW(work.finish(), std::bad_alloc);
+    EXPECT_EQ(out.str().find("late"), std::string::npos);
 }
 
 // Paths of a batch: rows with their line, and in JSON beside the figures.

@@ -6,6 +6,7 @@ Call: streams.py COMMAND
 import os
 import subprocess
 import sys
+import threading
 
 COMMAND = sys.argv[1]
 HEAD = b"Ball speed [mph]\n"
@@ -50,24 +51,34 @@ def immediate():
                  first.startswith(b"2,,150,") and second.startswith(b"3,,160,") and run.wait() == 0)
 
 
-def peak(rows):
-    """Greatest resident memory in KB of a run over so many refused rows."""
-    run = start("batch", stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    run.stdin.write(HEAD)
-    piece = b"12\n" * 10000
-    for _ in range(rows // 10000):
-        run.stdin.write(piece)
-    run.stdin.flush()
+def peak(rows, *arguments):
+    """Greatest resident memory in KB of a run that has flown so many short shots."""
+    run = start("batch", *arguments)
+    feeding = threading.Thread(target=lambda: run.stdin.write(HEAD + b"30\n" * rows) and run.stdin.flush())
+    feeding.start()
+    last = f"{rows + 1},".encode()
+    while not run.stdout.readline().startswith(last):
+        pass
+    feeding.join()
     with open(f"/proc/{run.pid}/status", encoding="ascii") as status:
         resident = next(int(line.split()[1]) for line in status if line.startswith("VmHWM"))
-    run.stdin.close()
-    return resident if run.wait() == 1 else 0
+    run.communicate()
+    return resident if run.returncode == 0 else 0
 
 
-def flat():
-    few, many = peak(100000), peak(400000)
-    print(f"{few} KB for 100,000 rows, {many} KB for 400,000")
-    return check("memory stays flat", 0 < many < few + 4096)
+def flat(*arguments, rows):
+    few, many = peak(rows, *arguments), peak(4 * rows, *arguments)
+    print(f"{few} KB for {rows} shots, {many} KB for {4 * rows}")
+    return check("memory stays flat " + " ".join(arguments), 0 < many < few + 4096)
 
 
-sys.exit(0 if all([broken_pipe(), full_disk(), immediate(), flat()]) else 1)
+def endless():
+    """A line without an end, in as little memory as a sanitizer leaves a test."""
+    with open("/dev/zero", "rb") as zeros:
+        run = start("batch", stdin=zeros)
+        told = run.communicate(timeout=60)[1]
+    return check("a line without an end is refused", run.returncode == 2 and b"line 1: " in told)
+
+
+sys.exit(0 if all([broken_pipe(), full_disk(), immediate(), endless(), flat(rows=10000),
+                   flat("--path", rows=1000)]) else 1)

@@ -71,6 +71,18 @@ TEST(CsvReader, FindsTheDelimiter) {
         {"alone\n", ','}};
     for (const auto& [text, delimiter] : cases)
         EXPECT_EQ(delimiterOf(text), delimiter) << text;
+    struct Comma {
+        const char* cell;
+        char delimiter;
+        const char* text;
+    };
+    for (const Comma& each : {Comma{"9,5", ';', "9.5"},
+                              {"9,5", ',', "9,5"},
+                              {"1,234.5", ';', "1,234.5"},
+                              {"1,2,3", '\t', "1,2,3"},
+                              {"9.5", ';', "9.5"},
+                              {"", ';', ""}})
+        EXPECT_EQ(withDecimalPoint(each.cell, each.delimiter), each.text);
     EXPECT_TRUE(namesDelimiter({1, {"sep=", ""}}));
     EXPECT_FALSE(namesDelimiter({2, {"sep=;"}}));
 }

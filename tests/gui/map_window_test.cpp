@@ -142,7 +142,7 @@ TEST_F(MapWindowTest, IsKeptAsPictureAndTable) {
     ASSERT_TRUE(waitForSummary("Best for a ball"));
     for (const auto& [axis, last] : {std::pair("mapAcrossLast", 4000.0), {"mapUpLast", 20.0}})
         find<QDoubleSpinBox>(axis)->setValue(last);
-    const std::string heading = "Spin (rpm),Launch angle (degrees),Carry (yd),Total (yd),";
+    const std::string heading = "Spin [rpm],Launch angle [deg],Carry [yd],Total [yd],";
     ASSERT_TRUE(QTest::qWaitFor(
         [&] {
             const std::string table = save("mapExportTable", "map.csv");

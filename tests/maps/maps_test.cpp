@@ -128,8 +128,8 @@ TEST(Maps, LeaveAHoleWithItsReason) {
     const std::string table = composeMapTable(*map);
     EXPECT_NE(table.find("\r\n-5,-4,,,,,,"), std::string::npos) << table.substr(0, 300);
     EXPECT_EQ(table.substr(0, table.find("\r\n")),
-              "Attack angle (degrees),Loft (degrees),Carry (yd),Total (yd),Height (yd),"
-              "Landing angle (degrees),Time (s),No value because");
+              "Attack angle [deg],Loft [deg],Carry [yd],Total [yd],Height [yd],"
+              "Landing angle [deg],Time [s],No value because");
     // The picture is grey there, and nowhere else.
     ControlSet controls;
     PictureBox canvas(controls, "map", kWhite, kBlack);

@@ -146,8 +146,7 @@ TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
         {std::string(10'000'001, ' '), "The file is larger than 10 MB."},
         {rows + "\n200,140,3000,12\n", "Line 10002: the file has more than 10,000 rows."},
         {headings + "200,140,\"3000,12\n200\n", "Line 2: a quote is opened and never closed."},
-        {headings + std::string(2'000'000, 'x'),
-         "Line 2: the row is too long for a table of shots."},
+        {headings + std::string(2'000'000, 'x'), "Line 2: the row is longer than 1 MB."},
         {std::string("PK\3\4 \0 \0\xFF", 9),
          "This is no text file: tables of shots are read from CSV and text files."},
         {"Club,Speed\nD,150\n",
@@ -194,6 +193,9 @@ TEST(Import, TellsLabelsOfClubsFromTitlesAndSummaries) {
         {headings + "140,3000,12,200,Average Joe\n", ""}};
     for (const auto& [text, club] : cases)
         EXPECT_EQ(clubIn(text), club) << text;
+    for (const char* word : {"Mittelwert", "Minimum", "MAXIMUM:", "Mittel", "Gesamt", "Summe",
+                             "Sum", "Standardabweichung", "Total", "totals", "Std.Dev", "Std-Dev."})
+        EXPECT_EQ(clubIn(headings + "140,3000,12,200," + word + "\n"), "average row") << word;
 }
 
 TEST(Import, TakesUnitsFromWhereTheyStand) {

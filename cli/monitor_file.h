@@ -1,0 +1,13 @@
+#pragma once
+
+#include "cli/console.h"
+#include "measured/shot_import.h"
+
+namespace parabolt::cli {
+
+/// The shots of a launch monitor's file. What the file was taken for, what was made of its values,
+/// and each row that is left out are told to the user. The reason if it holds nothing to fly.
+Outcome<ImportPreview, std::string>
+importMonitorFile(std::string_view content, const std::string& name, const Console& console);
+
+} // namespace parabolt::cli
