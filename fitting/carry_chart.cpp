@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace parabolt {
 namespace {
@@ -70,19 +69,20 @@ public:
                 const std::vector<double>& yards)
         : canvas_(canvas),
           lines_(lines),
-          ink_(canvas.foreColor()),
-          order_(lines.size()) {
-        std::iota(order_.begin(), order_.end(), std::size_t{0});
+          ink_(canvas.foreColor()) {
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            if (lines[i].computed || lines[i].measured)
+                order_.push_back(i);
         std::stable_sort(order_.begin(), order_.end(), [&](std::size_t a, std::size_t b) {
             return placeOfLine(lines[a]) > placeOfLine(lines[b]);
         });
         std::size_t longest = 4;
-        for (const CarryLine& line : lines)
-            longest = std::max(longest, characterCount(shortName(line.name)));
+        for (const std::size_t line : order_)
+            longest = std::max(longest, characterCount(shortName(lines[line].name)));
         left_ = static_cast<double>(longest) * kLetter + 2 * kGapToText;
         width_ = std::max(canvas.geometry().width - left_ - kRight, kAxisApart);
         height_ = std::max(canvas.geometry().height - kAbove - kBelow, kAxisApart);
-        lineHeight_ = std::min(height_ / static_cast<double>(lines.size()), kTallestLine);
+        lineHeight_ = std::min(height_ / static_cast<double>(order_.size()), kTallestLine);
         const auto [least, greatest] = std::minmax_element(yards.begin(), yards.end());
         const int most = std::max(2, static_cast<int>(width_ / kAxisApart));
         step_ = roundStep(std::max(*greatest - *least, 1.0), most);
@@ -208,7 +208,7 @@ private:
     PictureBox& canvas_;
     std::span<const CarryLine> lines_;
     Rgb ink_;
-    std::vector<std::size_t> order_; ///< of the lines, the longest carry first
+    std::vector<std::size_t> order_; ///< of the lines with figures, the longest carry first
     double left_ = 0;
     double width_ = 0;
     double height_ = 0;

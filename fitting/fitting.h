@@ -6,9 +6,6 @@
 
 namespace parabolt {
 
-/// Where the desk keeps the session of measured shots and of the bag, among the windows.
-inline constexpr auto kMeasuredKey = "measured";
-
 /// What the windows of measured shots and of the bag stand on: one session for both, which the desk
 /// of the main form carries as a text. The text is written when the session changes, and read when
 /// another desk is laid; a look that finds neither costs nothing.
@@ -38,6 +35,8 @@ private:
     MeasuredSession session_;
     SharedText kept_; ///< what the desk last held of it
     std::uint64_t shotsNumber_ = 0;
+    std::vector<std::string> shotTexts_; ///< the shots as the text holds them
+    std::uint64_t shotTextsNumber_ = 0;  ///< of those shots
 };
 
 } // namespace parabolt

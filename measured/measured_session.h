@@ -4,6 +4,9 @@
 
 namespace parabolt {
 
+/// Where a desk keeps the session of measured shots and of the bag, among the windows.
+inline constexpr auto kMeasuredKey = "measured";
+
 /// All that the windows of measured shots and of the bag stand for, as a value.
 struct MeasuredSession {
     std::string source; ///< name of the file, for people
