@@ -1,6 +1,7 @@
 #include "fitting/bag_table.h"
 
 #include "fitting/comparison.h"
+#include "numbers/characters.h"
 #include "numbers/text_number.h"
 
 #include <algorithm>
@@ -55,17 +56,6 @@ std::array<TableColumn, 16> bagColumns(const std::string& whose) {
     }};
 }
 
-std::string_view wordOf(BagGap::Kind kind) {
-    switch (kind) {
-    case BagGap::Kind::TooNarrow:
-        return "narrow";
-    case BagGap::Kind::TooWide:
-        return "wide";
-    default:
-        return "good";
-    }
-}
-
 TableCell flightCell(const BagFlight& flight, std::size_t column) {
     const Figures& figures = flight.flight.figures;
     if (column == HeadSpeed)
@@ -106,7 +96,11 @@ TableCell gapCell(std::span<const BagGap> gaps, std::size_t row, bool inYards) {
                                   [row](const BagGap& each) { return each.longer == row; });
     if (gap == gaps.end())
         return {};
-    return inYards ? numberCell(gap->yards, kYards) : TableCell{std::string(wordOf(gap->kind))};
+    if (inYards)
+        return numberCell(gap->yards, kYards);
+    TableCell cell{std::string(gapWord(gap->kind))};
+    cell.colour = gapColour(gap->kind);
+    return cell;
 }
 
 /// Gaps between elements of some clubs as gaps between the rows of these.
@@ -214,8 +208,8 @@ std::string BagTable::summary() const {
     else if (text.empty())
         text = "All gaps lie within the limits. ";
     if (const std::string measured = verdictOn(measuredGaps_); !measured.empty())
-        text +=
-            std::string(figuresHeading(fitting_.session().computesCarry)) + " means: " + measured;
+        text += std::string(figuresHeading(fitting_.session().computesCarry)) +
+                " means: " + lowerCase(measured.substr(0, 1)) + measured.substr(1);
     std::string strangers;
     for (const std::string& club : measured_.strangers)
         strangers +=

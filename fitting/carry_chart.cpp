@@ -161,18 +161,13 @@ private:
         const double from = across(placeOfLine(lines_[gap.shorter]));
         const double to = across(placeOfLine(lines_[gap.longer]));
         const bool good = gap.kind == BagGap::Kind::Good;
-        pen(good                                  ? kQuiet
-            : gap.kind == BagGap::Kind::TooNarrow ? kNarrowColour
-                                                  : kWideColour,
-            good ? 1 : 3);
+        pen(gapColour(gap.kind).value_or(kQuiet), good ? 1 : 3);
         canvas_.line({from, y}, {to, y});
         if (good && lineHeight_ < kRoomForText)
             return;
-        const std::string word = good                                  ? ""
-                                 : gap.kind == BagGap::Kind::TooNarrow ? " narrow"
-                                                                       : " wide";
         pen(ink_);
-        const std::string text = formatPattern(gap.yards, "0.0") + word;
+        const std::string text =
+            formatPattern(gap.yards, "0.0") + (good ? "" : " " + std::string(gapWord(gap.kind)));
         // Beside the line: at its right where that leaves room, else at its left.
         const double room = static_cast<double>(text.size()) * kLetter;
         if (to + kGapToText + room < left_ + width_ + kRight)
@@ -219,6 +214,28 @@ private:
 };
 
 } // namespace
+
+std::string_view gapWord(BagGap::Kind kind) {
+    switch (kind) {
+    case BagGap::Kind::TooNarrow:
+        return "narrow";
+    case BagGap::Kind::TooWide:
+        return "wide";
+    default:
+        return "good";
+    }
+}
+
+std::optional<Rgb> gapColour(BagGap::Kind kind) {
+    switch (kind) {
+    case BagGap::Kind::TooNarrow:
+        return kNarrowColour;
+    case BagGap::Kind::TooWide:
+        return kWideColour;
+    default:
+        return std::nullopt;
+    }
+}
 
 void drawCarries(PictureBox& canvas, std::span<const CarryLine> lines, std::span<const BagGap> gaps,
                  std::string_view whose, std::string_view none) {

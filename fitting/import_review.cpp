@@ -1,7 +1,7 @@
 #include "fitting/import_review.h"
 
 #include "exchange/shot_columns.h"
-#include "numbers/text_number.h"
+#include "measured/columns.h"
 
 #include <algorithm>
 #include <array>
@@ -131,6 +131,16 @@ std::vector<std::string> ImportReview::examples(std::size_t column) const {
     for (const CsvRow& row : exampleRows(file_, kExamples))
         cells.push_back(column < row.cells.size() ? row.cells[column] : std::string());
     return cells;
+}
+
+MeasuredUnit ImportReview::likelyUnit(std::size_t column, Quantity quantity) const {
+    auto texts = examples(column);
+    if (column < headings_.size())
+        texts.push_back(headingParts(headings_[column]).unit);
+    for (const std::string& text : texts)
+        if (const auto unit = unitNamed(text); unit && suits(*unit, quantity))
+            return *unit;
+    return textOf(quantity).unit;
 }
 
 std::optional<Quantity> ImportReview::chosenTwice() const {

@@ -39,6 +39,9 @@ public:
     std::vector<std::string> columnTitles() const;
     /// The cells of a column in the first rows below the headings, for whoever chooses.
     std::vector<std::string> examples(std::size_t column) const;
+    /// The unit that such a column tells for a quantity, by its heading or below it; otherwise the
+    /// program's own.
+    MeasuredUnit likelyUnit(std::size_t column, Quantity quantity) const;
     /// Has another look at the file, by what its columns mean; those of which nothing is said mean
     /// nothing. Headings are those of the file.
     void choose(ColumnChoice choice);

@@ -73,7 +73,8 @@ std::string comparisonInWords(const MeasuredSession& session, const Comparison& 
             continue;
         if (words.empty()) {
             shots = error->number;
-            words = "Model less device, mean of " + counted(shots, "shot") + ": ";
+            words = "Model less " + lowerCase(figuresHeading(session.computesCarry)) +
+                    ", mean of " + counted(shots, "shot") + ": ";
         } else {
             words += "; ";
         }

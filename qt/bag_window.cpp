@@ -22,7 +22,7 @@
 namespace parabolt {
 namespace {
 
-constexpr QSize kUsualBagSize{1180, 760};
+constexpr QSize kUsualBagSize{1440, 800};
 constexpr auto kUnflown = "Fly the bag to see its carries and gaps.";
 
 } // namespace
@@ -40,25 +40,25 @@ struct BagWindow::BagField {
 std::span<const BagWindow::BagField> BagWindow::bagFields() {
     static constexpr std::array<BagField, 4> kFields = {{
         {"bagFirstSpeed",
-         "&first:",
+         "&first",
          "Head speed of wood 1 and of iron 1 of the set, owned or not, mph",
          {50, 165, 1, 1, " mph"},
          &BagChoice::firstSpeed,
          true},
         {"bagFall",
-         "f&all:",
+         "f&all",
          "Fall of the head speed from each club of the set to the next, mph",
          {0, 5, 0.5, 1, " mph"},
          &BagChoice::fall,
          true},
         {"bagNarrowest",
-         "&Gaps from:",
+         "&Gaps from",
          "Narrowest good gap, yards",
          {0, 100, 1, 1, " yd"},
          &BagChoice::narrowest,
          false},
         {"bagWidest",
-         "&to:",
+         "&to",
          "Widest good gap, yards",
          {0, 100, 1, 1, " yd"},
          &BagChoice::widest,
@@ -92,7 +92,7 @@ BagWindow::BagWindow(frmMain& logic, Fitting& fitting, const FormServices& servi
     halves_->setStretchFactor(0, 3);
     halves_->setStretchFactor(1, 2);
     halves_->setChildrenCollapsible(false);
-    halves_->setSizes({3, 2});
+    halves_->setSizes({600, 400});
     auto* centre = new QWidget;
     auto* rows = new QVBoxLayout(centre);
     rows->addWidget(choices());
@@ -144,12 +144,15 @@ QWidget* BagWindow::choices() {
     speeds_->setAccessibleName("Head speeds");
     speeds_->setToolTip("Where the head speeds come from");
     speeds_->addItems({"of the set", "falling from club to club"});
-    row->addWidget(labelled("&Head speeds:", speeds_));
     for (const BagField& field : bagFields()) {
         fields_.push_back(numberField(field.name, field.accessibleName, field.range));
-        row->addWidget(labelled(field.caption, fields_.back()));
         connect(fields_.back(), &QDoubleSpinBox::valueChanged, this, &BagWindow::takeChoices);
     }
+    const auto captioned = [this](std::size_t field) {
+        return std::pair<QString, QWidget*>(bagFields()[field].caption, fields_[field]);
+    };
+    row->addWidget(labelledGroup({{"&Head speeds:", speeds_}, captioned(0), captioned(1)}));
+    row->addWidget(labelledGroup({captioned(2), captioned(3)}));
     connect(speeds_, &QComboBox::activated, this, &BagWindow::takeChoices);
     return panel;
 }

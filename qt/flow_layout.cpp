@@ -55,22 +55,19 @@ void FlowLayout::setGeometry(const QRect& room) {
     lay(room, true);
 }
 
-/// Lays the rows, or only measures them. Returns the height that they need.
+/// Lays the rows, all of one height, or only measures them. Returns the height that they need.
 int FlowLayout::lay(const QRect& room, bool moves) const {
+    const int height = sizeHint().height();
     QPoint at = room.topLeft();
-    int rowHeight = 0;
     for (const auto& item : items_) {
-        const QSize size = item->sizeHint();
-        if (at.x() > room.x() && at.x() + size.width() > room.x() + room.width()) {
-            at = {room.x(), at.y() + rowHeight + kApart};
-            rowHeight = 0;
-        }
+        const int width = item->sizeHint().width();
+        if (at.x() > room.x() && at.x() + width > room.x() + room.width())
+            at = {room.x(), at.y() + height + kApart};
         if (moves)
-            item->setGeometry({at, size});
-        at.rx() += size.width() + kApart;
-        rowHeight = std::max(rowHeight, size.height());
+            item->setGeometry({at, QSize(width, height)});
+        at.rx() += width + kApart;
     }
-    return at.y() + rowHeight - room.y();
+    return at.y() + height - room.y();
 }
 
 } // namespace parabolt

@@ -7,6 +7,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -50,7 +51,7 @@ ImportDialog::ImportDialog(ImportReview& review, const QString& fileName, const 
     setLocale(QLocale::c());
     resize(kPreviewSize.boundedTo(screen()->availableSize() * 0.9));
     rows_ = new TableView(review, "importRows", "Rows of the file", this);
-    rows_->horizontalHeader()->setStretchLastSection(true);
+    rows_->viewport()->installEventFilter(this);
     device_->setAccessibleName("Device");
     clubsTitle_->setObjectName("importClubsTitle");
     clubsRoom_->setObjectName("importClubs");
@@ -138,7 +139,7 @@ void ImportDialog::addColumn(QGridLayout& cells, std::size_t column, const QStri
     for (const std::string& example : review_.examples(column)) {
         auto* cell = new QLabel(toQt(example));
         cell->setTextFormat(Qt::PlainText);
-        cell->setEnabled(false); // greyed: nothing to use
+        cell->setForegroundRole(QPalette::PlaceholderText); // nothing to use
         cells.addWidget(cell, line++, place);
     }
     connect(fields.quantity, &QComboBox::activated, this, [this, column] {
@@ -164,7 +165,7 @@ void ImportDialog::showChoice() {
         fields.unit->setEnabled(fields.unit->count() > 0);
 }
 
-/// The units in which a column may be, the program's own first.
+/// The units in which a column may be, with the likely one chosen.
 void ImportDialog::offerUnits(std::size_t column) {
     const ColumnFields& fields = columns_[column];
     fields.unit->clear();
@@ -173,8 +174,8 @@ void ImportDialog::offerUnits(std::size_t column) {
         const QuantityText& text = textOf(static_cast<Quantity>(meaning));
         for (const MeasuredUnit unit : text.units)
             fields.unit->addItem(toQt(nameOf(unit)), static_cast<int>(unit));
-        fields.unit->setCurrentIndex(
-            std::max(0, fields.unit->findData(static_cast<int>(text.unit))));
+        const MeasuredUnit likely = review_.likelyUnit(column, text.quantity);
+        fields.unit->setCurrentIndex(std::max(0, fields.unit->findData(static_cast<int>(likely))));
     }
     fields.unit->setEnabled(fields.unit->count() > 0);
 }
@@ -201,7 +202,23 @@ void ImportDialog::chooseColumns() {
     refresh();
 }
 
+bool ImportDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == rows_->viewport() && event->type() == QEvent::Resize)
+        fitNotes();
+    return QDialog::eventFilter(watched, event);
+}
+
+/// Gives the notes the room that is left, or, where they need more, all that.
+void ImportDialog::fitNotes() {
+    QHeaderView& headings = *rows_->horizontalHeader();
+    const int notes = headings.count() - 1;
+    const int left = rows_->viewport()->width() - headings.length() + headings.sectionSize(notes);
+    const QAbstractItemView& view = *rows_;
+    headings.resizeSection(notes, std::max(left, view.sizeHintForColumn(notes)));
+}
+
 void ImportDialog::refresh() {
+    fitNotes();
     device_->setText(toQt(review_.summary()));
     const std::size_t count = review_.preview().count();
     take_->setText(count == 1 ? "&Take 1 Shot" : QString("&Take %1 Shots").arg(count));

@@ -31,6 +31,9 @@ public:
     /// What the user said of texts that tell no club.
     ClubAnswers answers() const;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     /// What a column means.
     struct ColumnFields {
@@ -49,6 +52,7 @@ private:
     void offerUnits(std::size_t column);
     void chooseColumns();
     void refresh();
+    void fitNotes();
     void askForClubs();
 
     ImportReview& review_;

@@ -23,7 +23,7 @@
 namespace parabolt {
 namespace {
 
-constexpr QSize kUsualMeasuredSize{1280, 800};
+constexpr QSize kUsualMeasuredSize{1440, 860};
 constexpr auto kNoChart = "The carries of the clubs come here.";
 
 /// The calm air in which carries are normalised, field by field, with the limits of the main form.
@@ -161,7 +161,7 @@ QWidget* MeasuredWindow::head() {
     weather_->setToolTip("Weather in which the shots are flown. The file's counts where it brings "
                          "some; the rest is the main form's.");
     weather_->addItems({"of the main form", "of the file"});
-    row->addWidget(labelled("&Weather:", weather_));
+    row->addWidget(labelledGroup({{"&Weather:", weather_}}));
     return panel;
 }
 
@@ -173,7 +173,7 @@ QWidget* MeasuredWindow::choices() {
     row->addWidget(normalise_);
     for (const AirField& field : kAirFields) {
         air_.push_back(numberField(field.name, field.accessibleName, field.range));
-        row->addWidget(labelled(field.caption, air_.back()));
+        row->addWidget(labelledGroup({{field.caption, air_.back()}}));
         connect(air_.back(), &QDoubleSpinBox::valueChanged, this, &MeasuredWindow::takeAir);
     }
     connect(weather_, &QComboBox::activated, this, [this](int index) {

@@ -86,12 +86,13 @@ void addLabelled(QBoxLayout* row, const QString& text, QWidget* widget) {
     row->addWidget(widget);
 }
 
-QWidget* labelled(const QString& text, QWidget* widget) {
-    auto* both = new QWidget;
-    auto* row = new QHBoxLayout(both);
+QWidget* labelledGroup(std::initializer_list<std::pair<QString, QWidget*>> widgets) {
+    auto* group = new QWidget;
+    auto* row = new QHBoxLayout(group);
     row->setContentsMargins({});
-    addLabelled(row, text, widget);
-    return both;
+    for (const auto& [text, widget] : widgets)
+        addLabelled(row, text, widget);
+    return group;
 }
 
 QString withoutMnemonic(QString text) {

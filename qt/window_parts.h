@@ -2,6 +2,8 @@
 
 #include <QKeySequence>
 #include <QString>
+#include <initializer_list>
+#include <utility>
 
 class QAction;
 class QBoxLayout;
@@ -41,8 +43,8 @@ QDoubleSpinBox* numberField(const QString& name, const QString& accessibleName,
 
 /// Puts a widget into a row, behind a label whose underlined letter leads to it.
 void addLabelled(QBoxLayout* row, const QString& text, QWidget* widget);
-/// The same as a widget of its own, which no layout parts.
-QWidget* labelled(const QString& text, QWidget* widget);
+/// Labelled widgets side by side as one widget, which no layout parts.
+QWidget* labelledGroup(std::initializer_list<std::pair<QString, QWidget*>> widgets);
 
 /// A text in which no letter is underlined, whatever stands in it.
 QString withoutMnemonic(QString text);

@@ -225,7 +225,9 @@ TEST(ImportReview, AsksWhatNobodyKnowsAndRemembersIt) {
     ASSERT_EQ(shots.size(), 2U);
     EXPECT_NEAR(shots[0].ballSpeed, 111.85, 0.01); // 180 km/h
     EXPECT_NEAR(*shots[0].device.carry, 153.1, 0.05);
-    EXPECT_EQ(review->examples(3).size(), review->preview().rows.size());
+    EXPECT_EQ(review->examples(3), (Texts{"rpm", "6000", "6100"}));
+    EXPECT_EQ(review->likelyUnit(1, BallSpeed), MetresPerSecond);
+    EXPECT_EQ(review->likelyUnit(1, Time), Seconds);
     ColumnChoice twice = choice;
     twice.columns[4].quantity = BackSpin;
     review->choose(twice);

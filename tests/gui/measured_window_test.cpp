@@ -232,7 +232,9 @@ TEST_F(MeasuredWindowTest, ComparesAndLeavesOut) {
     find<QAction>("measuredToDataSets")->trigger();
     EXPECT_EQ(user.messages.texts.back(), "All ticked shots are left out.");
     table->selectAll();
-    QTest::keyClick(find<TableView>("measuredClubs"), Qt::Key_Delete);
+    find<TableView>("measuredClubs")->setFocus();
+    QTest::keyClick(&window, Qt::Key_Delete); // strikes nothing: it belongs to the other table
+    table->setFocus();
     QTest::keyClick(table, Qt::Key_Space);
     QTest::keyClick(table, Qt::Key_Space);
     find<QAction>("measuredToDataSets")->trigger();
@@ -299,6 +301,8 @@ TEST_F(MeasuredWindowTest, TheBagIsFlownAtAPress) {
     bag.findChild<QDoubleSpinBox*>("bagWidest")->setValue(5);
     EXPECT_EQ(fitting.session().bag.narrowest, 5);
     auto* number = bag.findChild<QDoubleSpinBox*>("bagNarrowest");
+    bag.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&bag));
     number->setFocus();
     user.files.choose(folder.path("keys.csv"));
     QTest::keyClick(number, Qt::Key_E, Qt::ControlModifier); // no end of a line: the command
