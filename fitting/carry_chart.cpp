@@ -20,6 +20,7 @@ constexpr double kGapToText = 80;
 constexpr double kTickLength = 70;
 constexpr double kAxisApart = 900; ///< between two numbers of the axis
 constexpr double kTallestLine = 640;
+constexpr double kLeastHalf = 10;    ///< yards to both sides, so that one carry alone has an axis
 constexpr double kRoomForText = 240; ///< of a line, so that all gaps can be written
 constexpr std::size_t kLongestName = 14;
 
@@ -85,11 +86,11 @@ public:
         lineHeight_ = std::min(height_ / static_cast<double>(order_.size()), kTallestLine);
         const auto [least, greatest] = std::minmax_element(yards.begin(), yards.end());
         const int most = std::max(2, static_cast<int>(width_ / kAxisApart));
-        step_ = roundStep(std::max(*greatest - *least, 1.0), most);
-        low_ = std::floor(*least / step_) * step_;
-        high_ = std::ceil(*greatest / step_) * step_;
-        if (low_ == high_)
-            high_ += step_;
+        const double middle = (*least + *greatest) / 2;
+        const double half = std::max((*greatest - *least) / 2, kLeastHalf);
+        step_ = roundStep(2 * half, most);
+        low_ = std::floor((middle - half) / step_) * step_;
+        high_ = std::ceil((middle + half) / step_) * step_;
     }
 
     void draw(std::span<const BagGap> gaps, const std::string& whose) {
@@ -196,7 +197,10 @@ private:
                         kMeasuredColour);
             x += 5 * kGapToText;
             pen(ink_);
-            canvas_.label({x, kMiddle}, whose + ": mean \u00b1 SD, least to greatest", {0, 0.5});
+            const std::string meaning = ": mean \u00b1 SD, least to greatest";
+            const double room = left_ + width_ + kRight - x;
+            const bool fits = static_cast<double>((whose + meaning).size()) * kLetter < room;
+            canvas_.label({x, kMiddle}, fits ? whose + meaning : whose, {0, 0.5});
         }
     }
 
