@@ -16,6 +16,7 @@ constexpr double kAbove = 420;
 constexpr double kBelow = 640;
 constexpr double kRight = 500;
 constexpr double kLetter = 110;
+constexpr double kMeanLetter = 85; ///< in a sentence
 constexpr double kGapToText = 80;
 constexpr double kTickLength = 70;
 constexpr double kAxisApart = 900; ///< between two numbers of the axis
@@ -199,7 +200,8 @@ private:
             pen(ink_);
             const std::string meaning = ": mean \u00b1 SD, least to greatest";
             const double room = left_ + width_ + kRight - x;
-            const bool fits = static_cast<double>((whose + meaning).size()) * kLetter < room;
+            const bool fits =
+                static_cast<double>(characterCount(whose + meaning)) * kMeanLetter < room;
             canvas_.label({x, kMiddle}, fits ? whose + meaning : whose, {0, 0.5});
         }
     }

@@ -31,9 +31,9 @@ void nameNewest(RunBook& book, const std::string& name) {
 
 SeriesReport runOnForm(MainForm& form, ShotEntry& entry, std::span<const NamedShot> shots) {
     SeriesReport report{shots.size(), 0, {}};
-    const auto missing = [&report](const std::string& why) {
+    const auto missing = [&report](const std::string& why, const std::string& name = {}) {
         if (report.why.empty())
-            report.why = why;
+            report.why = name.empty() ? why : name + ": " + why;
     };
     std::optional<ShotInputs> own;
     for (const auto& [name, shot] : shots) {
@@ -42,7 +42,7 @@ SeriesReport runOnForm(MainForm& form, ShotEntry& entry, std::span<const NamedSh
             break;
         }
         if (const std::string why = whyNotRun(entry, shot); !why.empty()) {
-            missing(name + ": " + why);
+            missing(why, name);
             continue;
         }
         if (!entry.enterLaunch(shot)) {

@@ -244,7 +244,7 @@ bool isSoundSession(const MeasuredSession& session) {
                        [&](const BagClub& club) { return isOfSet(club.club); });
 }
 
-std::string textOf(const MeasuredJson& json) {
+std::string dumped(const MeasuredJson& json) {
     return json.dump(-1, ' ', false, MeasuredJson::error_handler_t::replace);
 }
 
@@ -261,7 +261,7 @@ std::vector<std::string> encodeShots(const MeasuredSession& session) {
         MeasuredShot shot = entry.shot;
         MeasuredWriter writer;
         list(writer, shot);
-        shots.push_back(textOf(writer.object));
+        shots.push_back(dumped(writer.object));
     }
     return shots;
 }
@@ -270,7 +270,7 @@ std::string encodeMeasured(const MeasuredSession& session, std::span<const std::
     MeasuredSession rest = session;
     MeasuredWriter writer;
     listRest(writer, rest);
-    std::string text = textOf(writer.object);
+    std::string text = dumped(writer.object);
     text.back() = ','; // the brace: the entries follow, put together from texts
     text += "\"entries\":[";
     for (std::size_t i = 0; i < shots.size(); ++i) {
