@@ -108,7 +108,7 @@ BagWindow::BagWindow(frmMain& logic, Fitting& fitting, const FormServices& servi
 
 BagWindow::~BagWindow() {
     if (isVisible())
-        remember();
+        BagWindow::remember();  // whose parts are still there
     delete takeCentralWidget(); // its tables read what goes before it otherwise
 }
 

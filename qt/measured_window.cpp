@@ -103,8 +103,8 @@ MeasuredWindow::MeasuredWindow(frmMain& logic, Fitting& fitting, const FormServi
 
 MeasuredWindow::~MeasuredWindow() {
     if (isVisible())
-        remember();
-    delete takeCentralWidget(); // its tables read what goes before it otherwise
+        MeasuredWindow::remember(); // whose parts are still there
+    delete takeCentralWidget();     // its tables read what goes before it otherwise
 }
 
 void MeasuredWindow::buildCommands() {
