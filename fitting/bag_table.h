@@ -1,5 +1,6 @@
 #pragma once
 
+#include "fitting/carry_chart.h"
 #include "fitting/fitting.h"
 #include "tables/table_source.h"
 
@@ -9,19 +10,22 @@ namespace parabolt {
 /// means of the measured shots beside them.
 class BagTable : public TableSource {
 public:
-    explicit BagTable(Fitting& fitting) : fitting_(fitting) {}
+    /// The club set must outlive the table.
+    BagTable(Fitting& fitting, const ClubTables& tables);
 
     /// Flies the clubs owned, in the weather and with the ball of the conditions.
-    void fly(const ClubTables& tables, const Shot& conditions);
+    void fly(const Shot& conditions);
     bool isFlown() const { return flown_.has_value(); }
     /// True if the flights are those that flying now would give.
-    bool isCurrent(const ClubTables& tables, const Shot& conditions) const;
-    /// The session has changed: the gaps by its limits, the means of its shots beside the flights.
+    bool isCurrent(const Shot& conditions) const;
+    /// The session has changed: the gaps by its limits, the means of its shots.
     void refresh();
 
-    std::span<const BagFlight> flights() const { return flights_; }
-    std::span<const BagGap> gaps() const { return gaps_; }
-    const std::string& nameOf(const BagFlight& flight) const;
+    /// The clubs for a chart, a line for each row; one without figures for a club that isn't flown
+    /// and that isn't owned or wasn't measured.
+    std::vector<CarryLine> carryLines() const;
+    /// Gaps between rows: of the computed carries, or, before the bag was flown, of the measured.
+    std::span<const BagGap> gaps() const { return isFlown() ? gaps_ : measuredGaps_; }
     /// What the gaps say, in words, and which measured clubs are none of the bag.
     std::string summary() const;
 
@@ -42,12 +46,17 @@ private:
     };
     static BagChoice decisive(BagChoice bag);
     const BagFlight* flightOf(std::size_t row) const;
-    const BagGap* gapBehind(const BagFlight& flight) const;
+    const std::string& nameOf(std::size_t row) const {
+        return fitting_.session().bag.clubs[row].name;
+    }
+    std::string verdictOn(std::span<const BagGap> gaps) const;
 
     Fitting& fitting_;
+    const ClubTables& tables_;
     std::vector<BagFlight> flights_;
-    std::vector<BagGap> gaps_;
-    std::vector<std::string> strangers_; ///< measured clubs that are none of the bag
+    MeasuredBag measured_;
+    std::vector<BagGap> gaps_;         ///< of the computed carries, between rows
+    std::vector<BagGap> measuredGaps_; ///< of the means that were measured with the clubs owned
     std::optional<Flown> flown_;
 };
 

@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace parabolt {
 namespace {
@@ -17,10 +16,12 @@ constexpr double kAbove = 420;
 constexpr double kBelow = 640;
 constexpr double kRight = 500;
 constexpr double kLetter = 110;
+constexpr double kMeanLetter = 85; ///< in a sentence
 constexpr double kGapToText = 80;
 constexpr double kTickLength = 70;
 constexpr double kAxisApart = 900; ///< between two numbers of the axis
 constexpr double kTallestLine = 640;
+constexpr double kLeastHalf = 10;    ///< yards to both sides, so that one carry alone has an axis
 constexpr double kRoomForText = 240; ///< of a line, so that all gaps can be written
 constexpr std::size_t kLongestName = 14;
 
@@ -70,26 +71,27 @@ public:
                 const std::vector<double>& yards)
         : canvas_(canvas),
           lines_(lines),
-          ink_(canvas.foreColor()),
-          order_(lines.size()) {
-        std::iota(order_.begin(), order_.end(), std::size_t{0});
+          ink_(canvas.foreColor()) {
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            if (lines[i].computed || lines[i].measured)
+                order_.push_back(i);
         std::stable_sort(order_.begin(), order_.end(), [&](std::size_t a, std::size_t b) {
             return placeOfLine(lines[a]) > placeOfLine(lines[b]);
         });
         std::size_t longest = 4;
-        for (const CarryLine& line : lines)
-            longest = std::max(longest, characterCount(shortName(line.name)));
+        for (const std::size_t line : order_)
+            longest = std::max(longest, characterCount(shortName(lines[line].name)));
         left_ = static_cast<double>(longest) * kLetter + 2 * kGapToText;
         width_ = std::max(canvas.geometry().width - left_ - kRight, kAxisApart);
         height_ = std::max(canvas.geometry().height - kAbove - kBelow, kAxisApart);
-        lineHeight_ = std::min(height_ / static_cast<double>(lines.size()), kTallestLine);
+        lineHeight_ = std::min(height_ / static_cast<double>(order_.size()), kTallestLine);
         const auto [least, greatest] = std::minmax_element(yards.begin(), yards.end());
         const int most = std::max(2, static_cast<int>(width_ / kAxisApart));
-        step_ = roundStep(std::max(*greatest - *least, 1.0), most);
-        low_ = std::floor(*least / step_) * step_;
-        high_ = std::ceil(*greatest / step_) * step_;
-        if (low_ == high_)
-            high_ += step_;
+        const double middle = (*least + *greatest) / 2;
+        const double half = std::max((*greatest - *least) / 2, kLeastHalf);
+        step_ = roundStep(2 * half, most);
+        low_ = std::floor((middle - half) / step_) * step_;
+        high_ = std::ceil((middle + half) / step_) * step_;
     }
 
     void draw(std::span<const BagGap> gaps, const std::string& whose) {
@@ -161,18 +163,13 @@ private:
         const double from = across(placeOfLine(lines_[gap.shorter]));
         const double to = across(placeOfLine(lines_[gap.longer]));
         const bool good = gap.kind == BagGap::Kind::Good;
-        pen(good                                  ? kQuiet
-            : gap.kind == BagGap::Kind::TooNarrow ? kNarrowColour
-                                                  : kWideColour,
-            good ? 1 : 3);
+        pen(gapColour(gap.kind).value_or(kQuiet), good ? 1 : 3);
         canvas_.line({from, y}, {to, y});
         if (good && lineHeight_ < kRoomForText)
             return;
-        const std::string word = good                                  ? ""
-                                 : gap.kind == BagGap::Kind::TooNarrow ? " narrow"
-                                                                       : " wide";
         pen(ink_);
-        const std::string text = formatPattern(gap.yards, "0.0") + word;
+        const std::string text =
+            formatPattern(gap.yards, "0.0") + (good ? "" : " " + std::string(gapWord(gap.kind)));
         // Beside the line: at its right where that leaves room, else at its left.
         const double room = static_cast<double>(text.size()) * kLetter;
         if (to + kGapToText + room < left_ + width_ + kRight)
@@ -201,14 +198,18 @@ private:
                         kMeasuredColour);
             x += 5 * kGapToText;
             pen(ink_);
-            canvas_.label({x, kMiddle}, whose + ": mean \u00b1 SD, least to greatest", {0, 0.5});
+            const std::string meaning = ": mean \u00b1 SD, least to greatest";
+            const double room = left_ + width_ + kRight - x;
+            const bool fits =
+                static_cast<double>(characterCount(whose + meaning)) * kMeanLetter < room;
+            canvas_.label({x, kMiddle}, fits ? whose + meaning : whose, {0, 0.5});
         }
     }
 
     PictureBox& canvas_;
     std::span<const CarryLine> lines_;
     Rgb ink_;
-    std::vector<std::size_t> order_; ///< of the lines, the longest carry first
+    std::vector<std::size_t> order_; ///< of the lines with figures, the longest carry first
     double left_ = 0;
     double width_ = 0;
     double height_ = 0;
@@ -219,6 +220,28 @@ private:
 };
 
 } // namespace
+
+std::string_view gapWord(BagGap::Kind kind) {
+    switch (kind) {
+    case BagGap::Kind::TooNarrow:
+        return "narrow";
+    case BagGap::Kind::TooWide:
+        return "wide";
+    default:
+        return "good";
+    }
+}
+
+std::optional<Rgb> gapColour(BagGap::Kind kind) {
+    switch (kind) {
+    case BagGap::Kind::TooNarrow:
+        return kNarrowColour;
+    case BagGap::Kind::TooWide:
+        return kWideColour;
+    default:
+        return std::nullopt;
+    }
+}
 
 void drawCarries(PictureBox& canvas, std::span<const CarryLine> lines, std::span<const BagGap> gaps,
                  std::string_view whose, std::string_view none) {

@@ -20,9 +20,12 @@ Shot conditionsOf(const Shot& shot) {
 std::optional<ComparisonResult> computeComparison(const ComparisonRequest& request,
                                                   const std::stop_token& stop) {
     ComparisonResult result;
-    result.flights = flyMeasured(*request.shots, request.conditions, request.ownAir, stop);
+    result.flights = request.flown;
+    if (result.flights == nullptr)
+        result.flights = std::make_shared<const std::vector<ModelFlight>>(
+            flyMeasured(*request.shots, request.conditions, request.ownAir, stop));
     if (request.air && !stop.stop_requested())
-        result.normalised = normalisedCarries(*request.shots, result.flights, request.conditions,
+        result.normalised = normalisedCarries(*request.shots, *result.flights, request.conditions,
                                               *request.air, stop);
     if (stop.stop_requested())
         return std::nullopt;
@@ -32,8 +35,7 @@ std::optional<ComparisonResult> computeComparison(const ComparisonRequest& reque
 bool Comparison::follow(const Shot& conditions) {
     const MeasuredSession& session = fitting_.session();
     ComparisonRequest request = request_;
-    const bool otherShots = request.shots == nullptr || shotsNumber_ != fitting_.shotsNumber();
-    if (otherShots) {
+    if (request.shots == nullptr || !isOfTheseShots()) {
         std::vector<MeasuredShot> shots;
         shots.reserve(session.entries.size());
         for (const MeasuredEntry& entry : session.entries)
@@ -44,9 +46,15 @@ bool Comparison::follow(const Shot& conditions) {
     }
     request.conditions = conditionsOf(conditions);
     request.ownAir = session.ownAir;
+    request.air = request_.air;
+    const bool fliesAnew = request != request_;
     request.air = session.normalise ? std::optional(session.air) : std::nullopt;
-    if (!otherShots && request == request_)
+    if (request == request_)
         return false;
+    if (fliesAnew)
+        request.flown = nullptr;
+    else if (isCurrent())
+        request.flown = result_.flights;
     request_ = std::move(request);
     ++generation_;
     return true;
@@ -58,6 +66,18 @@ bool Comparison::accept(ComparisonResult result, std::uint64_t generation) {
     result_ = std::move(result);
     accepted_ = generation;
     return true;
+}
+
+std::span<const ModelFlight> Comparison::flights() const {
+    if (result_.flights == nullptr || !isOfTheseShots())
+        return {};
+    return *result_.flights;
+}
+
+std::span<const std::optional<double>> Comparison::normalised() const {
+    if (!isOfTheseShots())
+        return {};
+    return result_.normalised;
 }
 
 std::vector<ClubStatistics> Comparison::clubs() const {

@@ -16,10 +16,12 @@ struct ComparisonRequest {
     Shot conditions; ///< of the main form
     bool ownAir = false;
     std::optional<CalmAir> air; ///< in which carries are normalised, if they are
+    /// The flights, where they are known from before: the air for normalising changes none.
+    std::shared_ptr<const std::vector<ModelFlight>> flown;
     friend bool operator==(const ComparisonRequest&, const ComparisonRequest&) = default;
 };
 struct ComparisonResult {
-    std::vector<ModelFlight> flights;
+    std::shared_ptr<const std::vector<ModelFlight>> flights;
     std::vector<std::optional<double>> normalised; ///< yards; empty if nobody asked
 };
 /// Nothing once a stop is requested.
@@ -39,18 +41,21 @@ public:
     std::uint64_t generation() const { return generation_; }
     /// Takes a result; one of an older generation is left alone (false).
     bool accept(ComparisonResult result, std::uint64_t generation);
-    bool isCurrent() const { return accepted_ == generation_; }
+    /// True if what is known is what was asked for last, of the shots that are there now.
+    bool isCurrent() const { return accepted_ == generation_ && isOfTheseShots(); }
 
     /// A flight for each entry of the session; none while the first are being computed.
-    std::span<const ModelFlight> flights() const { return result_.flights; }
+    std::span<const ModelFlight> flights() const;
     /// A carry for each entry, yards, or none at all.
-    std::span<const std::optional<double>> normalised() const { return result_.normalised; }
+    std::span<const std::optional<double>> normalised() const;
     /// By club, of the shots that aren't struck through; none without flights.
     std::vector<ClubStatistics> clubs() const;
     /// How far the model's figure lies from the device's, over all shots that count and have both.
     std::optional<Spread> error(const ComparedFigure& figure) const;
 
 private:
+    bool isOfTheseShots() const { return shotsNumber_ == fitting_.shotsNumber(); }
+
     const Fitting& fitting_;
     ComparisonRequest request_;
     std::uint64_t shotsNumber_ = 0; ///< of the request

@@ -22,8 +22,9 @@ void Fitting::take(const ImportPreview& preview, const std::string& source,
     session_.device = preview.device;
     session_.computesCarry = preview.computesCarry;
     session_.entries.clear();
-    for (MeasuredShot& shot : preview.taken())
-        session_.entries.push_back({.shot = std::move(shot)});
+    for (const ImportRow& row : preview.rows)
+        if (row.taken)
+            session_.entries.push_back({.shot = row.shot, .struck = row.leftOut});
     for (const auto& [text, club] : answers)
         session_.answers[text] = club;
     ++shotsNumber_;
@@ -36,7 +37,11 @@ void Fitting::change(const std::function<void(MeasuredSession&)>& how) {
 }
 
 void Fitting::keep() {
-    kept_ = encodeMeasured(session_);
+    if (shotTextsNumber_ != shotsNumber_) {
+        shotTexts_ = encodeShots(session_);
+        shotTextsNumber_ = shotsNumber_;
+    }
+    kept_ = encodeMeasured(session_, shotTexts_);
     form_.windows[kMeasuredKey] = kept_;
     Changed();
 }

@@ -35,6 +35,8 @@ private:
     MeasuredSession session_;
     SharedText kept_; ///< what the desk last held of it
     std::uint64_t shotsNumber_ = 0;
+    std::vector<std::string> shotTexts_; ///< the shots as the text holds them
+    std::uint64_t shotTextsNumber_ = 0;  ///< of those shots
 };
 
 } // namespace parabolt

@@ -1,10 +1,11 @@
 #include "fitting/import_review.h"
 
 #include "exchange/shot_columns.h"
-#include "numbers/text_number.h"
+#include "measured/columns.h"
 
 #include <algorithm>
 #include <array>
+#include <set>
 
 namespace parabolt {
 namespace {
@@ -101,6 +102,8 @@ Outcome<ImportReview, ImportFault> ImportReview::open(std::string_view bytes,
         return recognises(choice, review.file_);
     });
     review.choose(known == remembered.end() ? guessedChoice(review.file_) : *known);
+    if (known != remembered.end())
+        review.remembered_ = review.choice_;
     return review;
 }
 
@@ -122,11 +125,42 @@ std::vector<std::string> ImportReview::columnTitles() const {
     return titles;
 }
 
+std::vector<std::string> ImportReview::examples(std::size_t column) const {
+    constexpr std::size_t kExamples = 3;
+    std::vector<std::string> cells;
+    for (const CsvRow& row : exampleRows(file_, kExamples))
+        cells.push_back(column < row.cells.size() ? row.cells[column] : std::string());
+    return cells;
+}
+
+MeasuredUnit ImportReview::likelyUnit(std::size_t column, Quantity quantity) const {
+    auto texts = examples(column);
+    if (column < headings_.size())
+        texts.push_back(headingParts(headings_[column]).unit);
+    for (const std::string& text : texts)
+        if (const auto unit = unitNamed(text); unit && suits(*unit, quantity))
+            return *unit;
+    return textOf(quantity).unit;
+}
+
+std::optional<Quantity> ImportReview::chosenTwice() const {
+    std::set<Quantity> met;
+    for (const ChosenColumn& column : choice_.columns)
+        if (!met.insert(column.quantity).second)
+            return column.quantity;
+    return std::nullopt;
+}
+
 std::string ImportReview::summary() const {
     const std::string count = std::to_string(preview_.count()) + " of " +
                               std::to_string(preview_.rows.size()) + " rows will be taken.";
     if (device_ != nullptr)
         return "Recognised as " + preview_.device + ": " + count;
+    if (const auto twice = chosenTwice())
+        return "Two columns are chosen as " + std::string(textOf(*twice).name) +
+               ". Nothing can be taken until each meaning has one column.";
+    if (!choice_.columns.empty() && choice_ == remembered_)
+        return "Columns as you chose them last time: " + count;
     return "No known launch monitor writes such headings. Choose what the columns mean: " + count;
 }
 

@@ -37,10 +37,17 @@ public:
     const ColumnChoice& choice() const { return choice_; }
     /// Columns of such a file, each by its heading, or by its number and an example.
     std::vector<std::string> columnTitles() const;
+    /// The cells of a column in the first rows below the headings, for whoever chooses.
+    std::vector<std::string> examples(std::size_t column) const;
+    /// The unit that such a column tells for a quantity, by its heading or below it; otherwise the
+    /// program's own.
+    MeasuredUnit likelyUnit(std::size_t column, Quantity quantity) const;
     /// Has another look at the file, by what its columns mean; those of which nothing is said mean
     /// nothing. Headings are those of the file.
     void choose(ColumnChoice choice);
-    /// "Recognised as SkyTrak: 41 of 44 rows can be taken."
+    /// False if there is nothing to take, or if two columns are said to mean the same.
+    bool canBeTaken() const { return preview_.count() > 0 && !chosenTwice(); }
+    /// "Recognised as SkyTrak: 41 of 44 rows will be taken."
     std::string summary() const;
 
     /// Texts of the clubs of the shots to be taken that tell no club of the set, each once.
@@ -55,10 +62,13 @@ public:
 
 private:
     ImportReview() = default;
+    /// What two columns are said to mean, if so.
+    std::optional<Quantity> chosenTwice() const;
 
     ShotFile file_;
     const Device* device_ = nullptr;
     ColumnChoice choice_;
+    ColumnChoice remembered_; ///< the choice of last time; without columns if there was none
     std::vector<std::string> headings_; ///< none if no row has texts
     ImportPreview preview_;
 };

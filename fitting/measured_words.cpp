@@ -60,8 +60,11 @@ std::string sourceInWords(const MeasuredSession& session) {
 std::string comparisonInWords(const MeasuredSession& session, const Comparison& comparison) {
     if (session.entries.empty())
         return {};
-    if (comparison.flights().size() != session.entries.size())
+    if (!comparison.isCurrent())
         return "The flights are being computed.";
+    if (std::all_of(session.entries.begin(), session.entries.end(),
+                    [](const MeasuredEntry& entry) { return entry.struck; }))
+        return "All shots are left out.";
     std::string words;
     std::size_t shots = 0;
     for (const ComparedFigure& figure : comparedFigures()) {
@@ -70,7 +73,8 @@ std::string comparisonInWords(const MeasuredSession& session, const Comparison& 
             continue;
         if (words.empty()) {
             shots = error->number;
-            words = "Model less device, mean of " + counted(shots, "shot") + ": ";
+            words = "Model less " + lowerCase(figuresHeading(session.computesCarry)) +
+                    ", mean of " + counted(shots, "shot") + ": ";
         } else {
             words += "; ";
         }

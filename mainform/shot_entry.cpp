@@ -87,6 +87,15 @@ bool ShotEntry::enterAir(const ShotInputs& shot) {
     return true;
 }
 
+std::string_view ShotEntry::whyNoLaunch(const ShotInputs& shot) const {
+    for (const Fields& fields : {Fields(Field::kLaunch), Fields(Field::kWeather)})
+        for (const Field& field : fields)
+            if (const auto why = validators_.whyRefused(form_.*field.field, field.of(shot));
+                !why.empty())
+                return why;
+    return {};
+}
+
 bool ShotEntry::enter(OperatingMode::Number mode, Fields fields, const ShotInputs& shot) {
     if (!ready(fields, shot))
         return false;

@@ -27,6 +27,9 @@ public:
     bool enterShot(const Shot& shot);
     /// Weather and altitude of a shot; the mode stays.
     bool enterAir(const ShotInputs& shot);
+    /// What the user would be told if a field refused its value of a shot's launch or weather;
+    /// empty if all accept theirs.
+    std::string_view whyNoLaunch(const ShotInputs& shot) const;
 
 private:
     struct Field;

@@ -57,13 +57,18 @@ void Validators::validate(const TextBox& field) {
             judge(rule);
 }
 
-bool Validators::accepts(const TextBox& field, double value) {
+std::string_view Validators::whyRefused(const TextBox& field, double value) const {
     for (const FieldRule& rule : kFieldRules)
-        if (&(form_.*rule.field) == &field && !rule.hold(value)) {
-            messages_.show(rule.rangeMessage);
-            return false;
-        }
-    return true;
+        if (&(form_.*rule.field) == &field && !rule.hold(value))
+            return rule.rangeMessage;
+    return {};
+}
+
+bool Validators::accepts(const TextBox& field, double value) {
+    const std::string_view why = whyRefused(field, value);
+    if (!why.empty())
+        messages_.show(why);
+    return why.empty();
 }
 
 void Validators::judge(const FieldRule& rule) {

@@ -28,6 +28,8 @@ public:
 
     /// Judges a field now. A disabled field can't keep the focus; all else holds for it too.
     void validate(const TextBox& field);
+    /// What the user is told of a value that a field refuses; empty for one that it accepts.
+    std::string_view whyRefused(const TextBox& field, double value) const;
     /// True if a field would accept a value; tells the user otherwise, and nothing else happens.
     bool accepts(const TextBox& field, double value);
 

@@ -4,6 +4,7 @@
 #include "shots/fly.h"
 
 #include <algorithm>
+#include <map>
 #include <numeric>
 
 namespace parabolt {
@@ -33,6 +34,20 @@ Shot swingWith(ClubId club, const BagChoice& choice, const ClubTables& tables,
     shot.Mode = OperatingMode::Auto;
     shot.sources = {.club = record, .wholeRecord = true, .measuredLaunchAngle = std::nullopt};
     return shot;
+}
+
+/// The club of the bag that a text means, one that is owned first; behind the last if it is none.
+std::size_t placeInBag(const BagChoice& choice, const std::string& text, const ClubTables& tables,
+                       const ClubAnswers& answers) {
+    const auto club = clubNamed(text, tables, answers);
+    const auto find = [&](bool ownedAlone) {
+        return std::find_if(choice.clubs.begin(), choice.clubs.end(), [&](const BagClub& other) {
+            return (other.owned || !ownedAlone) && (other.name == text || other.club == club);
+        });
+    };
+    const auto owned = find(true);
+    const auto found = owned == choice.clubs.end() ? find(false) : owned;
+    return static_cast<std::size_t>(found - choice.clubs.begin());
 }
 
 BagGap::Kind kindOf(double yards, double narrowest, double widest) {
@@ -68,39 +83,35 @@ std::vector<BagFlight> flyBag(const BagChoice& choice, const ClubTables& tables,
     return flights;
 }
 
-std::vector<std::string> putBeside(std::span<BagFlight> flights, const BagChoice& choice,
-                                   std::span<const MeasuredEntry> entries, const ClubTables& tables,
-                                   const ClubAnswers& answers) {
+MeasuredBag measuredBag(const BagChoice& choice, std::span<const MeasuredEntry> entries,
+                        const ClubTables& tables, const ClubAnswers& answers) {
     struct Carries {
         std::vector<double> carry;
         std::vector<double> total;
     };
-    std::vector<Carries> measured(flights.size());
-    std::vector<std::string> unknown;
+    std::vector<Carries> measured(choice.clubs.size());
+    MeasuredBag bag;
+    std::map<std::string, std::size_t> places; // of the texts met so far
     for (const MeasuredEntry& entry : entries) {
         if (entry.struck)
             continue;
-        const auto club = clubNamed(entry.shot.club, tables, answers);
-        const auto flight = std::find_if(flights.begin(), flights.end(), [&](const auto& other) {
-            const BagClub& owned = choice.clubs[other.at];
-            return owned.name == entry.shot.club || owned.club == club;
-        });
-        if (flight == flights.end()) {
-            if (std::find(unknown.begin(), unknown.end(), entry.shot.club) == unknown.end())
-                unknown.push_back(entry.shot.club);
-            continue;
+        const auto [known, isNew] = places.try_emplace(entry.shot.club, choice.clubs.size());
+        if (isNew) {
+            known->second = placeInBag(choice, entry.shot.club, tables, answers);
+            if (known->second == choice.clubs.size() || !choice.clubs[known->second].owned)
+                bag.strangers.push_back(entry.shot.club);
         }
-        Carries& carries = measured[static_cast<std::size_t>(flight - flights.begin())];
+        if (known->second == choice.clubs.size())
+            continue;
+        Carries& carries = measured[known->second];
         if (entry.shot.device.carry)
             carries.carry.push_back(*entry.shot.device.carry);
         if (entry.shot.device.total)
             carries.total.push_back(*entry.shot.device.total);
     }
-    for (std::size_t number = 0; number < flights.size(); ++number) {
-        flights[number].measuredCarry = spreadOf(measured[number].carry);
-        flights[number].measuredTotal = spreadOf(measured[number].total);
-    }
-    return unknown;
+    for (const Carries& carries : measured)
+        bag.clubs.push_back({spreadOf(carries.carry), spreadOf(carries.total)});
+    return bag;
 }
 
 std::vector<BagGap> gapsBetween(std::span<const double> carries, double narrowest, double widest) {

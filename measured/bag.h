@@ -32,13 +32,11 @@ struct BagChoice {
 /// The usual names, and fourteen clubs owned: as many as the rules allow.
 BagChoice usualBag();
 
-/// A club's flight, beside what was measured with it.
+/// A club's flight.
 struct BagFlight {
     std::size_t at = 0;  ///< the club in the choice
     float headSpeed = 0; ///< mph, as flown
     ModelFlight flight;
-    std::optional<Spread> measuredCarry; ///< yards, of the device
-    std::optional<Spread> measuredTotal;
     /// The carry by which gaps are told: the model's.
     double carry() const { return flight.figures.carry; }
 };
@@ -48,11 +46,19 @@ struct BagFlight {
 std::vector<BagFlight> flyBag(const BagChoice& choice, const ClubTables& tables,
                               const Shot& conditions);
 
-/// Puts the means of measured shots beside the flights: all clubs of the statistics that are the
-/// same club of the bag count together. Returns the names of those that are no club of the bag.
-std::vector<std::string> putBeside(std::span<BagFlight> flights, const BagChoice& choice,
-                                   std::span<const MeasuredEntry> entries, const ClubTables& tables,
-                                   const ClubAnswers& answers);
+/// What was measured with a club of the bag, in short, by the device's figures.
+struct BagMeasured {
+    std::optional<Spread> carry; ///< yards
+    std::optional<Spread> total; ///< yards
+};
+struct MeasuredBag {
+    std::vector<BagMeasured> clubs;     ///< for each club of the choice
+    std::vector<std::string> strangers; ///< clubs as measured that are none of those owned
+};
+/// The measured shots that count, by the clubs of the bag, owned or not: all shots with the name of
+/// a club, or with a text that means it, count together.
+MeasuredBag measuredBag(const BagChoice& choice, std::span<const MeasuredEntry> entries,
+                        const ClubTables& tables, const ClubAnswers& answers);
 
 /// The distance between two neighbours in carry.
 struct BagGap {

@@ -2,7 +2,6 @@
 
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
-#include "shots/run_book.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,15 +20,15 @@ std::vector<ClubShots> shotsByClub(std::span<const MeasuredEntry> entries) {
     std::vector<ClubShots> clubs;
     for (std::size_t number = 0; number < entries.size(); ++number) {
         const MeasuredEntry& entry = entries[number];
-        if (entry.struck)
-            continue;
         auto club = std::find_if(clubs.begin(), clubs.end(), [&entry](const ClubShots& shots) {
             return shots.club == entry.shot.club;
         });
         if (club == clubs.end())
             club = clubs.insert(clubs.end(), {entry.shot.club, {}});
-        club->entries.push_back(number);
+        if (!entry.struck)
+            club->entries.push_back(number);
     }
+    std::erase_if(clubs, [](const ClubShots& club) { return club.entries.empty(); });
     return clubs;
 }
 
@@ -52,7 +51,10 @@ Shot forFields(Shot shot) {
     return shot;
 }
 
-constexpr std::size_t kMostDataSets = RunBook::kMost;
+/// Club and what is behind it; that alone where no club is told.
+std::string nameWith(const std::string& club, const std::string& rest) {
+    return club.empty() ? rest : club + ", " + rest;
+}
 
 } // namespace
 
@@ -106,28 +108,28 @@ std::vector<ClubStatistics> clubStatistics(std::span<const MeasuredEntry> entrie
     return statistics;
 }
 
-std::vector<Shot> checkedShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
-                               bool ownAir) {
-    std::vector<Shot> shots;
-    for (const MeasuredEntry& entry : entries)
-        if (entry.checked && !entry.struck && shots.size() < kMostDataSets)
-            shots.push_back(forFields(shotOf(entry.shot, conditions, ownAir)));
+std::vector<NamedShot> checkedShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
+                                    bool ownAir) {
+    std::vector<NamedShot> shots;
+    for (const auto& [shot, struck, checked] : entries)
+        if (checked && !struck)
+            shots.push_back({nameWith(shot.club, "line " + std::to_string(shot.line)),
+                             forFields(shotOf(shot, conditions, ownAir))});
     return shots;
 }
 
-std::vector<Shot> meanShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
-                            bool ownAir) {
-    std::vector<Shot> shots;
+std::vector<NamedShot> meanShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
+                                 bool ownAir) {
+    std::vector<NamedShot> shots;
     for (const ClubShots& club : shotsByClub(entries)) {
-        if (shots.size() == kMostDataSets)
-            break;
         MeasuredShot mean = entries[club.entries.front()].shot;
         for (const LaunchLimit& limit : launchLimits())
             mean.*limit.measured =
                 store32(spreadOver(club, [&](std::size_t entry) {
                             return std::optional<double>(entries[entry].shot.*limit.measured);
                         })->mean);
-        shots.push_back(forFields(shotOf(mean, conditions, ownAir)));
+        shots.push_back({nameWith(club.club, "mean of " + std::to_string(club.entries.size())),
+                         forFields(shotOf(mean, conditions, ownAir))});
     }
     return shots;
 }

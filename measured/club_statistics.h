@@ -40,19 +40,23 @@ struct ClubStatistics {
     std::optional<Spread> normalisedCarry;
 };
 
-/// By club, in the order in which the clubs first come. `flown` holds a flight for each entry;
-/// `normalised` a carry for each, or is empty.
+/// By club, in the order in which the clubs first come, be it with a struck shot. `flown` holds a
+/// flight for each entry; `normalised` a carry for each, or is empty.
 std::vector<ClubStatistics> clubStatistics(std::span<const MeasuredEntry> entries,
                                            std::span<const ModelFlight> flown,
                                            std::span<const std::optional<double>> normalised = {});
 
-/// The checked shots that aren't struck, as shots for data sets, with the values that the fields of
-/// the main form hold: at most as many as a book holds.
-std::vector<Shot> checkedShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
-                               bool ownAir);
-/// The same of the mean launch of each club, in the order of `clubStatistics`. With its own air, it
-/// flies in that of the club's first shot.
-std::vector<Shot> meanShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
-                            bool ownAir);
+/// A shot for a data set, and the name of that: "7i, line 12".
+struct NamedShot {
+    std::string name;
+    Shot shot;
+};
+/// The checked shots that aren't struck, with the values that the fields of the main form hold.
+std::vector<NamedShot> checkedShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
+                                    bool ownAir);
+/// The same of the mean launch of each club, "7i, mean of 5", in the order of `clubStatistics`.
+/// With its own air, it flies in that of the club's first shot.
+std::vector<NamedShot> meanShots(std::span<const MeasuredEntry> entries, const Shot& conditions,
+                                 bool ownAir);
 
 } // namespace parabolt

@@ -131,4 +131,12 @@ std::vector<std::string> guessedHeadings(const ShotFile& file) {
     return row != nullptr ? row->cells : std::vector<std::string>();
 }
 
+std::span<const CsvRow> exampleRows(const ShotFile& file, std::size_t most) {
+    const CsvRow* row = headingRow(file);
+    const std::span rows(file.rows);
+    const auto below = rows.subspan(
+        row != nullptr ? static_cast<std::size_t>(row - file.rows.data()) + 1 : std::size_t{0});
+    return below.first(std::min(below.size(), most));
+}
+
 } // namespace parabolt

@@ -175,7 +175,7 @@ constexpr std::array<std::string_view, 3> kOwnMarks = {
 constexpr std::array<std::string_view, 4> kOwnMeasuredMarks = {
     shot_columns::kBallSpeed, shot_columns::kLaunchAngle, shot_columns::kSpin,
     "Measured carry [yd]"};
-constexpr std::array<DeviceColumn, 24> kOwnColumns = {{
+constexpr std::array<DeviceColumn, 25> kOwnColumns = {{
     {shot_columns::kClub, Quantity::Club, None},
     {shot_columns::kBallSpeed, Quantity::BallSpeed, Mph},
     {shot_columns::kLaunchAngle, Quantity::LaunchAngle, Degrees},
@@ -200,6 +200,7 @@ constexpr std::array<DeviceColumn, 24> kOwnColumns = {{
     {"Device height [yd]", Quantity::Height, Yards},
     {"Device landing angle [deg]", Quantity::LandingAngle, Degrees},
     {"Device time [s]", Quantity::Time, Seconds},
+    {"Out", Quantity::LeftOut, None},
 }};
 
 // name, computes its carry, marks, columns. Where the marks of one are among those of another, the

@@ -63,5 +63,7 @@ bool recognises(const ColumnChoice& choice, const ShotFile& file);
 ColumnChoice guessedChoice(const ShotFile& file);
 /// The cells of the row of headings, as they stand there; empty if the file has no row of texts.
 std::vector<std::string> guessedHeadings(const ShotFile& file);
+/// The rows below it, or the first ones of a file without it, to choose by: so many at the most.
+std::span<const CsvRow> exampleRows(const ShotFile& file, std::size_t most);
 
 } // namespace parabolt

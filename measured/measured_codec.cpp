@@ -53,13 +53,6 @@ void list(Archive& archive, MeasuredShot& shot) {
 }
 
 template <class Archive>
-void list(Archive& archive, MeasuredEntry& entry) {
-    archive("shot", entry.shot);
-    archive("struck", entry.struck);
-    archive("checked", entry.checked);
-}
-
-template <class Archive>
 void list(Archive& archive, CalmAir& air) {
     archive("altitude", air.altitude);
     archive("temperature", air.temperature);
@@ -84,12 +77,12 @@ void list(Archive& archive, BagChoice& bag) {
     archive("widest", bag.widest);
 }
 
+/// All but the entries.
 template <class Archive>
-void list(Archive& archive, MeasuredSession& session) {
+void listRest(Archive& archive, MeasuredSession& session) {
     archive("source", session.source);
     archive("device", session.device);
     archive("computesCarry", session.computesCarry);
-    archive("entries", session.entries);
     archive("ownAir", session.ownAir);
     archive("normalise", session.normalise);
     archive("air", session.air);
@@ -99,6 +92,19 @@ void list(Archive& archive, MeasuredSession& session) {
     archive("note", session.note);
     archive("answers", session.answers);
     archive("bag", session.bag);
+}
+
+template <class Archive>
+void list(Archive& archive, MeasuredSession& session) {
+    listRest(archive, session);
+    archive("entries", session.entries);
+}
+
+template <class Archive>
+void list(Archive& archive, MeasuredEntry& entry) {
+    archive("shot", entry.shot);
+    archive("struck", entry.struck);
+    archive("checked", entry.checked);
 }
 
 /// Writes the members into an object.
@@ -238,13 +244,43 @@ bool isSoundSession(const MeasuredSession& session) {
                        [&](const BagClub& club) { return isOfSet(club.club); });
 }
 
+std::string dumped(const MeasuredJson& json) {
+    return json.dump(-1, ' ', false, MeasuredJson::error_handler_t::replace);
+}
+
 } // namespace
 
 std::string encodeMeasured(const MeasuredSession& session) {
-    MeasuredSession copy = session;
+    return encodeMeasured(session, encodeShots(session));
+}
+
+std::vector<std::string> encodeShots(const MeasuredSession& session) {
+    std::vector<std::string> shots;
+    shots.reserve(session.entries.size());
+    for (const MeasuredEntry& entry : session.entries) {
+        MeasuredShot shot = entry.shot;
+        MeasuredWriter writer;
+        list(writer, shot);
+        shots.push_back(dumped(writer.object));
+    }
+    return shots;
+}
+
+std::string encodeMeasured(const MeasuredSession& session, std::span<const std::string> shots) {
+    MeasuredSession rest = session;
     MeasuredWriter writer;
-    list(writer, copy);
-    return writer.object.dump(-1, ' ', false, MeasuredJson::error_handler_t::replace);
+    listRest(writer, rest);
+    std::string text = dumped(writer.object);
+    text.back() = ','; // the brace: the entries follow, put together from texts
+    text += "\"entries\":[";
+    for (std::size_t i = 0; i < shots.size(); ++i) {
+        const auto flag = [](bool set) { return set ? "true" : "false"; };
+        const MeasuredEntry& entry = session.entries[i];
+        text.append(i == 0 ? "{\"checked\":" : ",{\"checked\":").append(flag(entry.checked));
+        text.append(",\"shot\":").append(shots[i]);
+        text.append(",\"struck\":").append(flag(entry.struck)).append("}");
+    }
+    return text + "]}";
 }
 
 std::optional<MeasuredSession> decodeMeasured(std::string_view text) {

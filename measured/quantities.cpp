@@ -99,7 +99,7 @@ constexpr std::array kTemperatureUnits = {Fahrenheit, Celsius};
 constexpr std::array kPressureUnits = {InchesOfMercury, Hectopascals, Kilopascals};
 constexpr std::array kShareUnits = {Percent};
 
-constexpr std::array<QuantityText, 19> kQuantities = {{
+constexpr std::array<QuantityText, 20> kQuantities = {{
     {Quantity::Shot, "Shot number", None, {}},
     {Quantity::Club, "Club", None, {}},
     {Quantity::BallSpeed, "Ball speed", Mph, kSpeedUnits},
@@ -119,6 +119,7 @@ constexpr std::array<QuantityText, 19> kQuantities = {{
     {Quantity::Pressure, "Pressure at the place", InchesOfMercury, kPressureUnits},
     {Quantity::SeaLevelPressure, "Pressure at sea level", InchesOfMercury, kPressureUnits},
     {Quantity::Humidity, "Humidity", Percent, kShareUnits},
+    {Quantity::LeftOut, "Left out", None, {}},
 }};
 
 const UnitRow& unitRow(MeasuredUnit unit) {

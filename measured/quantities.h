@@ -48,6 +48,7 @@ enum class Quantity {
     Pressure,         ///< at the place
     SeaLevelPressure, ///< reduced to sea level
     Humidity,
+    LeftOut, ///< 1 for a shot that counts in no mean
 };
 
 /// A quantity for people, and the unit that the program uses for it.

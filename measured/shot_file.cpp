@@ -123,6 +123,7 @@ Outcome<ShotFile, ImportFault> readShotFile(std::string_view bytes) {
     if (!text)
         return because(text.why());
     ShotFile file{delimiterOf(*text), {}};
+    std::size_t figureRows = 0;
     CsvReader reader(file.delimiter);
     reader.feed(*text);
     reader.finish();
@@ -137,7 +138,10 @@ Outcome<ShotFile, ImportFault> readShotFile(std::string_view bytes) {
         });
         if (empty || namesDelimiter(row))
             continue;
-        if (file.rows.size() == kMostShotRows)
+        const bool figures = std::any_of(row.cells.begin(), row.cells.end(), [](const auto& cell) {
+            return cell.find_first_of("0123456789") != std::string::npos;
+        });
+        if (figures && ++figureRows > kMostShotRows)
             return because(aboutLine(row.line, "the file has more than 10,000 rows."));
         file.rows.push_back(row);
     }

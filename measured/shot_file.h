@@ -9,7 +9,7 @@
 namespace parabolt {
 
 inline constexpr std::size_t kLongestShotFile = 10'000'000; ///< bytes
-inline constexpr std::size_t kMostShotRows = 10'000;        ///< rows that aren't empty
+inline constexpr std::size_t kMostShotRows = 10'000; ///< rows with a figure: headings don't count
 
 /// Why a file isn't taken.
 struct ImportFault {

@@ -240,6 +240,7 @@ ImportRow ShotRows::rowOf(const CsvRow& row) const {
                 value(Quantity::AirDensity), value(Quantity::Temperature),
                 value(Quantity::Pressure),   value(Quantity::SeaLevelPressure),
                 value(Quantity::Humidity)};
+    result.leftOut = value(Quantity::LeftOut).value_or(0) != 0;
     if (isSummary(row))
         result.reason = "average row";
     else if (has(Quantity::Shot) && !isNumbered(row))

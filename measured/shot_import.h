@@ -8,10 +8,11 @@ namespace parabolt {
 /// A row of a file, as the preview shows it.
 struct ImportRow {
     std::size_t line = 0;
-    MeasuredShot shot;  ///< as far as the row tells it
-    std::string reason; ///< why it is left out: "no spin", "average row"; empty for a shot
-    std::string remark; ///< of a shot that can be taken: what was made of its values
-    bool taken = false; ///< the box; may be set only where there is no reason
+    MeasuredShot shot;    ///< as far as the row tells it
+    std::string reason;   ///< why it is left out: "no spin", "average row"; empty for a shot
+    std::string remark;   ///< of a shot that can be taken: what was made of its values
+    bool leftOut = false; ///< taken, it is struck through, as the file says
+    bool taken = false;   ///< the box; may be set only where there is no reason
     friend bool operator==(const ImportRow&, const ImportRow&) = default;
 };
 

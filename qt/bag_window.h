@@ -1,18 +1,11 @@
 #pragma once
 
-#include "files/dialog_routine.h"
 #include "fitting/bag_table.h"
-#include "fitting/carry_chart.h"
-#include "printing/printer.h"
-#include "qt/window_memory.h"
-#include "shell/frm_main.h"
-
-#include <QMainWindow>
+#include "qt/fitting_window.h"
 
 class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
-class QMenu;
 class QSplitter;
 
 namespace parabolt {
@@ -22,7 +15,7 @@ class TableView;
 
 /// The window of the bag, called "bag": which clubs the player owns, how far each goes in the
 /// weather of the main form, which gaps lie between them, and what was measured with them.
-class BagWindow : public QMainWindow {
+class BagWindow : public FittingWindow {
     Q_OBJECT
 
 public:
@@ -30,9 +23,10 @@ public:
     ~BagWindow() override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void look() override;
+    void refresh() override;
+    void remember() override;
 
 private:
     struct BagField;
@@ -40,29 +34,13 @@ private:
 
     void buildCommands();
     QWidget* choices();
-    void follow();
-    void refresh();
     void showChoices();
     void takeChoices();
-    void remember();
-    std::vector<CarryLine> carryLines() const;
-    /// "Device" or "Measured".
-    std::string_view whose() const { return figuresHeading(fitting_.session().computesCarry); }
 
     void fly();
     void ownSelected();
-    void exportFile();
-    void copyChart();
     void print();
 
-    frmMain& logic_;
-    Fitting& fitting_;
-    MessageBoxes& messages_;
-    Desktop& desktop_;
-    Printer& printer_;
-    std::function<std::string()> localTime_;
-    DialogRoutine dialogs_;
-    WindowMemory memory_;
     BagTable bag_;
     bool current_ = true; ///< as the summary says it
 

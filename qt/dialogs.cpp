@@ -7,6 +7,8 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPointer>
+#include <QWindow>
 
 namespace parabolt {
 namespace {
@@ -34,6 +36,28 @@ protected:
     }
 };
 
+/// Remembers the window in front that is no dialog.
+class FrontWatch : public QObject {
+public:
+    FrontWatch() {
+        connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](QWindow* front) {
+            for (QWidget* window : QApplication::topLevelWidgets())
+                if (front != nullptr && window->windowHandle() == front &&
+                    window->windowType() == Qt::Window)
+                    last_ = window;
+        });
+    }
+    QWidget* last() const { return last_ != nullptr && last_->isVisible() ? last_.get() : nullptr; }
+
+private:
+    QPointer<QWidget> last_;
+};
+
+const FrontWatch& frontWatch() {
+    static const FrontWatch kWatch;
+    return kWatch;
+}
+
 QMessageBox::StandardButton ask(std::string_view text, QMessageBox::StandardButtons buttons) {
     Box box(QMessageBox::NoIcon, toQt(kApplicationTitle), toQt(text), buttons, frontWindow());
     box.setObjectName("MessageBox");
@@ -53,10 +77,16 @@ QWidget* frontWindow() {
         return active;
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
+    if (QWidget* last = frontWatch().last())
+        return last;
     for (QWidget* window : QApplication::topLevelWidgets())
         if (window->objectName() == "frmMain")
             return window;
     return nullptr;
+}
+
+QtMessageBoxes::QtMessageBoxes() {
+    frontWatch();
 }
 
 void QtMessageBoxes::show(std::string_view message) {

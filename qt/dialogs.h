@@ -6,13 +6,16 @@ class QWidget;
 
 namespace parabolt {
 
-/// The window that a dialog belongs to: the active one; while another program is in front, the
-/// innermost modal one or else the main form. Null before there is one.
+/// The window that a dialog belongs to: the active one; while none is, as between two dialogs or
+/// with another program in front, the innermost modal one, the last active one that is no dialog,
+/// or else the main form. Null before there is one.
 QWidget* frontWindow();
 
 /// Message boxes over the window in front, with the application's title.
 class QtMessageBoxes : public MessageBoxes {
 public:
+    /// From now on it is known which window was in front. Needs a `QApplication`.
+    QtMessageBoxes();
     void show(std::string_view message) override;
     bool ask(std::string_view question) override;
     Answer askOrCancel(std::string_view question) override;

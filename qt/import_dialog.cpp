@@ -7,6 +7,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -14,7 +15,8 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QSignalBlocker>
+#include <QScrollBar>
+#include <QShortcut>
 
 namespace parabolt {
 namespace {
@@ -35,13 +37,13 @@ QComboBox* quantityBox(std::size_t column, const QString& heading) {
 } // namespace
 
 ImportDialog::ImportDialog(ImportReview& review, const QString& fileName, const ClubTables& tables,
-                           const ClubAnswers& known, QWidget* parent)
+                           const ClubAnswers& known, Desktop& desktop, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
       review_(review),
       tables_(tables),
       known_(known),
       device_(textLabel("importDevice")),
-      clubsTitle_(new QLabel("Which clubs are &these? The answer is kept with the shots.")),
+      clubsTitle_(new QLabel("&Which clubs are these? The answer is kept with the shots.")),
       clubsRoom_(new QScrollArea),
       take_(pushButton("importTake", {})) {
     setObjectName("importPreview");
@@ -49,7 +51,7 @@ ImportDialog::ImportDialog(ImportReview& review, const QString& fileName, const 
     setLocale(QLocale::c());
     resize(kPreviewSize.boundedTo(screen()->availableSize() * 0.9));
     rows_ = new TableView(review, "importRows", "Rows of the file", this);
-    rows_->horizontalHeader()->setStretchLastSection(true);
+    rows_->viewport()->installEventFilter(this);
     device_->setAccessibleName("Device");
     clubsTitle_->setObjectName("importClubsTitle");
     clubsRoom_->setObjectName("importClubs");
@@ -73,47 +75,82 @@ ImportDialog::ImportDialog(ImportReview& review, const QString& fileName, const 
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(rows_->model(), &QAbstractItemModel::dataChanged, this, [this] { refresh(); });
     refresh();
+    take_->setDefault(true); // for Enter
     take_->setFocus();
+    connect(new QShortcut(Qt::Key_F1, this), &QShortcut::activated, this,
+            [&desktop] { desktop.openHelpPage("measured.html"); });
 }
 
-/// For each column of the file its heading, what it means, and its unit.
+/// For each column of the file its heading, what it means, its unit, and what stands in it.
 QWidget* ImportDialog::columnsPanel() {
     auto* panel = new QWidget;
     auto* lines = new QVBoxLayout(panel);
     lines->setContentsMargins({});
-    auto* device = new QHBoxLayout;
+    lines->addWidget(deviceRow());
+    auto* grid = new QWidget;
+    auto* cells = new QGridLayout(grid);
+    cells->setContentsMargins(0, 0, 0, 0);
+    const auto titles = review_.columnTitles();
+    for (std::size_t i = 0; i < titles.size(); ++i)
+        addColumn(*cells, i, toQt(titles[i]));
+    cells->setColumnStretch(static_cast<int>(titles.size()), 1);
+    showChoice();
+    auto* room = new QScrollArea;
+    room->setObjectName("importColumns");
+    room->setFrameShape(QFrame::NoFrame);
+    room->setWidgetResizable(true);
+    room->setWidget(grid);
+    room->setFixedHeight(grid->sizeHint().height() +
+                         room->horizontalScrollBar()->sizeHint().height());
+    lines->addWidget(room);
+    return panel;
+}
+
+/// What the user calls the device, and whether it measures.
+QWidget* ImportDialog::deviceRow() {
+    auto* panel = new QWidget;
+    auto* row = new QHBoxLayout(panel);
+    row->setContentsMargins({});
     name_ = new QLineEdit(toQt(review_.choice().name));
     name_->setObjectName("importName");
     computes_ = new QCheckBox("It c&omputes its carry, at least in part");
     computes_->setObjectName("importComputes");
     computes_->setChecked(review_.choice().computesCarry);
-    addLabelled(device, "&Name of the device:", name_);
-    device->addWidget(computes_);
-    lines->addLayout(device);
+    addLabelled(row, "&Name of the device:", name_);
+    row->addWidget(computes_);
+    connect(name_, &QLineEdit::textChanged, this, &ImportDialog::chooseColumns);
+    connect(computes_, &QCheckBox::toggled, this, &ImportDialog::chooseColumns);
+    return panel;
+}
 
-    auto* grid = new QWidget;
-    auto* cells = new QGridLayout(grid);
-    cells->setContentsMargins(0, 0, 0, 0);
-    const auto titles = review_.columnTitles();
-    for (std::size_t i = 0; i < titles.size(); ++i) {
-        const QString heading = toQt(titles[i]);
-        ColumnFields fields{quantityBox(i, heading), new QComboBox};
-        fields.unit->setObjectName(QString("importUnit%1").arg(i));
-        fields.unit->setAccessibleName("Unit of the column " + heading);
-        columns_.push_back(fields);
-        const int column = static_cast<int>(i);
-        auto* title = new QLabel(heading);
-        title->setTextFormat(Qt::PlainText);
-        title->setBuddy(fields.quantity);
-        cells->addWidget(title, 0, column);
-        cells->addWidget(fields.quantity, 1, column);
-        cells->addWidget(fields.unit, 2, column);
-        connect(fields.quantity, &QComboBox::activated, this, [this, i] {
-            offerUnits(i);
-            chooseColumns();
-        });
-        connect(fields.unit, &QComboBox::activated, this, &ImportDialog::chooseColumns);
+void ImportDialog::addColumn(QGridLayout& cells, std::size_t column, const QString& heading) {
+    const ColumnFields fields{quantityBox(column, heading), new QComboBox};
+    fields.unit->setObjectName(QString("importUnit%1").arg(column));
+    fields.unit->setAccessibleName("Unit of the column " + heading);
+    columns_.push_back(fields);
+    const int place = static_cast<int>(column);
+    int line = 0;
+    auto* title = new QLabel(withoutMnemonic(heading));
+    title->setTextFormat(Qt::PlainText);
+    title->setBuddy(fields.quantity);
+    cells.addWidget(title, line++, place);
+    cells.addWidget(fields.quantity, line++, place);
+    cells.addWidget(fields.unit, line++, place);
+    for (const std::string& example : review_.examples(column)) {
+        auto* cell = new QLabel(toQt(example));
+        cell->setTextFormat(Qt::PlainText);
+        cell->setForegroundRole(QPalette::PlaceholderText); // nothing to use
+        cells.addWidget(cell, line++, place);
     }
+    connect(fields.quantity, &QComboBox::activated, this, [this, column] {
+        offerUnits(column);
+        chooseColumns();
+    });
+    connect(fields.unit, &QComboBox::activated, this, &ImportDialog::chooseColumns);
+}
+
+/// The choice of the review, in the boxes.
+void ImportDialog::showChoice() {
     for (const ChosenColumn& chosen : review_.choice().columns) {
         if (chosen.column >= columns_.size())
             continue;
@@ -124,22 +161,11 @@ QWidget* ImportDialog::columnsPanel() {
         fields.unit->setCurrentIndex(
             std::max(0, fields.unit->findData(static_cast<int>(chosen.unit))));
     }
-    for (std::size_t i = 0; i < columns_.size(); ++i)
-        columns_[i].unit->setEnabled(columns_[i].unit->count() > 0);
-    cells->setRowStretch(3, 1);
-    auto* room = new QScrollArea;
-    room->setObjectName("importColumns");
-    room->setFrameShape(QFrame::NoFrame);
-    room->setWidgetResizable(true);
-    room->setWidget(grid);
-    room->setFixedHeight(grid->sizeHint().height() + 2 * fontMetrics().height());
-    lines->addWidget(room);
-    connect(name_, &QLineEdit::textChanged, this, &ImportDialog::chooseColumns);
-    connect(computes_, &QCheckBox::toggled, this, &ImportDialog::chooseColumns);
-    return panel;
+    for (const ColumnFields& fields : columns_)
+        fields.unit->setEnabled(fields.unit->count() > 0);
 }
 
-/// The units in which a column may be, the program's own first.
+/// The units in which a column may be, with the likely one chosen.
 void ImportDialog::offerUnits(std::size_t column) {
     const ColumnFields& fields = columns_[column];
     fields.unit->clear();
@@ -148,8 +174,8 @@ void ImportDialog::offerUnits(std::size_t column) {
         const QuantityText& text = textOf(static_cast<Quantity>(meaning));
         for (const MeasuredUnit unit : text.units)
             fields.unit->addItem(toQt(nameOf(unit)), static_cast<int>(unit));
-        fields.unit->setCurrentIndex(
-            std::max(0, fields.unit->findData(static_cast<int>(text.unit))));
+        const MeasuredUnit likely = review_.likelyUnit(column, text.quantity);
+        fields.unit->setCurrentIndex(std::max(0, fields.unit->findData(static_cast<int>(likely))));
     }
     fields.unit->setEnabled(fields.unit->count() > 0);
 }
@@ -176,11 +202,27 @@ void ImportDialog::chooseColumns() {
     refresh();
 }
 
+bool ImportDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == rows_->viewport() && event->type() == QEvent::Resize)
+        fitNotes();
+    return QDialog::eventFilter(watched, event);
+}
+
+/// Gives the notes the room that is left, or, where they need more, all that.
+void ImportDialog::fitNotes() {
+    QHeaderView& headings = *rows_->horizontalHeader();
+    const int notes = headings.count() - 1;
+    const int left = rows_->viewport()->width() - headings.length() + headings.sectionSize(notes);
+    const QAbstractItemView& view = *rows_;
+    headings.resizeSection(notes, std::max(left, view.sizeHintForColumn(notes)));
+}
+
 void ImportDialog::refresh() {
+    fitNotes();
     device_->setText(toQt(review_.summary()));
     const std::size_t count = review_.preview().count();
     take_->setText(count == 1 ? "&Take 1 Shot" : QString("&Take %1 Shots").arg(count));
-    take_->setEnabled(count > 0);
+    take_->setEnabled(review_.canBeTaken());
     askForClubs();
 }
 
@@ -208,7 +250,7 @@ void ImportDialog::askForClubs() {
             box->addItem(toQt(usualName(club)));
         if (const auto answer = said.find(unknown[i]); answer != said.end())
             box->setCurrentText(toQt(usualName(answer->second)));
-        auto* label = new QLabel(toQt(unknown[i]));
+        auto* label = new QLabel(withoutMnemonic(toQt(unknown[i])));
         label->setTextFormat(Qt::PlainText);
         label->setBuddy(box);
         const int place = static_cast<int>(i);

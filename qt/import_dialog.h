@@ -1,11 +1,13 @@
 #pragma once
 
+#include "controls/services.h"
 #include "fitting/import_review.h"
 
 #include <QDialog>
 
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -24,10 +26,13 @@ class ImportDialog : public QDialog {
 
 public:
     ImportDialog(ImportReview& review, const QString& fileName, const ClubTables& tables,
-                 const ClubAnswers& known, QWidget* parent = nullptr);
+                 const ClubAnswers& known, Desktop& desktop, QWidget* parent = nullptr);
 
     /// What the user said of texts that tell no club.
     ClubAnswers answers() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// What a column means.
@@ -41,10 +46,13 @@ private:
     };
 
     QWidget* columnsPanel();
+    QWidget* deviceRow();
+    void addColumn(QGridLayout& cells, std::size_t column, const QString& heading);
+    void showChoice();
     void offerUnits(std::size_t column);
     void chooseColumns();
-    void showUnits();
     void refresh();
+    void fitNotes();
     void askForClubs();
 
     ImportReview& review_;

@@ -6,7 +6,6 @@
 #include "mainform/form_shot.h"
 #include "measured/shot_file.h"
 #include "qt/chart_view.h"
-#include "qt/fitting_sheet.h"
 #include "qt/import_dialog.h"
 #include "qt/measured_window.h"
 #include "qt/table_view.h"
@@ -14,11 +13,11 @@
 #include "tables/table_text.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTimer>
 #include <algorithm>
 #include <numeric>
@@ -26,13 +25,12 @@
 namespace parabolt {
 namespace {
 
-constexpr std::size_t kDateLetters = 10; ///< of "2026-11-23 10:32"
-constexpr int kOutColumn = 1;            ///< of the table of shots: left out
+constexpr int kOutColumn = 1; ///< of the table of shots: left out
 
-/// The local file that a drag brings; empty if it brings none.
+/// The local file that a drag brings; empty if it brings none, or a folder.
 QString draggedFile(const QMimeData& data) {
     for (const QUrl& url : data.urls())
-        if (url.isLocalFile())
+        if (url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile())
             return url.toLocalFile();
     return {};
 }
@@ -58,7 +56,8 @@ Outcome<void, Failure> MeasuredWindow::importNamed(const std::string& fileName) 
         return {};
     }
     const QString name = QFileInfo(toQt(fileName)).fileName();
-    ImportDialog dialog(*review, name, logic_.form.clubs, fitting_.session().answers, this);
+    ImportDialog dialog(*review, name, logic_.form.clubs, fitting_.session().answers, desktop_,
+                        this);
     const bool taken = dialog.exec() == QDialog::Accepted;
     activateWindow();
     if (!taken)
@@ -66,6 +65,7 @@ Outcome<void, Failure> MeasuredWindow::importNamed(const std::string& fileName) 
     if (review->device() == nullptr)
         columns_.remember(review->choice());
     fitting_.take(review->preview(), fromQt(name), dialog.answers());
+    statusBar()->clearMessage();
     return {};
 }
 
@@ -84,20 +84,8 @@ void MeasuredWindow::dropEvent(QDropEvent* event) {
     });
 }
 
-void MeasuredWindow::exportFile() {
-    const auto compose = [this](std::string_view ending) -> std::optional<std::string> {
-        return ending == "csv" ? tableAsCsv(shots_, wholeTable(shots_))
-                               : pictureFile(chart_->onPaper(), ending);
-    };
-    dialogs_.save(DialogPurpose::ExportTableOrChart, "measured shots.csv", compose);
-}
-
 void MeasuredWindow::copyTableInUse() {
     (clubsView_->hasFocus() ? clubsView_ : shotsView_)->copy();
-}
-
-void MeasuredWindow::copyChart() {
-    QApplication::clipboard()->setImage(pictureImage(chart_->onPaper()));
 }
 
 void MeasuredWindow::print() {
@@ -109,30 +97,34 @@ void MeasuredWindow::print() {
     }};
     content.table = tableAsCells(clubs_, clubsView_->extract());
     content.remark = sourceInWords(session) + ". " + comparisonInWords(session, comparison_);
-    showSheet(fitting_, std::move(content), localTime_().substr(0, kDateLetters), printer_,
-              messages_, *this);
+    printSheet(std::move(content));
 }
 
 void MeasuredWindow::checkedIntoDataSets() {
     const MeasuredSession& session = fitting_.session();
-    const auto checked =
-        std::count_if(session.entries.begin(), session.entries.end(),
-                      [](const MeasuredEntry& entry) { return entry.checked && !entry.struck; });
-    if (checked == 0)
-        return messages_.show("Tick the shots first that are to become data sets.");
-    if (checked > RunBook::kMost)
-        messages_.show("More than 24 shots are ticked. The first 24 of them become data sets.");
+    const bool anyChecked = std::any_of(session.entries.begin(), session.entries.end(),
+                                        [](const MeasuredEntry& entry) { return entry.checked; });
     runShots(
-        checkedShots(session.entries, takeShot(logic_.form, logic_.form.clubs), session.ownAir));
+        checkedShots(session.entries, takeShot(logic_.form, logic_.form.clubs), session.ownAir),
+        anyChecked ? "All ticked shots are left out."
+                   : "Tick the shots first that are to become data sets.");
 }
 
 void MeasuredWindow::meansIntoDataSets() {
     const MeasuredSession& session = fitting_.session();
-    runShots(meanShots(session.entries, takeShot(logic_.form, logic_.form.clubs), session.ownAir));
+    runShots(meanShots(session.entries, takeShot(logic_.form, logic_.form.clubs), session.ownAir),
+             "All shots are left out.");
 }
 
-void MeasuredWindow::runShots(std::span<const Shot> shots) {
-    runOnForm(logic_.form, logic_.shotEntry, shots);
+/// Runs shots, and says what came of them; a message tells of those that are missing.
+void MeasuredWindow::runShots(const std::vector<NamedShot>& shots, const std::string& whyNone) {
+    if (shots.empty())
+        return messages_.show(whyNone);
+    const SeriesReport report = runOnForm(logic_.form, logic_.shotEntry, shots);
+    const std::string words = seriesInWords(report);
+    statusBar()->showMessage(toQt(words));
+    if (!report.why.empty())
+        messages_.show(words);
 }
 
 void MeasuredWindow::strikeSelected() {

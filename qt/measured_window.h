@@ -1,21 +1,15 @@
 #pragma once
 
-#include "files/dialog_routine.h"
 #include "fitting/carry_chart.h"
 #include "fitting/import_review.h"
 #include "fitting/measured_table.h"
-#include "printing/printer.h"
-#include "qt/window_memory.h"
-#include "shell/frm_main.h"
+#include "qt/fitting_window.h"
 #include "shots/background.h"
-
-#include <QMainWindow>
 
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
 class QLabel;
-class QMenu;
 class QSplitter;
 
 namespace parabolt {
@@ -25,7 +19,7 @@ class TableView;
 
 /// The window of the shots that a launch monitor has measured, called "measuredShots": beside the
 /// main form, whose weather it follows. With the window closed nothing is computed.
-class MeasuredWindow : public QMainWindow {
+class MeasuredWindow : public FittingWindow {
     Q_OBJECT
 
 public:
@@ -34,11 +28,13 @@ public:
     ~MeasuredWindow() override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void look() override;
+    void refresh() override;
+    void remember() override;
 
 private:
     // The window.
@@ -46,45 +42,30 @@ private:
     QWidget* choices();
     QWidget* parts();
     void buildCommands();
-    QAction* add(QMenu* menu, const QString& name, const QString& text, const QString& meaning,
-                 const QKeySequence& key, void (MeasuredWindow::*run)());
-    void follow();
-    void refresh();
+    void compute();
     void showChoices();
     void showTexts();
     void takeAir();
-    void remember();
     std::vector<CarryLine> carryLines() const;
-    /// "Device" or "Measured".
-    std::string_view whose() const { return figuresHeading(fitting_.session().computesCarry); }
 
     // Its commands.
     void importFile();
     Outcome<void, Failure> importNamed(const std::string& fileName);
-    void exportFile();
     void copyTableInUse();
-    void copyChart();
     void print();
     void checkedIntoDataSets();
     void meansIntoDataSets();
-    void runShots(std::span<const Shot> shots);
+    void runShots(const std::vector<NamedShot>& shots, const std::string& whyNone);
     void strikeSelected();
     void checkSelected();
     void checkAll();
 
-    frmMain& logic_;
-    Fitting& fitting_;
-    MessageBoxes& messages_;
-    Desktop& desktop_;
-    Printer& printer_;
-    std::function<std::string()> localTime_;
-    DialogRoutine dialogs_;
     ColumnMemory columns_;
-    WindowMemory memory_;
     Comparison comparison_;
     MeasuredTable shots_;
     ClubsTable clubs_;
     std::uint64_t computing_ = 0; ///< generation at which the background is, or was
+    bool formRuns_ = false;       ///< the main form takes no shots: a study or batch runs
 
     QLabel* source_;
     QComboBox* weather_;

@@ -3,12 +3,29 @@
 #include <QAction>
 #include <QBoxLayout>
 #include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
 #include <QToolButton>
 
 namespace parabolt {
+namespace {
+
+/// A field that doesn't take Ctrl+E from the commands of its window.
+class NumberField : public QDoubleSpinBox {
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride &&
+            static_cast<QKeyEvent*>(event)->keyCombination() == (Qt::CTRL | Qt::Key_E)) {
+            event->ignore();
+            return true;
+        }
+        return QDoubleSpinBox::event(event);
+    }
+};
+
+} // namespace
 
 QAction* command(QMenu* menu, const QString& name, const QString& text, const QString& meaning,
                  const QKeySequence& key) {
@@ -49,7 +66,7 @@ QPushButton* pushButton(const QString& name, const QString& text) {
 
 QDoubleSpinBox* numberField(const QString& name, const QString& accessibleName,
                             const NumberRange& range) {
-    auto* field = new QDoubleSpinBox;
+    auto* field = new NumberField;
     field->setObjectName(name);
     field->setAccessibleName(accessibleName);
     field->setToolTip(accessibleName);
@@ -58,6 +75,7 @@ QDoubleSpinBox* numberField(const QString& name, const QString& accessibleName,
     field->setDecimals(range.decimals);
     field->setRange(range.lowest, range.highest);
     field->setSingleStep(range.step);
+    field->setSuffix(range.unit);
     return field;
 }
 
@@ -66,6 +84,19 @@ void addLabelled(QBoxLayout* row, const QString& text, QWidget* widget) {
     label->setBuddy(widget);
     row->addWidget(label);
     row->addWidget(widget);
+}
+
+QWidget* labelledGroup(std::initializer_list<std::pair<QString, QWidget*>> widgets) {
+    auto* group = new QWidget;
+    auto* row = new QHBoxLayout(group);
+    row->setContentsMargins({});
+    for (const auto& [text, widget] : widgets)
+        addLabelled(row, text, widget);
+    return group;
+}
+
+QString withoutMnemonic(QString text) {
+    return text.replace('&', "&&");
 }
 
 } // namespace parabolt

@@ -2,6 +2,8 @@
 
 #include <QKeySequence>
 #include <QString>
+#include <initializer_list>
+#include <utility>
 
 class QAction;
 class QBoxLayout;
@@ -28,17 +30,23 @@ QLabel* textLabel(const QString& name);
 QPushButton* pushButton(const QString& name, const QString& text);
 
 /// A field for a number with a point, whatever the locale, which takes what is typed when it is
-/// left.
+/// left. Ctrl+E is left to the window, though it leads to the end of a line elsewhere.
 struct NumberRange {
     double lowest;
     double highest;
     double step;
     int decimals;
+    const char* unit = ""; ///< behind the number, with a blank in front
 };
 QDoubleSpinBox* numberField(const QString& name, const QString& accessibleName,
                             const NumberRange& range);
 
 /// Puts a widget into a row, behind a label whose underlined letter leads to it.
 void addLabelled(QBoxLayout* row, const QString& text, QWidget* widget);
+/// Labelled widgets side by side as one widget, which no layout parts.
+QWidget* labelledGroup(std::initializer_list<std::pair<QString, QWidget*>> widgets);
+
+/// A text in which no letter is underlined, whatever stands in it.
+QString withoutMnemonic(QString text);
 
 } // namespace parabolt

@@ -1,6 +1,7 @@
 #include "sessions/session_handlers.h"
 
 #include "files/file_access.h"
+#include "measured/measured_codec.h"
 
 #include <algorithm>
 #include <iterator>
@@ -15,12 +16,23 @@ constexpr std::string_view kNoLastSession = "There is no last session to reopen.
 constexpr std::string_view kGoBack = "Go &Back";
 constexpr std::size_t kDateLength = 10; ///< of "2026-11-23 10:32"
 
-/// What a desk is told by: its data sets, or that it has none.
-std::string contentOf(const Desk& desk) {
-    const std::size_t count = desk.runs.size();
-    return count == 0   ? "no data sets"
-           : count == 1 ? "1 data set"
-                        : std::to_string(count) + " data sets";
+/// Number of measured shots on a desk.
+std::size_t measuredShots(const Desk& desk) {
+    const auto found = desk.windows.find(kMeasuredKey);
+    const auto session =
+        found == desk.windows.end() ? std::nullopt : decodeMeasured(found->second.text());
+    return session ? session->entries.size() : 0;
+}
+
+/// What a desk is told by: its data sets, or the measured shots of one without any, or else `none`.
+std::string contentOf(const Desk& desk, std::string_view none) {
+    const auto counted = [](std::size_t count, const std::string& what) {
+        return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+    };
+    if (!desk.runs.empty())
+        return counted(desk.runs.size(), "data set");
+    const std::size_t shots = measuredShots(desk);
+    return shots > 0 ? counted(shots, "measured shot") : std::string(none);
 }
 
 /// What a user does to a text by hand: letter by letter, or at a stroke that takes several away.
@@ -84,9 +96,9 @@ void SessionHandlers::recover() {
     const auto session = recovery_.abandoned();
     if (!session)
         return;
-    const std::string what = session->desk.runs.empty() ? "the fields" : contentOf(session->desk);
-    const bool reopens = messages_.ask("Parabolt did not end properly. Reopen " + what + " of " +
-                                       timeOf(*session) + "?");
+    const bool reopens =
+        messages_.ask("Parabolt did not end properly. Reopen " +
+                      contentOf(session->desk, "the fields") + " of " + timeOf(*session) + "?");
     if (!reopens)
         return recovery_.settle(false);
     lay(session->desk);
@@ -185,7 +197,8 @@ void SessionHandlers::showWayBack() {
     form_.mnuGoBack.setEnabled(next != nullptr);
     form_.mnuGoBack.setCaption(next == nullptr ? std::string(kGoBack)
                                                : std::string(kGoBack) + ": " +
-                                                     contentOf(next->desk) + ", " + timeOf(*next));
+                                                     contentOf(next->desk, "no data sets") + ", " +
+                                                     timeOf(*next));
 }
 
 } // namespace parabolt

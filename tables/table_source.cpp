@@ -38,14 +38,19 @@ bool comesBefore(const TableCell& one, const TableCell& other) {
     return rank(one) < rank(other);
 }
 
-TableExtract wholeTable(const TableSource& table) {
-    TableExtract extract;
-    extract.rows.resize(table.rowCount());
+TableExtract completeTable(const TableSource& table) {
+    TableExtract extract{std::vector<std::size_t>(table.rowCount()),
+                         std::vector<std::size_t>(table.columns().size())};
     std::iota(extract.rows.begin(), extract.rows.end(), std::size_t{0});
-    const auto columns = table.columns();
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        if (columns[i].holds != TableColumn::Holds::Ticks)
-            extract.columns.push_back(i);
+    std::iota(extract.columns.begin(), extract.columns.end(), std::size_t{0});
+    return extract;
+}
+
+TableExtract wholeTable(const TableSource& table) {
+    TableExtract extract = completeTable(table);
+    std::erase_if(extract.columns, [&table](std::size_t column) {
+        return table.columns()[column].holds == TableColumn::Holds::Ticks;
+    });
     return extract;
 }
 

@@ -68,7 +68,9 @@ struct TableExtract {
     std::vector<std::size_t> columns;
 };
 
-/// All rows and columns but those that hold nothing but ticks.
+/// All rows and columns.
+TableExtract completeTable(const TableSource& table);
+/// All rows, and all columns but those that hold nothing but ticks.
 TableExtract wholeTable(const TableSource& table);
 
 } // namespace parabolt

@@ -23,8 +23,10 @@ std::string asHtml(std::string_view text) {
     return html;
 }
 
-/// A number with all its digits; the text of any other cell.
+/// A number with all its digits, a lone box as 1 or 0; the text of any other cell.
 std::string inFull(const TableCell& cell) {
+    if (cell.ticked && cell.text.empty())
+        return *cell.ticked ? "1" : "0";
     if (const auto* narrow = std::get_if<float>(&cell.number)) {
         CsvWriter digits;
         return digits.field(*narrow).text();

@@ -85,6 +85,14 @@ TEST_F(FittingTest, TheDeskCarriesTheSession) {
     form.mnuGoBack.Click(); // to the shots before the second import
     fitting.follow();
     EXPECT_EQ(fitting.session().entries.size(), 4U);
+    EXPECT_EQ(form.mnuGoBack.caption(), "Go &Back: no data sets, 10:32");
+    user.main.sessions.actionEnded();
+    take(kTwoClubs);
+    EXPECT_EQ(form.mnuGoBack.caption(), "Go &Back: 4 measured shots, 10:32");
+    user.run();
+    user.main.sessions.actionEnded();
+    take(kTwoClubs);
+    EXPECT_EQ(form.mnuGoBack.caption(), "Go &Back: 1 data set, 10:32");
     for (const char* broken : {"", "{", "[]", R"({"entries":7})"}) {
         form.windows[kMeasuredKey] = broken;
         fitting.follow();
@@ -121,6 +129,9 @@ TEST_F(FittingTest, TheModelStandsBesideTheDevice) {
     EXPECT_TRUE(fitting.session().entries[1].struck);
     shots.strike(std::vector<std::size_t>{0, 1});
     EXPECT_FALSE(fitting.session().entries[0].struck);
+    shots.strike(std::vector<std::size_t>{0, 1, 2, 3});
+    EXPECT_EQ(comparisonInWords(fitting.session(), comparison), "All shots are left out.");
+    shots.strike(std::vector<std::size_t>{0, 1, 2, 3});
     const std::string words = comparisonInWords(fitting.session(), comparison);
     EXPECT_TRUE(words.starts_with("Model less device, mean of 3 shots: carry ")) << words;
     EXPECT_NE(words.find("The device computes its carry"), std::string::npos);
@@ -136,13 +147,26 @@ TEST_F(FittingTest, FlightsFollowTheWeatherAndNothingElse) {
     user.enter(form.txtWind, "15");
     ASSERT_TRUE(comparison.follow(acceptedShot(form, form.clubs)));
     EXPECT_FALSE(comparison.isCurrent());
+    EXPECT_EQ(comparisonInWords(fitting.session(), comparison), "The flights are being computed.");
     EXPECT_FALSE(comparison.accept({}, comparison.generation() - 1)) << "of the calm";
     compute();
     EXPECT_LT(comparison.flights()[0].figures.carry, calm - 10);
     // Turned into calm air, a carry against the wind is longer than the device's.
     fitting.change([](MeasuredSession& session) { session.normalise = true; });
+    const ModelFlight* flown = comparison.flights().data();
     compute();
+    EXPECT_EQ(comparison.flights().data(), flown) << "the other air flies none of them anew";
     EXPECT_GT(std::stod(cell(shots, 0, "normalised")), 168);
+    user.enter(form.txtWind, "5");
+    comparison.follow(acceptedShot(form, form.clubs));
+    fitting.change([](MeasuredSession& session) { session.air.altitude = 100; });
+    compute(); // the air is another one before the flights in the new wind were known
+    EXPECT_NE(comparison.flights().data(), flown);
+    user.enter(form.txtWind, "15");
+    take(kTwoClubs); // as many shots as before, and none of them flown yet
+    EXPECT_FALSE(comparison.isCurrent());
+    EXPECT_EQ(cell(shots, 0, "modelCarry"), "");
+    compute();
     EXPECT_EQ(cell(shots, 3, "normalised"), "");
     EXPECT_NE(
         comparisonInWords(fitting.session(), comparison).find("take such a correction for half"),
@@ -156,8 +180,9 @@ TEST_F(FittingTest, ItsOwnTableReadsBack) {
     for (const char* name : {"trackman.csv", "garmin.csv", "flightscope.csv", "own.csv"}) {
         take(measuredFile(name));
         compute();
+        shots.strike(std::vector<std::size_t>{1});
         const auto before = fitting.session();
-        const auto back = ImportReview::open(tableAsCsv(shots, wholeTable(shots)), {});
+        const auto back = ImportReview::open(tableAsCsv(shots, completeTable(shots)), {});
         ASSERT_TRUE(back) << name;
         EXPECT_EQ(back->preview().computesCarry, before.computesCarry) << name;
         for (const ImportRow& row : back->preview().rows)
@@ -170,6 +195,9 @@ TEST_F(FittingTest, ItsOwnTableReadsBack) {
             EXPECT_EQ(taken[i].backSpin, before.entries[i].shot.backSpin);
             EXPECT_EQ(taken[i].device, before.entries[i].shot.device) << name;
         }
+        fitting.take(back->preview(), "back.csv", {});
+        for (std::size_t i = 0; i < taken.size(); ++i)
+            EXPECT_EQ(fitting.session().entries[i].struck, i == 1) << name;
     }
 }
 
@@ -197,6 +225,17 @@ TEST(ImportReview, AsksWhatNobodyKnowsAndRemembersIt) {
     ASSERT_EQ(shots.size(), 2U);
     EXPECT_NEAR(shots[0].ballSpeed, 111.85, 0.01); // 180 km/h
     EXPECT_NEAR(*shots[0].device.carry, 153.1, 0.05);
+    EXPECT_EQ(review->examples(3), (Texts{"rpm", "6000", "6100"}));
+    EXPECT_EQ(review->likelyUnit(1, BallSpeed), MetresPerSecond);
+    EXPECT_EQ(review->likelyUnit(1, Time), Seconds);
+    ColumnChoice twice = choice;
+    twice.columns[4].quantity = BackSpin;
+    review->choose(twice);
+    EXPECT_FALSE(review->canBeTaken());
+    EXPECT_TRUE(review->summary().starts_with("Two columns are chosen as Back spin."));
+    review->choose(choice);
+    EXPECT_TRUE(review->canBeTaken());
+    EXPECT_TRUE(review->summary().starts_with("No known")) << review->summary();
     review->tick(1, 0, false);
     EXPECT_EQ(review->preview().count(), 1U);
     EXPECT_EQ(review->unknownClubs(InitClubTables(), {}), Texts{"Seven"});
@@ -206,6 +245,8 @@ TEST(ImportReview, AsksWhatNobodyKnowsAndRemembersIt) {
     const auto again = ImportReview::open(measuredFile("unknown.csv"), memory.choices());
     EXPECT_EQ(again->preview().count(), 2U);
     EXPECT_EQ(again->preview().device, "Radar");
+    EXPECT_EQ(again->summary(), "Columns as you chose them last time: 2 of " +
+                                    std::to_string(again->rowCount()) + " rows will be taken.");
     for (int i = 0; i < 20; ++i) {
         ColumnChoice other = choice;
         other.columns[0].heading = "Club " + std::to_string(i % 12);
@@ -226,38 +267,55 @@ TEST_F(FittingTest, ShotsBecomeDataSetsInTheirAir) {
     cold.LaunchSpeed = 150;
     Shot warm = cold;
     warm.Temperature = 80;
-    EXPECT_EQ(runOnForm(form, user.main.shotEntry, std::vector{cold, warm}), 2);
+    const auto run = [&](const std::vector<NamedShot>& given) {
+        return runOnForm(form, user.main.shotEntry, given);
+    };
+    EXPECT_EQ(run({{"7i, line 2", cold}, {"D", warm}}), (SeriesReport{2, 2, ""}));
     ASSERT_EQ(form.Runs.count(), 2);
     EXPECT_EQ(form.Runs[1].Temperature, 40);
     EXPECT_EQ(form.Runs[2].Temperature, 80);
     EXPECT_EQ(form.Runs[1].Mode, OperatingMode::Launch);
+    EXPECT_EQ(form.Runs.tag(1).name, "7i, line 2");
     EXPECT_EQ(form.txtTemperature.text(), "80");
-    cold.Temperature = 10; // no field takes it
-    EXPECT_EQ(runOnForm(form, user.main.shotEntry, std::vector{cold, warm}), 0);
-    EXPECT_EQ(user.messages.texts.size(), 1U);
+    cold.Temperature = 10; // no field takes it: the others come all the same
+    EXPECT_TRUE(seriesInWords(run({{"cold", cold}, {"warm", warm}}))
+                    .starts_with("1 of 2 shots became a data set. cold: Enter a value between 20"));
+    EXPECT_TRUE(user.messages.texts.empty());
     EXPECT_EQ(form.shot.Temperature, 80);
+    form.Command1.setEnabled(false); // as while a study runs
+    EXPECT_TRUE(seriesInWords(run({{"warm", warm}})).starts_with("The shot became no data set."));
+    form.Command1.setEnabled(true);
 
     // A full buffer asks: yes ends the series, no begins afresh.
-    const std::vector<Shot> many(23, warm);
+    const std::vector<NamedShot> many(30, {"", warm});
     user.messages.answers = {Answer::Yes};
     user.files.cancel("/");
-    EXPECT_EQ(runOnForm(form, user.main.shotEntry, many), 22);
+    EXPECT_EQ(run(many), (SeriesReport{30, 21, "The data buffer is full."}));
     EXPECT_EQ(form.Runs.count(), 24);
     user.messages.answers = {Answer::No};
-    EXPECT_EQ(runOnForm(form, user.main.shotEntry, std::vector{warm, warm}), 2);
-    EXPECT_EQ(form.Runs.count(), 2);
+    EXPECT_EQ(run(many), (SeriesReport{30, 24, "A book holds 24 data sets."}));
+    EXPECT_EQ(form.Runs.count(), 24);
 }
 
 TEST_F(FittingTest, TheBagTellsItsGaps) {
     take(kTwoClubs);
-    BagTable bag(fitting);
+    BagTable bag(fitting, form.clubs);
     const Shot conditions = acceptedShot(form, form.clubs);
     EXPECT_EQ(cell(bag, 0, "carry"), "");
+    EXPECT_EQ(cell(bag, 0, "measuredGap") + " " + cell(bag, 0, "measuredGapIs"), "87.0 wide");
+    EXPECT_EQ(bag.gaps().size(), 1U) << "243 to 156 yards, before anything is flown";
+    for (std::size_t row = 0; row < bag.rowCount(); ++row)
+        bag.tick(row, 0, false);
+    bag.fly(conditions);
+    EXPECT_TRUE(bag.summary().starts_with("No club is ticked.")) << bag.summary();
+    bag.tick(0, 0, true);
+    bag.fly(conditions);
+    EXPECT_TRUE(bag.summary().starts_with("A gap lies between two")) << bag.summary();
     for (std::size_t row = 0; row < bag.rowCount(); ++row)
         bag.tick(row, 0, row == 0 || row == 14 || row == 15); // driver, 7 and 8 iron
-    bag.fly(form.clubs, conditions);
-    ASSERT_EQ(bag.flights().size(), 3U);
-    EXPECT_TRUE(bag.isCurrent(form.clubs, conditions));
+    bag.fly(conditions);
+    EXPECT_EQ(bag.gaps().size(), 2U);
+    EXPECT_TRUE(bag.isCurrent(conditions));
     EXPECT_EQ(cell(bag, 14, "measuredCarry"), "156.0");
     EXPECT_EQ(cell(bag, 14, "shots"), "2");
     EXPECT_NEAR(std::stod(cell(bag, 0, "gap")),
@@ -270,7 +328,7 @@ TEST_F(FittingTest, TheBagTellsItsGaps) {
     bag.enter(15, 1, "Gamer");
     fitting.change([](MeasuredSession& session) { session.bag.narrowest = 17; });
     bag.refresh();
-    EXPECT_TRUE(bag.isCurrent(form.clubs, conditions));
+    EXPECT_TRUE(bag.isCurrent(conditions));
     EXPECT_EQ(cell(bag, 14, "gapIs"), "narrow");
     EXPECT_EQ(bag.summary().find("not in the bag"), std::string::npos);
     bag.enter(15, 1, "");
@@ -278,9 +336,9 @@ TEST_F(FittingTest, TheBagTellsItsGaps) {
     // The weather, the set, the clubs owned do.
     Shot windy = conditions;
     windy.WindSpeed = 10;
-    EXPECT_FALSE(bag.isCurrent(form.clubs, windy));
+    EXPECT_FALSE(bag.isCurrent(windy));
     bag.tick(1, 0, true);
-    EXPECT_FALSE(bag.isCurrent(form.clubs, conditions));
+    EXPECT_FALSE(bag.isCurrent(conditions));
     EXPECT_EQ(bag.cell(2, 1).look, TableCell::Look::Faint);
 }
 

@@ -5,6 +5,7 @@
 #include "tests/support/scripted_form.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -69,6 +70,22 @@ TEST_F(RealServicesTest, AMessageSwallowsNoMoreThanTheKeyThatClosesIt) {
         EXPECT_FALSE(run->isDown());
     }
     EXPECT_EQ(boxes, 2);
+}
+
+TEST_F(RealServicesTest, AMessageStandsOverTheWindowWhoseDialogHasJustClosed) {
+    QWidget beside;
+    beside.show();
+    beside.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&beside));
+    {
+        QDialog dialog(&beside);
+        dialog.show();
+        dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    }
+    EXPECT_EQ(frontWindow(), &beside);
+    beside.hide();
+    EXPECT_EQ(frontWindow(), window.get());
 }
 
 TEST_F(RealServicesTest, EscAnswersNoQuestion) {

@@ -137,14 +137,14 @@ TEST(Import, UnderstandsWhatIsNoUtf8) {
 TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
     const std::string headings = "Carry,BallSpeed,BackSpin,VLA\n";
     std::string rows = headings;
-    for (int i = 0; i < 9'999; ++i)
+    for (int i = 0; i < 10'000; ++i)
         rows += "200,140,3000,12\n";
-    EXPECT_EQ(importShots(rows)->count(), 9'999U);
+    EXPECT_EQ(importShots(rows)->count(), 10'000U);
     const std::pair<std::string, std::string> cases[] = {
         {"", "The file is empty."},
         {"\n , ,\n", "The file is empty."},
         {std::string(10'000'001, ' '), "The file is larger than 10 MB."},
-        {rows + "\n200,140,3000,12\n", "Line 10002: the file has more than 10,000 rows."},
+        {rows + "\n200,140,3000,12\n", "Line 10003: the file has more than 10,000 rows."},
         {headings + "200,140,\"3000,12\n200\n", "Line 2: a quote is opened and never closed."},
         {headings + std::string(2'000'000, 'x'), "Line 2: the row is longer than 1 MB."},
         {std::string("PK\3\4 \0 \0\xFF", 9),
