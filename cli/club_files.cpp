@@ -1,10 +1,10 @@
 #include "cli/club_files.h"
 
+#include "cli/shot_rows.h"
 #include "clubs/club_cells.h"
 #include "clubs/clubs_file.h"
 #include "exchange/csv_reader.h"
 #include "exchange/csv_rules.h"
-#include "exchange/shot_columns.h"
 #include "numbers/characters.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
@@ -18,14 +18,12 @@ namespace parabolt::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
-using nlohmann::json;
 
 /// A field of a club in files for people.
 struct ClubField {
     float ClubRecord::*member = nullptr;
     Column column;
 };
-constexpr Column kClubColumn{"club", shot_columns::kClub, {}};
 constexpr std::array<ClubField, 6> kFields = {{
     {&ClubRecord::LoftAngle, {"loft_deg", "Loft [deg]", "0.0"}},
     {&ClubRecord::HeadWeight, {"head_weight_g", "Head weight [g]", "0"}},
@@ -106,18 +104,18 @@ private:
 };
 
 Outcome<ClubTables, std::string> clubsOfJson(std::string_view text) {
-    const json root = json::parse(text, nullptr, false);
+    const nlohmann::json root = nlohmann::json::parse(text, nullptr, false);
     SetReader set;
     if (!root.is_object() || !root.contains("clubs") || !root["clubs"].is_array())
         return because(std::string("It holds no JSON object with an array \"clubs\"."));
     for (const auto& [key, member] : kTexts)
         if (const auto found = root.find(key); found != root.end() && found->is_string())
             set.tables().*member = found->get<std::string>();
-    for (const json& entry : root["clubs"]) {
+    for (const nlohmann::json& entry : root["clubs"]) {
         const auto name = entry.is_object() ? entry.find("club") : entry.end();
         if (name == entry.end() || !name->is_string())
             return because("A club without a name: " +
-                           entry.dump(-1, ' ', false, json::error_handler_t::replace));
+                           entry.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace));
         const auto club = set.begin(name->get<std::string>());
         if (!club)
             return because(club.why());
