@@ -1,7 +1,6 @@
 #include "cli/batch_rows.h"
 
 #include "cli/shot_rows.h"
-#include "exchange/shot_columns.h"
 #include "measured/devices.h"
 #include "numbers/characters.h"
 #include "shots/fault_words.h"
@@ -15,7 +14,6 @@ namespace parabolt::cli {
 namespace {
 
 constexpr Column kLine{"line", "Line", "0"};
-constexpr Column kClubColumn{"club", shot_columns::kClub, {}};
 constexpr Column kProblem{"problem", "Problem", {}};
 
 constexpr decltype(ShotInput::member) kBallSpeedMember = &ShotInputs::LaunchSpeed;

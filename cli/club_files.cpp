@@ -1,10 +1,10 @@
 #include "cli/club_files.h"
 
+#include "cli/shot_rows.h"
 #include "clubs/club_cells.h"
 #include "clubs/clubs_file.h"
 #include "exchange/csv_reader.h"
 #include "exchange/csv_rules.h"
-#include "exchange/shot_columns.h"
 #include "numbers/characters.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
@@ -24,7 +24,6 @@ struct ClubField {
     float ClubRecord::*member = nullptr;
     Column column;
 };
-constexpr Column kClubColumn{"club", shot_columns::kClub, {}};
 constexpr std::array<ClubField, 6> kFields = {{
     {&ClubRecord::LoftAngle, {"loft_deg", "Loft [deg]", "0.0"}},
     {&ClubRecord::HeadWeight, {"head_weight_g", "Head weight [g]", "0"}},

@@ -2,7 +2,7 @@
 
 #include "cli/row_writer.h"
 #include "cli/session_command.h"
-#include "exchange/shot_columns.h"
+#include "cli/shot_rows.h"
 #include "files/file_access.h"
 #include "measured/measured_codec.h"
 #include "numbers/rounding.h"
@@ -19,7 +19,7 @@ namespace {
 namespace heading = shot_columns;
 
 constexpr std::array<Column, 9> kBagColumns = {{
-    {"club", heading::kClub, {}},
+    kClubColumn,
     {"head_speed_mph", "Head speed [mph]", "0.0"},
     {"carry_yd", heading::kCarry, "0.0"},
     {"total_yd", heading::kTotal, "0.0"},

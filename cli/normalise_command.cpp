@@ -1,8 +1,7 @@
 #include "cli/normalise_command.h"
 
 #include "cli/monitor_file.h"
-#include "cli/row_writer.h"
-#include "exchange/shot_columns.h"
+#include "cli/shot_rows.h"
 #include "measured/measured_flights.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
@@ -17,7 +16,7 @@ namespace heading = shot_columns;
 
 constexpr std::array<Column, 9> kColumns = {{
     {"line", "Line", "0"},
-    {"club", heading::kClub, {}},
+    kClubColumn,
     {"ball_speed_mph", heading::kBallSpeed, "0.0"},
     {"launch_angle_deg", heading::kLaunchAngle, "0.0"},
     {"spin_rpm", heading::kSpin, "0"},

@@ -1,7 +1,6 @@
 #include "cli/shot_rows.h"
 
 #include "cli/shot_inputs.h"
-#include "exchange/shot_columns.h"
 #include "shots/figures.h"
 #include "shots/shown_figures.h"
 
@@ -59,7 +58,7 @@ std::vector<Column> composeConditionColumns() {
 }
 
 std::vector<Column> composeShotColumns() {
-    std::vector<Column> columns = {{"club", heading::kClub, {}}, {"mode", "Mode", {}}};
+    std::vector<Column> columns = {kClubColumn, {"mode", "Mode", {}}};
     const auto add = [&](const auto& more) {
         columns.insert(columns.end(), more.begin(), more.end());
     };

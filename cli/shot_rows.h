@@ -2,12 +2,15 @@
 
 #include "cli/row_writer.h"
 #include "engine/many_flights.h"
+#include "exchange/shot_columns.h"
 #include "shots/fly.h"
 
 #include <vector>
 
 namespace parabolt::cli {
 
+/// The name of a club.
+inline constexpr Column kClubColumn{"club", shot_columns::kClub, {}};
 /// The number of a data set.
 inline constexpr Column kDataSetColumn{"data_set", "Data set", "0"};
 
