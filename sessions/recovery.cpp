@@ -31,8 +31,8 @@ std::optional<Session> readSession(const std::string& fileName) {
     return session ? std::optional(std::move(*session)) : std::nullopt;
 }
 
-bool hasRuns(const std::optional<Session>& session) {
-    return session && !session->desk.runs.empty();
+bool holdsWork(const std::optional<Session>& session) {
+    return session && !workOn(session->desk).isNone();
 }
 
 /// Names of the locks, or of the desks, of running programs and abandoned ones, without ending, the
@@ -131,7 +131,7 @@ void Recovery::keep(Session session) {
     {
         const std::lock_guard guard(mutex_);
         const bool empties =
-            !waiting_.empty() && !waiting_.back().desk.runs.empty() && session.desk.runs.empty();
+            !waiting_.empty() && workOn(waiting_.back().desk).isLostOn(workOn(session.desk));
         if (!empties && !waiting_.empty())
             waiting_.pop_back();
         waiting_.push_back(std::move(session));
@@ -182,7 +182,7 @@ Outcome<std::string, Failure> Recovery::last() const {
 void Recovery::leaveAsLast(const std::string& name) {
     const std::string kept = file(name, kDeskEnding);
     const std::string last = file(kLast, kDeskEnding);
-    if (hasRuns(readSession(last)) && !hasRuns(readSession(kept)))
+    if (holdsWork(readSession(last)) && !holdsWork(readSession(kept)))
         return remove(name, kDeskEnding);
     makeRoomForLast();
     std::error_code ignored;
@@ -192,22 +192,22 @@ void Recovery::leaveAsLast(const std::string& name) {
 /// The last session becomes the previous one, if it is worth it.
 void Recovery::makeRoomForLast() {
     std::error_code ignored;
-    if (hasRuns(readSession(file(kLast, kDeskEnding))))
+    if (holdsWork(readSession(file(kLast, kDeskEnding))))
         fs::rename(file(kLast, kDeskEnding), file(kPrevious, kDeskEnding), ignored);
 }
 
 bool Recovery::write(const Session& session) {
     enterFolder();
     const std::string own = file(own_, kDeskEnding);
-    const bool empties = ownHasRuns_ && session.desk.runs.empty();
-    if (empties)
+    const DeskWork work = workOn(session.desk);
+    if (ownWork_.isLostOn(work))
         if (const auto full = readFile(own, kLongestSessionFile)) {
             makeRoomForLast();
             static_cast<void>(replaceFile(file(kLast, kDeskEnding), *full));
         }
     const auto written = replaceFile(own, encodeSession(session));
     if (written)
-        ownHasRuns_ = !session.desk.runs.empty();
+        ownWork_ = work;
     told_(written ? std::string() : written.why().description);
     return bool{written};
 }

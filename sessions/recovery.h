@@ -3,6 +3,7 @@
 #include "files/failure.h"
 #include "files/system_file.h"
 #include "numbers/outcome.h"
+#include "sessions/desk_work.h"
 #include "sessions/session_codec.h"
 
 #include <condition_variable>
@@ -19,7 +20,8 @@ namespace parabolt {
 /// Keeps the desk safe in the program's own state folder. Each running program has a file of its
 /// own there, beside a lock that ends with its process: a desk whose lock nobody holds is that of a
 /// program that did not end properly. An orderly end leaves the desk as `last.pbs`, and so does
-/// what empties a desk of its data sets; the last one before stays as `previous.pbs`.
+/// what empties a desk of its data sets or of its measured shots; the last one before stays as
+/// `previous.pbs`.
 ///
 /// A thread of its own writes the files; only `flush` and `finish` wait for it.
 class Recovery {
@@ -39,13 +41,13 @@ public:
     void settle(bool reopened);
 
     /// Writes a desk, soon: of several that come while one is being written, the last, and
-    /// the last with data sets before it was emptied. One that could not be written is tried again
-    /// every minute.
+    /// the last before all data sets or measured shots went. One that could not be written is tried
+    /// again every minute.
     void keep(Session session);
     /// Waits until all has been written, and says whether the last of it could be.
     bool flush();
-    /// Leaves a desk as the last session, and nothing for a recovery. One without data sets never
-    /// replaces one that has some.
+    /// Leaves a desk as the last session, and nothing for a recovery. One without data sets
+    /// and measured shots never replaces one that has some.
     void finish(const Session& session);
     /// Ends without a desk to leave.
     void finish();
@@ -70,7 +72,7 @@ private:
     std::function<void(const std::string&)> told_;
     std::string own_; ///< name of our files, without ending
     FileLock ownLock_;
-    bool ownHasRuns_ = false; ///< has the desk in our file data sets?
+    DeskWork ownWork_; ///< on the desk in our file
 
     struct Abandoned {
         std::string name;

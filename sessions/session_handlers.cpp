@@ -1,7 +1,7 @@
 #include "sessions/session_handlers.h"
 
 #include "files/file_access.h"
-#include "measured/measured_codec.h"
+#include "sessions/desk_work.h"
 
 #include <algorithm>
 #include <iterator>
@@ -16,23 +16,16 @@ constexpr std::string_view kNoLastSession = "There is no last session to reopen.
 constexpr std::string_view kGoBack = "Go &Back";
 constexpr std::size_t kDateLength = 10; ///< of "2026-11-23 10:32"
 
-/// Number of measured shots on a desk.
-std::size_t measuredShots(const Desk& desk) {
-    const auto found = desk.windows.find(kMeasuredKey);
-    const auto session =
-        found == desk.windows.end() ? std::nullopt : decodeMeasured(found->second.text());
-    return session ? session->entries.size() : 0;
-}
-
 /// What a desk is told by: its data sets, or the measured shots of one without any, or else `none`.
 std::string contentOf(const Desk& desk, std::string_view none) {
     const auto counted = [](std::size_t count, const std::string& what) {
         return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
     };
-    if (!desk.runs.empty())
-        return counted(desk.runs.size(), "data set");
-    const std::size_t shots = measuredShots(desk);
-    return shots > 0 ? counted(shots, "measured shot") : std::string(none);
+    const DeskWork work = workOn(desk);
+    if (work.dataSets > 0)
+        return counted(work.dataSets, "data set");
+    return work.measuredShots > 0 ? counted(work.measuredShots, "measured shot")
+                                  : std::string(none);
 }
 
 /// What a user does to a text by hand: letter by letter, or at a stroke that takes several away.

@@ -1,4 +1,5 @@
 #include "files/file_access.h"
+#include "measured/measured_codec.h"
 #include "results/result_table.h"
 #include "tests/support/scripted_form.h"
 #include "tests/support/temporary_folder.h"
@@ -393,6 +394,14 @@ TEST(Recovery, AnOrderlyEndLeavesTheDeskAndNoEmptyOneReplacesIt) {
     reopens(4);
     EXPECT_EQ(decodeSession(contentOf(folder.path("state/previous.pbs")))->desk.runs.size(), 4U)
         << "each visit leaves its desk, and the one before stays";
+    visit([](ScriptedForm& user) {
+        MeasuredSession measured;
+        measured.entries.resize(2, {.shot = {1, "7i", 120, 16, 6000, {}, {}}});
+        user.form.windows[kMeasuredKey] = encodeMeasured(measured);
+        user.form.Wiping();
+        EXPECT_EQ(user.form.mnuGoBack.caption(), "Go &Back: 2 measured shots, 10:32");
+    });
+    reopens(0); // measured shots are work too
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path("state")), {}), 2);
 }
 
