@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kDegrees = "\u00b0";
 
-enum Row : std::size_t { kSpin, kLaunchAngle, kAttack, kLoft };
+enum Row : std::size_t { SpinRow, LaunchAngleRow, AttackRow, LoftRow };
 
 // limits; name, unit, member; step, grain; the one kind of map that has it
 constexpr std::array<MapInput, 14> kMapInputs = {{
@@ -57,15 +57,15 @@ std::span<const MapInput> mapInputs() {
 }
 
 const MapInput& acrossInput(MapKind kind) {
-    return kMapInputs[kind == MapKind::Launch ? kSpin : kAttack];
+    return kMapInputs[kind == MapKind::Launch ? SpinRow : AttackRow];
 }
 
 const MapInput& upInput(MapKind kind) {
-    return kMapInputs[kind == MapKind::Launch ? kLaunchAngle : kLoft];
+    return kMapInputs[kind == MapKind::Launch ? LaunchAngleRow : LoftRow];
 }
 
 const MapInput& loftInput() {
-    return kMapInputs[kLoft];
+    return kMapInputs[LoftRow];
 }
 
 } // namespace parabolt

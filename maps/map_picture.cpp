@@ -80,10 +80,11 @@ private:
     void ground() {
         // The values of an axis at the middles of its pixels.
         const auto middles = [](const MapAxis& axis, double twips) {
-            const int pixels = std::max(1, static_cast<int>(twips / kImagePixel));
-            std::vector<double> values;
-            for (int i = 0; i < pixels; ++i)
-                values.push_back(std::lerp(axis.first, axis.end(), (i + 0.5) / pixels));
+            const auto pixels = static_cast<std::size_t>(std::max(1.0, twips / kImagePixel));
+            std::vector<double> values(pixels);
+            for (std::size_t i = 0; i < pixels; ++i)
+                values[i] = std::lerp(axis.first, axis.end(),
+                                      (static_cast<double>(i) + 0.5) / static_cast<double>(pixels));
             return values;
         };
         const auto across = middles(result_.request.ranges.across, frame_.size().x);

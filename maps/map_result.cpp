@@ -53,7 +53,7 @@ Outcome<Shot, Fault> baseOf(const Shot& shot, MapKind kind) {
     if (!state)
         return because(state.why());
     Shot base = shot;
-    static_cast<ShotInputs&>(base) = *state;
+    static_cast<ShotInputs&>(base) = static_cast<const ShotInputs&>(*state);
     base.sources = {};
     base.Mode = kind == MapKind::Launch ? OperatingMode::Launch : OperatingMode::Manual;
     return base;

@@ -83,7 +83,7 @@ std::vector<ReachNode> flyLofts(const Shot& swing, double first, double last, do
     const auto cells = flyAll(shots, stop);
     for (std::size_t i = 0; i < cells.size(); ++i) {
         if (const auto launch = prepare(shots[i]))
-            static_cast<ShotInputs&>(shots[i]) = *launch;
+            static_cast<ShotInputs&>(shots[i]) = static_cast<const ShotInputs&>(*launch);
         nodes.push_back({loftInput().of(shots[i]), shots[i], cells[i]});
     }
     return nodes;

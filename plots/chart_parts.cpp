@@ -2,6 +2,7 @@
 
 #include "controls/units.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace parabolt {
@@ -35,6 +36,7 @@ std::vector<double> roundValues(double low, double high, double step) {
     const double first = std::ceil(low / step - kSlack);
     const auto count = static_cast<int>(std::floor(high / step + kSlack) - first) + 1;
     std::vector<double> values;
+    values.reserve(static_cast<std::size_t>(std::max(0, count)));
     for (int i = 0; i < count; ++i)
         values.push_back((first + i) * step);
     return values;

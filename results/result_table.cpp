@@ -12,10 +12,10 @@ namespace {
 
 /// One column of numbers: its three headings, and the cell below them.
 struct NumberColumn {
-    std::int16_t headingEnd; ///< column of the headings' last character
+    std::int16_t headingEnd = 0; ///< column of the headings' last character
     std::array<std::string_view, 3> headings;
-    clsMatrixStr::Align align;
-    std::int16_t cellColumn;
+    clsMatrixStr::Align align = clsMatrixStr::Right;
+    std::int16_t cellColumn = 0;
     ShownFigure figure;
 };
 

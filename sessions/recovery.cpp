@@ -47,6 +47,7 @@ std::vector<std::string> filesIn(const std::string& folder, std::string_view end
     }
     std::sort(found.rbegin(), found.rend());
     std::vector<std::string> names;
+    names.reserve(found.size());
     for (auto& [time, name] : found)
         names.push_back(std::move(name));
     return names;

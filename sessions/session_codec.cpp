@@ -149,16 +149,16 @@ int readChoice(const Json& json, int least, int greatest) {
     return choice;
 }
 
-template <class Owner, std::size_t count>
-Json writeMembers(const Owner& owner, const std::array<Member<Owner>, count>& members) {
+template <class Owner, std::size_t Count>
+Json writeMembers(const Owner& owner, const std::array<Member<Owner>, Count>& members) {
     Json json = Json::object();
     for (const Member<Owner>& member : members)
         std::visit([&](auto at) { json[member.name] = writeNumber(owner.*at); }, member.at);
     return json;
 }
 
-template <class Owner, std::size_t count>
-void readMembers(const Json& json, const std::array<Member<Owner>, count>& members, Owner& owner) {
+template <class Owner, std::size_t Count>
+void readMembers(const Json& json, const std::array<Member<Owner>, Count>& members, Owner& owner) {
     for (const Member<Owner>& member : members)
         std::visit(
             [&](auto at) {
@@ -247,10 +247,10 @@ Json writeClubs(const ClubTables& clubs) {
     return json;
 }
 
-template <std::size_t count>
-void readClubList(const Json& json, std::array<ClubRecord, count>& clubs) {
-    require(json.size() == count);
-    for (std::size_t i = 0; i < count; ++i)
+template <std::size_t Count>
+void readClubList(const Json& json, std::array<ClubRecord, Count>& clubs) {
+    require(json.size() == Count);
+    for (std::size_t i = 0; i < Count; ++i)
         readMembers(json.at(i), kClub, clubs.at(i));
 }
 

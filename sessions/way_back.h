@@ -31,7 +31,7 @@ public:
 private:
     struct Kept {
         Session session;
-        bool beforeWipe;
+        bool beforeWipe = false;
         unsigned long number = 0; ///< rises with the time of keeping
     };
     struct Small {
