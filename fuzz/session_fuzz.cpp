@@ -2,6 +2,8 @@
 #include "mainform/validators.h"
 #include "sessions/form_desk.h"
 #include "sessions/session_codec.h"
+#include "sets/data_sets.h"
+#include "tables/table_text.h"
 
 #include <cstdlib>
 
@@ -29,6 +31,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     layDesk(form, session->desk);
     plot.Form_Resize({20000, 12000, 300}, false);
     plot.PreparePrintPlots();
+    static_cast<void>(plot.inWords());
+    const DataSets sets(form.Runs);
+    static_cast<void>(tableAsCsv(sets, wholeTable(sets)));
     const std::string once = encodeSession({takeDesk(form), session->time});
     const auto again = decodeSession(once);
     if (!again)

@@ -12,10 +12,9 @@ struct DeskWork {
     std::size_t measuredShots = 0;
 
     bool isNone() const { return dataSets == 0 && measuredShots == 0; }
-    /// True if a later desk has nothing left of one of them.
+    /// True if a later desk has fewer of one of them.
     bool isLostOn(const DeskWork& later) const {
-        return (dataSets > 0 && later.dataSets == 0) ||
-               (measuredShots > 0 && later.measuredShots == 0);
+        return later.dataSets < dataSets || later.measuredShots < measuredShots;
     }
 };
 

@@ -197,15 +197,25 @@ void Recovery::makeRoomForLast() {
         fs::rename(file(kLast, kDeskEnding), file(kPrevious, kDeskEnding), ignored);
 }
 
+/// Leaves the desk in our file as the last session before a lesser one takes its place.
+void Recovery::saveOwnAsLast() {
+    const std::string own = file(own_, kDeskEnding);
+    const std::string last = file(kLast, kDeskEnding);
+    if (const auto kept = readFile(own, kLongestSessionFile)) {
+        makeRoomForLast();
+        std::error_code ignored;
+        if (!replaceFile(last, *kept)) // a full disk: a new name needs no room
+            fs::rename(own, last, ignored);
+    }
+    ownWork_ = {};
+}
+
 bool Recovery::write(const Session& session) {
     enterFolder();
     const std::string own = file(own_, kDeskEnding);
     const DeskWork work = workOn(session.desk);
     if (ownWork_.isLostOn(work))
-        if (const auto full = readFile(own, kLongestSessionFile)) {
-            makeRoomForLast();
-            static_cast<void>(replaceFile(file(kLast, kDeskEnding), *full));
-        }
+        saveOwnAsLast();
     const auto written = replaceFile(own, encodeSession(session));
     if (written)
         ownWork_ = work;

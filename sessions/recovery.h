@@ -20,7 +20,7 @@ namespace parabolt {
 /// Keeps the desk safe in the program's own state folder. Each running program has a file of its
 /// own there, beside a lock that ends with its process: a desk whose lock nobody holds is that of a
 /// program that did not end properly. An orderly end leaves the desk as `last.pbs`, and so does
-/// what empties a desk of its data sets or of its measured shots; the last one before stays as
+/// what leaves fewer data sets or measured shots on a desk; the last one before stays as
 /// `previous.pbs`.
 ///
 /// A thread of its own writes the files; only `flush` and `finish` wait for it.
@@ -41,7 +41,7 @@ public:
     void settle(bool reopened);
 
     /// Writes a desk, soon: of several that come while one is being written, the last, and
-    /// the last before all data sets or measured shots went. One that could not be written is tried
+    /// the last before data sets or measured shots went. One that could not be written is tried
     /// again every minute.
     void keep(Session session);
     /// Waits until all has been written, and says whether the last of it could be.
@@ -65,6 +65,7 @@ private:
     bool write(const Session& session);
     void leaveAsLast(const std::string& name);
     void makeRoomForLast();
+    void saveOwnAsLast();
     std::string file(const std::string& name, std::string_view ending) const;
     void remove(const std::string& name, std::string_view ending);
 

@@ -232,6 +232,8 @@ std::vector<RunRecord> readRuns(const Json& json) {
         readMembers(json[i], kRecord, runs[i]);
         runs[i].CurveColor = readColour(json[i].at("CurveColor"));
         runs[i].Path = readPath(json[i].at("Path"));
+        // The landing of a flight stands between its last two points.
+        require(!(runs[i].CarryTime > 0) || runs[i].Path.size() >= 2);
     }
     return runs;
 }

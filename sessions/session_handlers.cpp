@@ -101,7 +101,10 @@ void SessionHandlers::recover() {
 }
 
 void SessionHandlers::open(const std::string& fileName) {
-    openText(readFile(fileName, kLongestSessionFile));
+    const auto text = readFile(fileName, kLongestSessionFile);
+    if (!text)
+        return messages_.show(readFailureMessage(text.why()));
+    openText(*text);
 }
 
 void SessionHandlers::actionEnded() {
@@ -124,7 +127,10 @@ void SessionHandlers::finish() {
 void SessionHandlers::mnuOpenSession_Click() {
     const auto load = [this](const std::string& fileName,
                              std::string_view) -> Outcome<void, Failure> {
-        open(fileName);
+        const auto text = readFile(fileName, kLongestSessionFile);
+        if (!text)
+            return because(text.why());
+        openText(*text);
         return {};
     };
     if (const auto done = dialogs_.run(DialogPurpose::OpenSession, load); !done)
@@ -142,10 +148,11 @@ void SessionHandlers::mnuSaveSession_Click() {
 
 void SessionHandlers::mnuReopenSession_Click() {
     const auto text = recovery_.last();
-    if (!text && text.why().number == kBadFileName)
-        messages_.show(kNoLastSession);
+    if (text)
+        openText(*text);
     else
-        openText(text);
+        messages_.show(text.why().number == kBadFileName ? kNoLastSession
+                                                         : readFailureMessage(text.why()));
 }
 
 void SessionHandlers::mnuGoBack_Click() {
@@ -174,10 +181,8 @@ void SessionHandlers::lay(const Desk& desk) {
     plot_.tellNewest();
 }
 
-void SessionHandlers::openText(const Outcome<std::string, Failure>& text) {
-    if (!text)
-        return messages_.show(readFailureMessage(text.why()));
-    const auto session = decodeSession(*text);
+void SessionHandlers::openText(std::string_view text) {
+    const auto session = decodeSession(text);
     if (!session)
         return messages_.show(session.why() == NoSession::Newer ? kNewerVersion : kFileMismatch);
     form_.Wiping();

@@ -48,7 +48,7 @@ private:
     Session present() const { return {takeDesk(form_), surroundings_.localTime()}; }
     std::string timeOf(const Session& session) const;
     void lay(const Desk& desk);
-    void openText(const Outcome<std::string, Failure>& text);
+    void openText(std::string_view text);
     void showWayBack();
 
     MainForm& form_;

@@ -167,6 +167,7 @@ TEST(Session, IsRefusedWithAWordAndChangesNothing) {
         {"\"Path\":[", "\"Path\":[null,1,"},
         {"\"Path\":[", "\"Path\":[\"7fc0000x\",1,"},
         {"\"Path\":[", "\"Path\":[1e999,1,"},
+        {"\"Path\":[", "\"Path\":[],\"Paths\":["},
         {"\"CurveColor\":[", "\"CurveColor\":[256,"},
         {"\"ClubNo\":1,", "\"ClubNo\":40000,"},
         {"\"txtWind\":\"7.3\"", "\"txtWind\":7.3"},
@@ -395,6 +396,15 @@ TEST(Recovery, AnOrderlyEndLeavesTheDeskAndNoEmptyOneReplacesIt) {
     EXPECT_EQ(decodeSession(contentOf(folder.path("state/previous.pbs")))->desk.runs.size(), 4U)
         << "each visit leaves its desk, and the one before stays";
     visit([](ScriptedForm& user) {
+        user.run(RunBook::kMost);
+        user.main.sessions.actionEnded();
+        user.messages.answers = {Answer::No};
+        user.run(1);
+        user.messages.texts.clear();
+    });
+    EXPECT_EQ(decodeSession(contentOf(folder.path("state/previous.pbs")))->desk.runs.size(), 24U)
+        << "No to the full buffer wipes, and flies, in one action";
+    visit([](ScriptedForm& user) {
         MeasuredSession measured;
         measured.entries.resize(2, {.shot = {1, "7i", 120, 16, 6000, {}, {}}});
         user.form.windows[kMeasuredKey] = encodeMeasured(measured);
@@ -430,6 +440,12 @@ TEST(Recovery, TellsAFullDiskAndAFolderThatCannotBeWritten) {
     std::filesystem::remove_all(folder.path("state"));
     recovery.keep(work);
     EXPECT_TRUE(recovery.flush()) << "the folder is made anew";
+    {
+        const FailingDisk room(10000); // for the empty desk alone
+        recovery.keep({{}, ""});
+        EXPECT_TRUE(recovery.flush());
+        EXPECT_EQ(decodeSession(*recovery.last())->desk, work.desk);
+    }
     const FailingDisk full(1000);
     recovery.finish({WorkingUser(1).desk(), ""});
     EXPECT_EQ(decodeSession(*recovery.last())->desk, work.desk) << "the last that could be kept";
