@@ -59,6 +59,16 @@ ExitStatus check(const ClubTables& clubs, const Console& console) {
     return found.empty() ? ExitStatus::Done : ExitStatus::BadInput;
 }
 
+/// The set that the options name: one to be checked may have any values.
+Outcome<ClubTables, Refusal> setOf(const ClubsOptions& options, const Session* session,
+                                   const Console& console) {
+    if (options.file.empty())
+        return session != nullptr ? session->desk.clubs : InitClubTables();
+    return readClubs(options.file, console,
+                     options.action == ClubsOptions::Action::Check ? FaultySet::Taken
+                                                                   : FaultySet::Refused);
+}
+
 /// The format that the name of a file tells.
 std::optional<ClubsFormat> formatOfName(std::string_view name) {
     if (name.ends_with(".clb"))
@@ -184,10 +194,7 @@ ExitStatus clubsCommand(const ClubsOptions& options, const Console& console) {
             return console.complain(read.why());
         session = *std::move(read);
     }
-    ShotOptions source;
-    source.clubsFile = options.file;
-    const auto clubs =
-        session && options.file.empty() ? session->desk.clubs : clubsFor(source, console);
+    const auto clubs = setOf(options, session ? &*session : nullptr, console);
     if (!clubs)
         return console.complain(clubs.why());
     const Format format = options.format.value_or(console.usualFormat());
@@ -201,6 +208,8 @@ ExitStatus clubsCommand(const ClubsOptions& options, const Console& console) {
     case ClubsOptions::Action::Fly:
         break;
     }
+    if (const auto checked = check(*clubs, console); checked != ExitStatus::Done)
+        return checked;
     const auto bag = bagOf(options, session ? &*session : nullptr);
     if (!bag)
         return console.complain(bag.why());
