@@ -7,7 +7,6 @@
 #include "measured/measured_codec.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
-#include "shots/fault_words.h"
 
 #include <algorithm>
 #include <utility>
@@ -113,23 +112,21 @@ Outcome<BagChoice, Refusal> bagOf(const ClubsOptions& options, const Session* se
     struct Given {
         std::string_view option;
         const std::optional<std::string>& text;
-        double least;
-        double most;
+        InputLimits limits;
         std::variant<float BagChoice::*, double BagChoice::*> member;
     };
     for (const Given& given :
-         {Given{"--first-speed-mph", options.firstSpeed, limits::kHeadSpeed.lowest,
-                limits::kHeadSpeed.highest, &BagChoice::firstSpeed},
-          Given{"--fall-mph", options.fall, 0, 5, &BagChoice::fall},
-          Given{"--narrowest-yd", options.narrowest, 0, 100, &BagChoice::narrowest},
-          Given{"--widest-yd", options.widest, 0, 100, &BagChoice::widest}}) {
+         {Given{"--first-speed-mph", options.firstSpeed, limits::kHeadSpeed,
+                &BagChoice::firstSpeed},
+          Given{"--fall-mph", options.fall, limits::kBagFall, &BagChoice::fall},
+          Given{"--narrowest-yd", options.narrowest, limits::kBagGap, &BagChoice::narrowest},
+          Given{"--widest-yd", options.widest, limits::kBagGap, &BagChoice::widest}}) {
         if (!given.text)
             continue;
         const auto value = parseNumber(*given.text);
-        if (!value || *value < given.least || *value > given.most)
-            return because(Refusal{std::string(given.option) + ": Enter a value between " +
-                                   shortestText(given.least) + " and " + shortestText(given.most) +
-                                   "."});
+        if (!value || !given.limits.hold(*value))
+            return because(
+                Refusal{std::string(given.option) + ": " + std::string(given.limits.rangeMessage)});
         if (const auto* narrow = std::get_if<float BagChoice::*>(&given.member)) {
             bag.*(*narrow) = store32(*value);
             bag.speeds = HeadSpeeds::Falling;
@@ -164,14 +161,14 @@ ExitStatus flyClubs(const ClubTables& clubs, const BagChoice& bag, const ClubsOp
         const BagFlight& club = flights[i];
         const std::string& name = bag.clubs.at(club.at).name;
         std::vector<Cell> cells = {std::string_view(name), club.headSpeed};
-        if (club.flight.fault) {
+        if (!club.problem.empty()) {
             failed = true;
             cells.resize(kBagColumns.size() - 1);
-            cells.emplace_back(faultDescription(*club.flight.fault));
+            cells.emplace_back(club.problem);
             rows.row(cells);
             continue;
         }
-        const Figures& figures = club.flight.figures;
+        const Figures& figures = club.figures;
         cells.insert(cells.end(), {store32(figures.carry), figures.total, store32(figures.height),
                                    figures.landingAngle, store32(figures.time)});
         const auto gap = std::find_if(gaps.begin(), gaps.end(),

@@ -116,6 +116,9 @@ TEST(Command, EndsAsItsManualSays) {
         {"clubs fly --narrowest-yd nan", "", 2, "", "--narrowest-yd: Enter a value between 0"},
         {"clubs fly --narrowest 19", "", 2, "", "19 yards, is above the widest, 18 yards"},
         {"clubs fly --first-speed 105 --fall 2.5", "", 0, "\r\n3W,100,235.7", ""},
+        {"clubs fly --first-speed 49", "", 2, "", "Enter a head speed between 50 and 165 mph."},
+        {"clubs fly --first-speed 60 --fall 5", "", 1, "\r\n5i,40,,,,,,,Enter a head speed", ""},
+        {"clubs fly --fall 6", "", 2, "", "--fall-mph: Enter a value between 0 and 5 mph"},
         {"clubs fly --bag /nowhere", "", 3, "", "/nowhere: No such file"},
     };
     for (const Told& each : cases) {
