@@ -39,6 +39,7 @@ struct NumberRange {
     int decimals;
     const char* unit = ""; ///< behind the number, with a blank in front
 };
+/// With the limits of an input.
 constexpr NumberRange rangeOf(const InputLimits& limits, double step, int decimals,
                               const char* unit) {
     return {limits.lowest, limits.highest, step, decimals, unit};
