@@ -237,7 +237,8 @@ std::vector<Cell> clubCells(std::string_view name, const ClubRecord& club) {
     return cells;
 }
 
-Outcome<ClubTables, Refusal> readClubs(const std::string& name, const Console& console) {
+Outcome<ClubTables, Refusal> readClubs(const std::string& name, const Console& console,
+                                       FaultySet faulty) {
     auto input = Input::open(name, console);
     if (!input)
         return because(input.why());
@@ -260,7 +261,13 @@ Outcome<ClubTables, Refusal> readClubs(const std::string& name, const Console& c
     const auto clubs = isJson ? clubsOfJson(text) : clubsOfCsv(text);
     if (!clubs)
         return refuse(clubs.why());
-    return *clubs;
+    if (faulty == FaultySet::Taken)
+        return *clubs;
+    const auto faults = checkClubs(*clubs);
+    if (faults.empty())
+        return *clubs;
+    const std::string more = std::to_string(faults.size()) + "; clubs check tells all.)";
+    return refuse(faults.front() + (faults.size() == 1 ? "" : " (The first fault of " + more));
 }
 
 Outcome<std::string, std::string> clubsContent(const ClubTables& clubs, ClubsFormat format) {

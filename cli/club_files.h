@@ -5,9 +5,13 @@
 
 namespace parabolt::cli {
 
+/// What is made of a set as CSV or JSON in which `checkClubs` finds a fault.
+enum class FaultySet { Refused, Taken };
+
 /// Reads a clubs file: the program's own, or CSV or JSON as `clubs convert` writes them. The
-/// content tells which. Values may be anything; `checkClubs` judges them.
-Outcome<ClubTables, Refusal> readClubs(const std::string& name, const Console& console);
+/// content tells which. The values of the program's own may be anything, as in the window.
+Outcome<ClubTables, Refusal> readClubs(const std::string& name, const Console& console,
+                                       FaultySet faulty = FaultySet::Refused);
 
 /// A file format for club sets.
 enum class ClubsFormat { Program, Csv, Json };

@@ -7,7 +7,6 @@
 #include "measured/measured_codec.h"
 #include "numbers/rounding.h"
 #include "numbers/text_number.h"
-#include "shots/fault_words.h"
 
 #include <algorithm>
 #include <utility>
@@ -59,6 +58,16 @@ ExitStatus check(const ClubTables& clubs, const Console& console) {
     return found.empty() ? ExitStatus::Done : ExitStatus::BadInput;
 }
 
+/// The set that the options name: one to be checked may have any values.
+Outcome<ClubTables, Refusal> setOf(const ClubsOptions& options, const Session* session,
+                                   const Console& console) {
+    if (options.file.empty())
+        return session != nullptr ? session->desk.clubs : InitClubTables();
+    return readClubs(options.file, console,
+                     options.action == ClubsOptions::Action::Check ? FaultySet::Taken
+                                                                   : FaultySet::Refused);
+}
+
 /// The format that the name of a file tells.
 std::optional<ClubsFormat> formatOfName(std::string_view name) {
     if (name.ends_with(".clb"))
@@ -103,23 +112,21 @@ Outcome<BagChoice, Refusal> bagOf(const ClubsOptions& options, const Session* se
     struct Given {
         std::string_view option;
         const std::optional<std::string>& text;
-        double least;
-        double most;
+        InputLimits limits;
         std::variant<float BagChoice::*, double BagChoice::*> member;
     };
     for (const Given& given :
-         {Given{"--first-speed-mph", options.firstSpeed, limits::kHeadSpeed.lowest,
-                limits::kHeadSpeed.highest, &BagChoice::firstSpeed},
-          Given{"--fall-mph", options.fall, 0, 5, &BagChoice::fall},
-          Given{"--narrowest-yd", options.narrowest, 0, 100, &BagChoice::narrowest},
-          Given{"--widest-yd", options.widest, 0, 100, &BagChoice::widest}}) {
+         {Given{"--first-speed-mph", options.firstSpeed, limits::kHeadSpeed,
+                &BagChoice::firstSpeed},
+          Given{"--fall-mph", options.fall, limits::kBagFall, &BagChoice::fall},
+          Given{"--narrowest-yd", options.narrowest, limits::kBagGap, &BagChoice::narrowest},
+          Given{"--widest-yd", options.widest, limits::kBagGap, &BagChoice::widest}}) {
         if (!given.text)
             continue;
         const auto value = parseNumber(*given.text);
-        if (!value || *value < given.least || *value > given.most)
-            return because(Refusal{std::string(given.option) + ": Enter a value between " +
-                                   shortestText(given.least) + " and " + shortestText(given.most) +
-                                   "."});
+        if (!value || !given.limits.hold(*value))
+            return because(
+                Refusal{std::string(given.option) + ": " + std::string(given.limits.rangeMessage)});
         if (const auto* narrow = std::get_if<float BagChoice::*>(&given.member)) {
             bag.*(*narrow) = store32(*value);
             bag.speeds = HeadSpeeds::Falling;
@@ -154,14 +161,14 @@ ExitStatus flyClubs(const ClubTables& clubs, const BagChoice& bag, const ClubsOp
         const BagFlight& club = flights[i];
         const std::string& name = bag.clubs.at(club.at).name;
         std::vector<Cell> cells = {std::string_view(name), club.headSpeed};
-        if (club.flight.fault) {
+        if (!club.problem.empty()) {
             failed = true;
             cells.resize(kBagColumns.size() - 1);
-            cells.emplace_back(faultDescription(*club.flight.fault));
+            cells.emplace_back(club.problem);
             rows.row(cells);
             continue;
         }
-        const Figures& figures = club.flight.figures;
+        const Figures& figures = club.figures;
         cells.insert(cells.end(), {store32(figures.carry), figures.total, store32(figures.height),
                                    figures.landingAngle, store32(figures.time)});
         const auto gap = std::find_if(gaps.begin(), gaps.end(),
@@ -184,10 +191,7 @@ ExitStatus clubsCommand(const ClubsOptions& options, const Console& console) {
             return console.complain(read.why());
         session = *std::move(read);
     }
-    ShotOptions source;
-    source.clubsFile = options.file;
-    const auto clubs =
-        session && options.file.empty() ? session->desk.clubs : clubsFor(source, console);
+    const auto clubs = setOf(options, session ? &*session : nullptr, console);
     if (!clubs)
         return console.complain(clubs.why());
     const Format format = options.format.value_or(console.usualFormat());
@@ -201,6 +205,8 @@ ExitStatus clubsCommand(const ClubsOptions& options, const Console& console) {
     case ClubsOptions::Action::Fly:
         break;
     }
+    if (const auto checked = check(*clubs, console); checked != ExitStatus::Done)
+        return checked;
     const auto bag = bagOf(options, session ? &*session : nullptr);
     if (!bag)
         return console.complain(bag.why());

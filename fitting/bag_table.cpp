@@ -1,6 +1,7 @@
 #include "fitting/bag_table.h"
 
 #include "fitting/comparison.h"
+#include "fitting/measured_words.h"
 #include "numbers/characters.h"
 #include "numbers/text_number.h"
 
@@ -57,10 +58,10 @@ std::array<TableColumn, 16> bagColumns(const std::string& whose) {
 }
 
 TableCell flightCell(const BagFlight& flight, std::size_t column) {
-    const Figures& figures = flight.flight.figures;
+    const Figures& figures = flight.figures;
     if (column == HeadSpeed)
         return numberCell(flight.headSpeed, kYards);
-    if (flight.flight.fault)
+    if (!flight.problem.empty())
         return column == Carry ? TableCell{"no flight"} : TableCell();
     switch (column) {
     case Carry:
@@ -173,7 +174,7 @@ std::vector<CarryLine> BagTable::carryLines() const {
         const BagFlight* flight = flightOf(row);
         CarryLine& line = lines.emplace_back();
         line.name = clubs[row].name;
-        if (flight != nullptr && !flight->flight.fault)
+        if (flight != nullptr && flight->problem.empty())
             line.computed = flight->carry();
         if (flight != nullptr || clubs[row].owned)
             line.measured = measured_.clubs[row].carry;
@@ -197,6 +198,25 @@ std::string BagTable::verdictOn(std::span<const BagGap> gaps) const {
     return text;
 }
 
+/// "No flight with SW, LW: Enter a head speed ... ", for each problem.
+std::string BagTable::problems() const {
+    std::vector<std::pair<std::string_view, std::string>> clubsByProblem;
+    for (const BagFlight& flight : flights_) {
+        if (flight.problem.empty())
+            continue;
+        auto same = std::find_if(clubsByProblem.begin(), clubsByProblem.end(),
+                                 [&](const auto& each) { return each.first == flight.problem; });
+        if (same == clubsByProblem.end())
+            clubsByProblem.emplace_back(flight.problem, nameOf(flight.at));
+        else
+            same->second += ", " + nameOf(flight.at);
+    }
+    std::string text;
+    for (const auto& [problem, named] : clubsByProblem)
+        text += "No flight with " + named + ": " + std::string(problem) + " ";
+    return text;
+}
+
 std::string BagTable::summary() const {
     std::string text = verdictOn(gaps_);
     if (!isFlown())
@@ -207,13 +227,13 @@ std::string BagTable::summary() const {
         text = "A gap lies between two clubs that fly. ";
     else if (text.empty())
         text = "All gaps lie within the limits. ";
+    text += problems();
     if (const std::string measured = verdictOn(measuredGaps_); !measured.empty())
         text += std::string(figuresHeading(fitting_.session().computesCarry)) +
                 " means: " + lowerCase(measured.substr(0, 1)) + measured.substr(1);
     std::string strangers;
     for (const std::string& club : measured_.strangers)
-        strangers +=
-            (strangers.empty() ? "" : ", ") + (club.empty() ? std::string("(no club)") : club);
+        strangers += (strangers.empty() ? "" : ", ") + shownClub(club);
     if (!strangers.empty())
         text += "Measured, but not in the bag: " + strangers + ". ";
     text.pop_back();

@@ -26,7 +26,8 @@ public:
     std::vector<CarryLine> carryLines() const;
     /// Gaps between rows: of the computed carries, or, before the bag was flown, of the measured.
     std::span<const BagGap> gaps() const { return isFlown() ? gaps_ : measuredGaps_; }
-    /// What the gaps say, in words, and which measured clubs are none of the bag.
+    /// What the gaps say, in words, why clubs have no flight, and which measured clubs are none of
+    /// the bag.
     std::string summary() const;
 
     std::span<const TableColumn> columns() const override;
@@ -50,6 +51,7 @@ private:
         return fitting_.session().bag.clubs[row].name;
     }
     std::string verdictOn(std::span<const BagGap> gaps) const;
+    std::string problems() const;
 
     Fitting& fitting_;
     const ClubTables& tables_;

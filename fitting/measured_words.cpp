@@ -39,12 +39,21 @@ std::string bestAndWorst(const std::vector<ClubStatistics>& clubs) {
         std::minmax_element(told.begin(), told.end(), [](const auto* one, const auto* other) {
             return std::abs(one->carryError->mean) < std::abs(other->carryError->mean);
         });
-    return " Closest with " + (*best)->club + " (" + withSign((*best)->carryError->mean) +
-           "), farthest off with " + (*worst)->club + " (" + withSign((*worst)->carryError->mean) +
-           ").";
+    const auto named = [](const ClubStatistics& club) {
+        return shownClub(club.club) + " (" + withSign(club.carryError->mean) + ")";
+    };
+    return " Closest with " + named(**best) + ", farthest off with " + named(**worst) + ".";
+}
+
+bool countsWithCarry(const MeasuredEntry& entry) {
+    return !entry.struck && entry.shot.device.carry;
 }
 
 } // namespace
+
+std::string shownClub(const std::string& club) {
+    return club.empty() ? "(no club)" : club;
+}
 
 std::string sourceInWords(const MeasuredSession& session) {
     if (session.entries.empty())
@@ -82,7 +91,8 @@ std::string comparisonInWords(const MeasuredSession& session, const Comparison& 
     }
     words = words.empty() ? "The file brings no figure to compare with the model's."
                           : words + "." + bestAndWorst(comparison.clubs());
-    if (session.computesCarry)
+    if (session.computesCarry &&
+        std::any_of(session.entries.begin(), session.entries.end(), countsWithCarry))
         words += " The device computes its carry, at least in part: it is another model, not a "
                  "measured distance.";
     const auto failed =

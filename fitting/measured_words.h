@@ -4,6 +4,9 @@
 
 namespace parabolt {
 
+/// The club of a shot as people read it: "(no club)" where none is told.
+std::string shownClub(const std::string& club);
+
 /// The shots in a line: where they come from, how many there are and how many count.
 std::string sourceInWords(const MeasuredSession& session);
 

@@ -1,6 +1,7 @@
 #include "measured/bag.h"
 
 #include "numbers/rounding.h"
+#include "shots/fault_words.h"
 #include "shots/fly.h"
 
 #include <algorithm>
@@ -69,17 +70,29 @@ std::vector<BagFlight> flyBag(const BagChoice& choice, const ClubTables& tables,
                               const Shot& conditions) {
     std::vector<BagFlight> flights;
     std::vector<Shot> swings;
+    std::vector<std::size_t> swung; // the flight of each swing
     for (std::size_t at = 0; at < choice.clubs.size(); ++at) {
         if (!choice.clubs[at].owned)
             continue;
-        swings.push_back(swingWith(choice.clubs[at].club, choice, tables, conditions));
+        const Shot swing = swingWith(choice.clubs[at].club, choice, tables, conditions);
         BagFlight& flight = flights.emplace_back();
         flight.at = at;
-        flight.headSpeed = swings.back().sources.club->HeadSpeed;
+        flight.headSpeed = swing.sources.club->HeadSpeed;
+        if (!limits::kHeadSpeed.hold(flight.headSpeed)) {
+            flight.problem = limits::kHeadSpeed.rangeMessage;
+            continue;
+        }
+        swung.push_back(flights.size() - 1);
+        swings.push_back(swing);
     }
     const auto outcomes = flyMany(swings);
-    for (std::size_t number = 0; number < outcomes.size(); ++number)
-        flights[number].flight = {outcomes[number].fault, figuresOf(outcomes[number])};
+    for (std::size_t number = 0; number < outcomes.size(); ++number) {
+        BagFlight& flight = flights[swung[number]];
+        if (outcomes[number].fault)
+            flight.problem = faultDescription(*outcomes[number].fault);
+        else
+            flight.figures = figuresOf(outcomes[number]);
+    }
     return flights;
 }
 
@@ -131,7 +144,7 @@ std::vector<BagGap> gapsOf(std::span<const BagFlight> flights, double narrowest,
     std::vector<std::size_t> landed;
     std::vector<double> carries;
     for (std::size_t number = 0; number < flights.size(); ++number)
-        if (!flights[number].flight.fault) {
+        if (flights[number].problem.empty()) {
             landed.push_back(number);
             carries.push_back(flights[number].carry());
         }

@@ -2,6 +2,7 @@
 
 #include "measured/club_names.h"
 #include "measured/club_statistics.h"
+#include "shots/input_limits.h"
 
 namespace parabolt {
 
@@ -29,20 +30,35 @@ struct BagChoice {
     double widest = 18;     ///< yards: a gap above is too wide
     friend bool operator==(const BagChoice&, const BagChoice&) = default;
 };
+
+namespace limits {
+
+/// The limits of what the user chooses of the bag, beside those of the head speed.
+/// @{
+inline constexpr InputLimits kBagFall{
+    0, 5, "Enter a value between 0 and 5 mph for the fall of the head speed.", {}};
+inline constexpr InputLimits kBagGap{
+    0, 100, "Enter a value between 0 and 100 yards for a good gap.", {}};
+/// @}
+
+} // namespace limits
+
 /// The usual names, and fourteen clubs owned: as many as the rules allow.
 BagChoice usualBag();
 
 /// A club's flight.
 struct BagFlight {
-    std::size_t at = 0;  ///< the club in the choice
-    float headSpeed = 0; ///< mph, as flown
-    ModelFlight flight;
+    std::size_t at = 0;       ///< the club in the choice
+    float headSpeed = 0;      ///< mph
+    std::string_view problem; ///< for the user: why there is no flight; empty if there is one
+    Figures figures;          ///< zero without a flight
     /// The carry by which gaps are told: the model's.
-    double carry() const { return flight.figures.carry; }
+    double carry() const { return figures.carry; }
 };
 
 /// Flies the clubs owned, by the impact model, in the weather and with the ball of the conditions;
 /// in the order of the choice. The whole record of each club counts, but for a falling head speed.
+/// A head speed outside the limits of the main form's field is not flown.
 std::vector<BagFlight> flyBag(const BagChoice& choice, const ClubTables& tables,
                               const Shot& conditions);
 

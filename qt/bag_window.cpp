@@ -39,30 +39,15 @@ struct BagWindow::BagField {
 
 std::span<const BagWindow::BagField> BagWindow::bagFields() {
     static constexpr std::array<BagField, 4> kFields = {{
-        {"bagFirstSpeed",
-         "&first",
+        {"bagFirstSpeed", "&first",
          "Head speed of wood 1 and of iron 1 of the set, owned or not, mph",
-         {50, 165, 1, 1, " mph"},
-         &BagChoice::firstSpeed,
-         true},
-        {"bagFall",
-         "f&all",
-         "Fall of the head speed from each club of the set to the next, mph",
-         {0, 5, 0.5, 1, " mph"},
-         &BagChoice::fall,
-         true},
-        {"bagNarrowest",
-         "&Gaps from",
-         "Narrowest good gap, yards",
-         {0, 100, 1, 1, " yd"},
-         &BagChoice::narrowest,
-         false},
-        {"bagWidest",
-         "&to",
-         "Widest good gap, yards",
-         {0, 100, 1, 1, " yd"},
-         &BagChoice::widest,
-         false},
+         rangeOf(limits::kHeadSpeed, 1, 1, " mph"), &BagChoice::firstSpeed, true},
+        {"bagFall", "f&all", "Fall of the head speed from each club of the set to the next, mph",
+         rangeOf(limits::kBagFall, 0.5, 1, " mph"), &BagChoice::fall, true},
+        {"bagNarrowest", "&Gaps from", "Narrowest good gap, yards",
+         rangeOf(limits::kBagGap, 1, 1, " yd"), &BagChoice::narrowest, false},
+        {"bagWidest", "&to", "Widest good gap, yards", rangeOf(limits::kBagGap, 1, 1, " yd"),
+         &BagChoice::widest, false},
     }};
     return kFields;
 }

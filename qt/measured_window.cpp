@@ -35,26 +35,14 @@ struct AirField {
     float CalmAir::*member;
 };
 constexpr std::array<AirField, 4> kAirFields = {{
-    {"measuredAltitude",
-     "&Altitude:",
-     "Altitude of the calm air, feet",
-     {0, 15000, 100, 0, " ft"},
-     &CalmAir::altitude},
-    {"measuredTemperature",
-     "Temperatu&re:",
-     "Temperature of the calm air, degrees Fahrenheit",
-     {20, 120, 5, 1, " F"},
-     &CalmAir::temperature},
-    {"measuredPressure",
-     "&Pressure:",
-     "Pressure of the calm air at sea level, inches of mercury",
-     {25, 34, 0.1, 2, " in-Hg"},
-     &CalmAir::pressure},
-    {"measuredHumidity",
-     "Hu&midity:",
-     "Relative humidity of the calm air, percent",
-     {0, 100, 5, 0, " %"},
-     &CalmAir::humidity},
+    {"measuredAltitude", "&Altitude:", "Altitude of the calm air, feet",
+     rangeOf(limits::kAltitude, 100, 0, " ft"), &CalmAir::altitude},
+    {"measuredTemperature", "Temperatu&re:", "Temperature of the calm air, degrees Fahrenheit",
+     rangeOf(limits::kTemperature, 5, 1, " F"), &CalmAir::temperature},
+    {"measuredPressure", "&Pressure:", "Pressure of the calm air at sea level, inches of mercury",
+     rangeOf(limits::kPressure, 0.1, 2, " in-Hg"), &CalmAir::pressure},
+    {"measuredHumidity", "Hu&midity:", "Relative humidity of the calm air, percent",
+     rangeOf(limits::kHumidity, 5, 0, " %"), &CalmAir::humidity},
 }};
 
 } // namespace
@@ -287,7 +275,7 @@ void MeasuredWindow::takeAir() {
 std::vector<CarryLine> MeasuredWindow::carryLines() const {
     std::vector<CarryLine> lines;
     for (const ClubStatistics& club : clubs_.clubs())
-        lines.push_back({club.club.empty() ? "(no club)" : club.club,
+        lines.push_back({shownClub(club.club),
                          club.modelCarry ? std::optional(club.modelCarry->mean) : std::nullopt,
                          club.deviceCarry});
     return lines;

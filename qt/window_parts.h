@@ -1,5 +1,7 @@
 #pragma once
 
+#include "shots/input_limits.h"
+
 #include <QKeySequence>
 #include <QString>
 #include <initializer_list>
@@ -29,8 +31,7 @@ QLabel* textLabel(const QString& name);
 
 QPushButton* pushButton(const QString& name, const QString& text);
 
-/// A field for a number with a point, whatever the locale, which takes what is typed when it is
-/// left. Ctrl+E is left to the window, though it leads to the end of a line elsewhere.
+/// What a field for a number takes, and how it shows it.
 struct NumberRange {
     double lowest;
     double highest;
@@ -38,6 +39,13 @@ struct NumberRange {
     int decimals;
     const char* unit = ""; ///< behind the number, with a blank in front
 };
+/// With the limits of an input.
+constexpr NumberRange rangeOf(const InputLimits& limits, double step, int decimals,
+                              const char* unit) {
+    return {limits.lowest, limits.highest, step, decimals, unit};
+}
+/// A field for a number with a point, whatever the locale, which takes what is typed when it is
+/// left. Ctrl+E is left to the window, though it leads to the end of a line elsewhere.
 QDoubleSpinBox* numberField(const QString& name, const QString& accessibleName,
                             const NumberRange& range);
 

@@ -116,6 +116,9 @@ TEST(Command, EndsAsItsManualSays) {
         {"clubs fly --narrowest-yd nan", "", 2, "", "--narrowest-yd: Enter a value between 0"},
         {"clubs fly --narrowest 19", "", 2, "", "19 yards, is above the widest, 18 yards"},
         {"clubs fly --first-speed 105 --fall 2.5", "", 0, "\r\n3W,100,235.7", ""},
+        {"clubs fly --first-speed 49", "", 2, "", "Enter a head speed between 50 and 165 mph."},
+        {"clubs fly --first-speed 60 --fall 5", "", 1, "\r\n5i,40,,,,,,,Enter a head speed", ""},
+        {"clubs fly --fall 6", "", 2, "", "--fall-mph: Enter a value between 0 and 5 mph"},
         {"clubs fly --bag /nowhere", "", 3, "", "/nowhere: No such file"},
     };
     for (const Told& each : cases) {
@@ -310,6 +313,37 @@ TEST(Command, ConvertsClubsThereAndBack) {
     putContent(folder.path("bag.csv"), heavier);
     const auto flown = runCommand("fly --format json --club W1 --clubs " + folder.path("bag.csv"));
     EXPECT_EQ(json::parse(flown.out)["head_weight_g"], 230);
+}
+
+// Sets that the editor would refuse, as text and as the program's own file.
+TEST(Command, TakesNoSetThatTheEditorRefuses) {
+    ClubTables set = InitClubTables();
+    set.Woods[1].LoftAngle = 80;
+    set.Irons[7].HeadWeight = 400;
+    const auto bytes = encodeClubs(set);
+    const std::string own(bytes->begin(), bytes->end());
+    std::string huge = runCommand("clubs convert --to json -", own).out;
+    const std::string table = runCommand("clubs convert --to csv -", own).out;
+    huge.replace(huge.find(": 80.0"), 6, ": 1e300");
+    const std::string loft = "Driver: Then loft angle must between 0 and 65 degrees.";
+    const std::string mass = "7i: Then head weight must between 180 and 320 grams.\n";
+    const std::string all = "parabolt-cli: " + mass + "parabolt-cli: " + loft + '\n';
+    const std::string first = "parabolt-cli: standard input: " + mass;
+    const std::string refused =
+        first.substr(0, first.size() - 1) + " (The first fault of 2; clubs check tells all.)\n";
+    const Told cases[] = {{"clubs check -", own, 2, "", all},
+                          {"clubs check -", table, 2, "", all},
+                          {"clubs check -", huge, 2, "", all},
+                          {"clubs fly -", own, 2, "", all},
+                          {"clubs fly -", table, 2, "", refused},
+                          {"clubs convert --to clb -", huge, 2, "", refused},
+                          {"fly --club W3 --clubs -", table, 2, "", refused}};
+    for (const Told& each : cases) {
+        const auto run = runCommand(each.arguments, each.input);
+        EXPECT_EQ(run.status, each.status) << each.arguments;
+        EXPECT_EQ(run.out, each.out) << each.arguments;
+        EXPECT_EQ(run.err, each.err) << each.arguments;
+    }
 }
 
 // The best of the flat tops, as scanned flight by flight on a finer grid.

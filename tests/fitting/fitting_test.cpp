@@ -137,6 +137,24 @@ TEST_F(FittingTest, TheModelStandsBesideTheDevice) {
     EXPECT_NE(words.find("The device computes its carry"), std::string::npos);
 }
 
+TEST_F(FittingTest, TheComparisonSaysNoMoreThanTheFileTells) {
+    const std::string head = "Club,Ball speed [mph],Launch angle [deg],Spin [rpm],Carry [yd]\n";
+    struct Case {
+        std::string rows, said;
+        bool isAnotherModel;
+    };
+    const std::string driver = "Driver,160,12,2600,";
+    for (const Case& each :
+         {Case{driver + "10\n,120,17,6500,158\n", "Closest with (no club) (", true},
+          {driver + "\n", "The file brings no figure to compare", false}}) {
+        take(head + each.rows);
+        compute();
+        const std::string words = comparisonInWords(fitting.session(), comparison);
+        EXPECT_NE(words.find(each.said), std::string::npos) << words;
+        EXPECT_EQ(words.find("another model") != std::string::npos, each.isAnotherModel) << words;
+    }
+}
+
 TEST_F(FittingTest, FlightsFollowTheWeatherAndNothingElse) {
     take(kTwoClubs);
     compute();
@@ -333,6 +351,17 @@ TEST_F(FittingTest, TheBagTellsItsGaps) {
     EXPECT_EQ(bag.summary().find("not in the bag"), std::string::npos);
     bag.enter(15, 1, "");
     EXPECT_EQ(cell(bag, 15, "name"), "8i");
+    fitting.change([](MeasuredSession& session) {
+        session.bag.speeds = HeadSpeeds::Falling;
+        session.bag.firstSpeed = 52; // with the 7 iron 46
+    });
+    bag.fly(conditions);
+    EXPECT_EQ(cell(bag, 14, "carry"), "no flight");
+    EXPECT_NE(bag.summary().find("No flight with 7i, 8i: Enter a head speed between 50 and 165"),
+              std::string::npos)
+        << bag.summary();
+    fitting.change([](MeasuredSession& session) { session.bag.speeds = HeadSpeeds::OfSet; });
+    bag.fly(conditions);
     // The weather, the set, the clubs owned do.
     Shot windy = conditions;
     windy.WindSpeed = 10;

@@ -293,11 +293,31 @@ TEST(Bag, FliesTheClubsOwnedAndTellsTheGaps) {
                                    {4, 2, 2, Kind::TooNarrow},
                                    {0, 4, 10, Kind::Good},
                                    {3, 0, 8, Kind::Good}}));
-    flights[1].flight.fault = Fault::Overflow;
+    flights[1].problem = "It stays in the bag.";
     const auto gaps = gapsOf(flights, 8, 18);
     ASSERT_EQ(gaps.size(), 1U);
     EXPECT_EQ(gaps[0].shorter, 2U);
     EXPECT_EQ(gaps[0].yards, flights[0].carry() - flights[2].carry());
+
+    // A head speed that the form's field refuses, of the set or by falling, is no swing.
+    bag.firstSpeed = 115;
+    set.Woods[10].HeadSpeed = 49;
+    for (const auto& [speeds, fall, lowest, flies] :
+         {std::tuple{HeadSpeeds::Falling, 5.0F, 50.0, true},
+          {HeadSpeeds::Falling, 5.5F, 43.5, false},
+          {HeadSpeeds::OfSet, 5.0F, 49.0, false}}) {
+        bag.speeds = speeds;
+        bag.fall = fall;
+        flights = flyBag(bag, set, windy());
+        ASSERT_EQ(flights.size(), 3U);
+        const auto slowest = std::min_element(
+            flights.begin(), flights.end(),
+            [](const auto& one, const auto& other) { return one.headSpeed < other.headSpeed; });
+        EXPECT_EQ(slowest->headSpeed, lowest);
+        EXPECT_EQ(!slowest->problem.starts_with("Enter a head speed between"), flies) << lowest;
+        EXPECT_EQ(slowest->carry() > 0, flies) << lowest;
+        EXPECT_EQ(gapsOf(flights, 8, 18).size(), flies ? 2U : 1U) << lowest;
+    }
 }
 
 TEST(MeasuredSession, ReadsBackToTheSameBits) {
