@@ -90,6 +90,7 @@ QLineEdit* SheetDialog::field(const char* name, std::string SheetFields::*text) 
 
 void SheetDialog::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
+    setMinimumHeight(layout()->totalMinimumHeightForWidth(width())); // of all rows of fields
     layout()->activate();
     fitPage();
 }
