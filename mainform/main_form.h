@@ -142,14 +142,14 @@ struct MenuControls : virtual FormCore {
     MenuItem mnuPrint{controls, "mnuPrint", "&Print"};
     MenuItem mnuExit{controls, "mnuExit", "E&xit", WhileBusy::Free,
                      MenuItem::First::WaitsForNothing};
-    MenuItem mnuOpenSession{controls, "mnuOpenSession", "Op&en Session..."};
+    MenuItem mnuOpenSession{controls, "mnuOpenSession", "Ope&n Session..."};
     MenuItem mnuSaveSession{controls, "mnuSaveSession", "Sa&ve Session..."};
     MenuItem mnuReopenSession{controls, "mnuReopenSession", "Reopen &Last Session"};
     MenuItem mnuGoBack{controls, "mnuGoBack", "Go &Back"};
     MenuItem mnuRewriteTable{controls, "mnuRewriteTable", "Rewrite &Table"};
     MenuItem mnuExportTable{controls, "mnuExportTable", "Export T&able..."};
     MenuItem mnuExportPaths{controls, "mnuExportPaths", "Export Pat&hs..."};
-    MenuItem mnuExportPlot{controls, "mnuExportPlot", "Export Plot..."};
+    MenuItem mnuExportPlot{controls, "mnuExportPlot", "&Export Plot..."};
     MenuItem mnuCopyTable{controls, "mnuCopyTable", "&Copy Table"};
     MenuItem mnuCopyPlot{controls, "mnuCopyPlot", "Cop&y Plot"};
     MenuItem mnuReopenClubs{controls, "mnuReopenClubs", "Reopen Last Cl&ubs File"};

@@ -56,7 +56,7 @@ DataSetOutput::DataSetOutput(frmMain& logic, QWidget& window) : logic_(logic), w
     logic_.plotFile = [this](std::string_view ending) { return plotFile(ending); };
     logic_.copyTable = [this] {
         const DataSets sets(logic_.form.Runs);
-        parabolt::copyTable(sets, wholeTable(sets));
+        parabolt::copyTable(sets, completeTable(sets));
     };
     logic_.copyPlot = [this] {
         QApplication::clipboard()->setImage(pictureImage(plotPicture(logic_.form, window_)));

@@ -1,6 +1,7 @@
 #include "qt/data_sets_window.h"
 
 #include "qt/chart_view.h"
+#include "qt/flow_layout.h"
 #include "qt/sheet_dialog.h"
 #include "qt/table_view.h"
 #include "qt/text.h"
@@ -28,8 +29,7 @@ namespace parabolt {
 namespace {
 
 constexpr QSize kUsualSize{1180, 720};
-constexpr int kBaseLetters = 24;  ///< of the list of bases
-constexpr std::size_t kDate = 10; ///< characters of "2026-11-23 10:32"
+constexpr int kBaseLetters = 24; ///< of the list of bases
 constexpr std::string_view kWindow = "dataSets";
 
 } // namespace
@@ -66,15 +66,11 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     sets_.onTicks = [this] { logic_.plot.redraw(); };
     buildCommands();
 
-    auto* row = new QHBoxLayout;
+    auto* choices = new QWidget;
+    auto* row = new FlowLayout(choices);
     for (QAction* action : {all_, onlyTicked_, take_, print_})
         row->addWidget(buttonOf(action));
-    row->addSpacing(16);
-    auto* label = new QLabel("&Base:");
-    label->setBuddy(base_);
-    row->addWidget(label);
-    row->addWidget(base_);
-    row->addStretch();
+    row->addWidget(labelledGroup({{"&Base:", base_}}));
     row->addWidget(count_);
     halves_->addWidget(table_);
     auto* closeUp = new QScrollArea;
@@ -87,7 +83,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
     halves_->setChildrenCollapsible(false);
     auto* centre = new QWidget;
     auto* rows = new QVBoxLayout(centre);
-    rows->addLayout(row);
+    rows->addWidget(choices);
     rows->addWidget(halves_, 1);
     setCentralWidget(centre);
 
@@ -139,11 +135,16 @@ void DataSetsWindow::buildCommands() {
     menu->addSeparator();
     connect(command(menu, "dataSetsCopy", "&Copy Table",
                     "Puts what the table shows on the clipboard", QKeySequence::Copy),
-            &QAction::triggered, this, [this] { table_->copy(); });
+            &QAction::triggered, this, [this] {
+                table_->settle();
+                table_->copy();
+            });
     connect(command(menu, "dataSetsCopyLanding", "Copy C&lose-up",
                     "Puts a picture of the landings on the clipboard"),
-            &QAction::triggered, this,
-            [this] { QApplication::clipboard()->setImage(pictureImage(landing_->onPaper())); });
+            &QAction::triggered, this, [this] {
+                table_->settle();
+                QApplication::clipboard()->setImage(pictureImage(landing_->onPaper()));
+            });
     connect(command(menu, "dataSetsExport", "&Export Table...",
                     "Writes what the table shows as "
                     "comma-separated values",
@@ -236,23 +237,23 @@ void DataSetsWindow::takeIntoFields() {
 }
 
 void DataSetsWindow::exportTable() {
+    table_->settle();
     dialogs_.save(DialogPurpose::ExportTable, "data sets.csv",
                   [this](std::string_view) { return tableAsCsv(sets_, table_->extract()); });
 }
 
 void DataSetsWindow::print() {
+    table_->settle();
     SharedText& kept = logic_.form.windows[std::string(kWindow)];
     SheetContent content;
     content.title = "Comparison of Data Sets";
     content.fields = fieldsOf(kept.text());
-    if (content.fields.date.empty())
-        content.fields.date = localTime_().substr(0, kDate);
     content.charts = {[this](PictureBox& canvas) { drawPaths(canvas, book_, book_.ticked()); },
                       [this](PictureBox& canvas) { drawLandings(canvas, book_, book_.ticked()); }};
     content.table = tableAsCells(sets_, sets_.ticked());
     content.remark = "Base: " + dataSetName(book_, book_.base()) +
                      ". In this model wind and altitude count about double.";
-    SheetDialog dialog(std::move(content), printer_, messages_, this);
+    SheetDialog dialog(std::move(content), localTime_(), printer_, messages_, this);
     dialog.exec();
     activateWindow();
     kept = fieldsText(dialog.fields());

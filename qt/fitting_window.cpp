@@ -2,6 +2,7 @@
 
 #include "qt/chart_view.h"
 #include "qt/sheet_dialog.h"
+#include "qt/table_view.h"
 #include "qt/text.h"
 #include "qt/window_parts.h"
 #include "tables/table_text.h"
@@ -67,7 +68,11 @@ QAction* FittingWindow::add(QMenu* menu, const QString& name, const QString& tex
                             const QString& meaning, const QKeySequence& key,
                             const std::function<void()>& run) {
     QAction* action = command(menu, name, text, meaning, key);
-    connect(action, &QAction::triggered, this, run);
+    connect(action, &QAction::triggered, this, [this, run] {
+        for (TableView* table : findChildren<TableView*>())
+            table->settle();
+        run();
+    });
     return action;
 }
 
@@ -91,16 +96,13 @@ void FittingWindow::copyChart(const ChartView& chart) {
 }
 
 void FittingWindow::printSheet(SheetContent content) {
-    constexpr std::size_t kDateLetters = 10; // of "2026-11-23 10:32"
     const MeasuredSession& session = fitting_.session();
-    const SheetFields before{
-        session.player, session.fitter,
-        session.date.empty() ? localTime_().substr(0, kDateLetters) : session.date, session.note};
+    const SheetFields before{session.player, session.fitter, session.date, session.note};
     content.fields = before;
-    SheetDialog dialog(std::move(content), printer_, messages_, this);
+    SheetDialog dialog(std::move(content), localTime_(), printer_, messages_, this);
     dialog.exec();
     activateWindow();
-    if (const SheetFields& fields = dialog.fields(); !(fields == before))
+    if (const SheetFields fields = dialog.fields(); !(fields == before))
         fitting_.change([&fields](MeasuredSession& changed) {
             changed.player = fields.player;
             changed.fitter = fields.fitter;

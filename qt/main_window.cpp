@@ -197,18 +197,18 @@ void MainWindow::showOutcome() {
 /// Lets the keys walk along the curves, or goes back to where they were before.
 void MainWindow::walkPlot() {
     QWidget* plot = findChild<QWidget*>(toQt(logic_.form.Picture1.name()));
-    if (plot->hasFocus() && readout_->walking()) {
+    QWidget* before = focusWidget();
+    if (before != plot) {
+        if (!binding_->settle())
+            return;
+        beforePlot_ = before;
+        plot->setFocus(Qt::ShortcutFocusReason);
+        readout_->begin();
+    } else if (readout_->walking() || !readout_->begin()) {
         readout_->clear();
         if (beforePlot_ != nullptr)
             beforePlot_->setFocus(Qt::ShortcutFocusReason);
-        return;
     }
-    QWidget* before = focusWidget();
-    if (!binding_->settle())
-        return;
-    beforePlot_ = before;
-    plot->setFocus(Qt::ShortcutFocusReason);
-    readout_->begin();
 }
 
 /// Tells what the plot shows to those who can't see it, once a change has been drawn completely.

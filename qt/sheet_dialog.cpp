@@ -1,8 +1,10 @@
 #include "qt/sheet_dialog.h"
 
 #include "mainform/main_form.h"
+#include "qt/flow_layout.h"
 #include "qt/page_sheet.h"
 #include "qt/text.h"
+#include "qt/window_parts.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -16,20 +18,16 @@ namespace parabolt {
 namespace {
 
 constexpr double kPixelsPerInch = 96;
-
-QPushButton* dialogButton(const char* name, const char* text) {
-    auto* button = new QPushButton(text);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
+constexpr int kFieldLetters = 18; ///< of a field, twice as many of the note
+constexpr int kLeastPage = 120;   ///< pixels of its height
 
 } // namespace
 
-SheetDialog::SheetDialog(SheetContent content, Printer& printer, MessageBoxes& messages,
-                         QWidget* parent)
+SheetDialog::SheetDialog(SheetContent content, std::string_view now, Printer& printer,
+                         MessageBoxes& messages, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
       content_(std::move(content)),
+      today_(now.substr(0, now.find(' '))),
       printer_(printer),
       messages_(messages),
       page_(inLayoutInches(printer.paper())),
@@ -40,42 +38,49 @@ SheetDialog::SheetDialog(SheetContent content, Printer& printer, MessageBoxes& m
       told_(new QLabel) {
     setObjectName("sheetPreview");
     setWindowTitle(toQt(kApplicationTitle) + " - " + toQt(content_.title));
-    setMinimumSize(560, 400);
     resize(screen()->availableSize() * 9 / 10);
+    if (content_.fields.date.empty())
+        content_.fields.date = today_;
     sheet_->setObjectName("sheetPage");
     told_->setObjectName("sheetTold");
     told_->setTextFormat(Qt::PlainText);
     told_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     told_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 
-    auto* fields = new QHBoxLayout;
-    const auto add = [&](const char* caption, QLineEdit* edit, int stretch) {
-        auto* label = new QLabel(caption);
-        label->setBuddy(edit);
-        fields->addWidget(label);
-        fields->addWidget(edit, stretch);
+    auto* head = new QWidget;
+    auto* fields = new FlowLayout(head);
+    const auto add = [&](const char* caption, QLineEdit* edit, int letters) {
+        edit->setMinimumWidth(letters * edit->fontMetrics().averageCharWidth());
+        fields->addWidget(labelledGroup({{caption, edit}}));
     };
-    add("P&layer:", field("sheetPlayer", &SheetFields::player), 2);
-    add("&Fitter:", field("sheetFitter", &SheetFields::fitter), 2);
-    add("&Date:", field("sheetDate", &SheetFields::date), 1);
-    add("&Note:", field("sheetNote", &SheetFields::note), 4);
-    auto* print = dialogButton("sheetPrint", "&Print");
-    auto* close = dialogButton("sheetClose", "&Close");
+    add("P&layer:", field("sheetPlayer", &SheetFields::player), kFieldLetters);
+    add("&Fitter:", field("sheetFitter", &SheetFields::fitter), kFieldLetters);
+    add("&Date:", field("sheetDate", &SheetFields::date), kFieldLetters);
+    add("&Note:", field("sheetNote", &SheetFields::note), 2 * kFieldLetters);
+    auto* print = pushButton("sheetPrint", "&Print");
+    auto* close = pushButton("sheetClose", "&Close");
     fields->addWidget(print);
     fields->addWidget(close);
     connect(print, &QPushButton::clicked, this, &SheetDialog::print);
     connect(close, &QPushButton::clicked, this, &QDialog::accept);
 
     auto* rows = new QVBoxLayout(this);
-    rows->addLayout(fields);
+    rows->addWidget(head);
     rows->addWidget(told_);
     rows->addWidget(room_, 1);
+    room_->setMinimumHeight(kLeastPage);
+}
+
+SheetFields SheetDialog::fields() const {
+    SheetFields fields = content_.fields;
+    if (fields.date == today_)
+        fields.date.clear();
+    return fields;
 }
 
 QLineEdit* SheetDialog::field(const char* name, std::string SheetFields::*text) {
     auto* edit = new QLineEdit(toQt(content_.fields.*text));
     edit->setObjectName(name);
-    edit->setMinimumWidth(edit->fontMetrics().horizontalAdvance("  2026-12-30  "));
     connect(edit, &QLineEdit::textChanged, this, [this, text](const QString& typed) {
         content_.fields.*text = fromQt(typed);
         sheet_->update();
@@ -85,6 +90,7 @@ QLineEdit* SheetDialog::field(const char* name, std::string SheetFields::*text) 
 
 void SheetDialog::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
+    setMinimumHeight(layout()->totalMinimumHeightForWidth(width())); // of all rows of fields
     layout()->activate();
     fitPage();
 }

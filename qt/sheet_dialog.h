@@ -20,11 +20,12 @@ class SheetDialog : public QDialog {
     Q_OBJECT
 
 public:
-    SheetDialog(SheetContent content, Printer& printer, MessageBoxes& messages,
-                QWidget* parent = nullptr);
+    /// Where the fields have no date, that of `now`, as "2026-11-23 10:32", is suggested.
+    SheetDialog(SheetContent content, std::string_view now, Printer& printer,
+                MessageBoxes& messages, QWidget* parent = nullptr);
 
-    /// As the user has left them.
-    const SheetFields& fields() const { return content_.fields; }
+    /// As the user has left them. A date that is only suggested is none: later it will be another.
+    SheetFields fields() const;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -35,6 +36,7 @@ private:
     void print();
 
     SheetContent content_;
+    std::string today_;
     Printer& printer_;
     MessageBoxes& messages_;
     PageSize page_; ///< in inches of the layout

@@ -182,10 +182,41 @@ void TableView::paintEvent(QPaintEvent* event) {
 }
 
 void TableView::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy))
+    const bool names = event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier;
+    if (const QModelIndex name = nameIn(currentIndex().row()); names && name.isValid()) {
+        setCurrentIndex(name);
+        edit(name);
+    } else if (event->matches(QKeySequence::Copy)) {
         copy(); // by itself it would copy one cell
-    else
+    } else {
         QTableView::keyPressEvent(event);
+    }
+}
+
+void TableView::focusInEvent(QFocusEvent* event) {
+    if (!currentIndex().isValid()) // by itself it would begin in the first column
+        selectionModel()->setCurrentIndex(nameIn(0), QItemSelectionModel::NoUpdate);
+    QTableView::focusInEvent(event);
+}
+
+/// The cell of a row in which its name is typed, if the table shows one.
+QModelIndex TableView::nameIn(int row) const {
+    const auto columns = source_.columns();
+    if ((editTriggers() & EditKeyPressed) != 0)
+        for (int i = 0; i < model_.columnCount(); ++i)
+            if (columns[static_cast<std::size_t>(i)].holds == TableColumn::Holds::Names &&
+                !isColumnHidden(i))
+                return sorted_.index(row, i);
+    return {};
+}
+
+void TableView::settle() {
+    if (state() != EditingState)
+        return;
+    if (QWidget* editor = indexWidget(currentIndex())) {
+        commitData(editor);
+        closeEditor(editor, QAbstractItemDelegate::NoHint);
+    }
 }
 
 } // namespace parabolt

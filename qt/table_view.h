@@ -15,7 +15,8 @@ void copyTable(const TableSource& table, const TableExtract& extract);
 
 /// Shows a table without widgets. Its columns can be moved, sorted by a click on their headings
 /// (the third click gives back the order of the rows), and chosen in the menu of the headings or in
-/// `columnsMenu`, which a window puts where the keys reach it. Ctrl+C copies what is seen.
+/// `columnsMenu`, which a window puts where the keys reach it. Ctrl+C copies what is seen. F2 types
+/// the name of the row with the cursor, in whichever column that is.
 class TableView : public QTableView {
     Q_OBJECT
 
@@ -45,11 +46,16 @@ public:
     TableExtract extract() const;
     void copy() const { copyTable(source_, extract()); }
 
+    /// Takes what is being typed into a cell, as if the cell were left.
+    void settle();
+
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    QModelIndex nameIn(int row) const;
     void lay(const TableLayout& layout);
     void buildColumnsMenu();
     int usualWidth(int column) const;

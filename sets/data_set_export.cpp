@@ -16,7 +16,7 @@ DataSetExport::DataSetExport(RunBook& book, FileDialog& dialog, PreferencesStore
 void DataSetExport::mnuExportTable_Click() {
     dialogs_.save(DialogPurpose::ExportTable, "data sets.csv", [this](std::string_view) {
         const DataSets sets(book_);
-        return tableAsCsv(sets, wholeTable(sets));
+        return tableAsCsv(sets, completeTable(sets));
     });
 }
 

@@ -54,6 +54,18 @@ TableCell swing(const SetRow& row) {
     return row.run().Mode == OperatingMode::Launch ? TableCell() : Cell(row);
 }
 
+/// The colour of the curve, as "#ff0000".
+TableCell colourCell(const SetRow& row) {
+    constexpr std::string_view kHexDigits = "0123456789abcdef";
+    const Rgb colour = row.run().CurveColor;
+    std::string text = "#";
+    for (const std::size_t part : {colour.red, colour.green, colour.blue}) {
+        text += kHexDigits[part / 16];
+        text += kHexDigits[part % 16];
+    }
+    return {text};
+}
+
 /// How far a figure lies above that of the base set.
 template <double Figures::*Figure>
 TableCell difference(const SetRow& row) {
@@ -205,6 +217,8 @@ const std::vector<SetColumn>& allColumns() {
         {{"viscosity", "Air viscosity [Pa s]", "Viscosity of the air, as the model computes it",
           false},
          [](const SetRow& row) { return ofAir<&ShotState::AirViscosity>(row, "0.00000000"); }},
+        {{"colour", "Colour", "Red, green and blue part of the curve's colour", false, Texts},
+         colourCell},
     };
     return kSetColumns;
 }
@@ -253,7 +267,7 @@ void DataSets::tickRows(std::span<const std::size_t> rows, bool ticked) {
 }
 
 void DataSets::tickAll() {
-    tickRows(wholeTable(*this).rows, true);
+    tickRows(completeTable(*this).rows, true);
 }
 
 TableExtract DataSets::ticked() const {

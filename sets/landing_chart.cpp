@@ -53,6 +53,8 @@ public:
             const Figures figures = figuresOf(book[number]);
             rows_.push_back({number, figures, dataSetName(book, number), landingWords(figures)});
         }
+        if (const int base = book.base(); book.count() > 0 && !isAlone(base))
+            base_ = figuresOf(book[base]);
     }
 
     void draw() {
@@ -77,6 +79,8 @@ public:
     }
 
 private:
+    bool isAlone(int number) const { return rows_.size() == 1 && rows_.front().number == number; }
+
     void pen(Rgb colour, int width = 1) {
         canvas_.setForeColor(colour);
         canvas_.setDrawWidth(width);
@@ -93,11 +97,10 @@ private:
             names = std::max(names, measure(row.name));
             words = std::max(words, measure(row.words));
             if (row.landed())
-                for (const double yards : {row.figures.carry, row.figures.total}) {
-                    low_ = std::min(low_, yards);
-                    high_ = std::max(high_, yards);
-                }
+                reach(row.figures);
         }
+        if (base_.time > 0)
+            reach(base_);
         right_ = width - 2 * kLandingMargin - words;
         left_ = 2 * kLandingMargin + names;
         const double room = std::max(kLeastRange - (high_ - low_), (high_ - low_) * 0.1) / 2;
@@ -106,6 +109,12 @@ private:
         const auto rows = static_cast<double>(rows_.size());
         row_ = std::min(kTallestRow, (height - kAboveRows - kBelowRows) / rows);
         foot_ = kAboveRows + row_ * rows;
+    }
+
+    /// Makes the scale hold a landing and where the ball comes to rest.
+    void reach(const Figures& figures) {
+        low_ = std::min({low_, figures.carry, figures.total});
+        high_ = std::max({high_, figures.carry, figures.total});
     }
 
     double x(double yards) const {
@@ -129,25 +138,22 @@ private:
         canvas_.label({right_ + kLandingMargin, kAboveRows - 90}, kHeading, {0, 1});
     }
 
-    /// Where the base set landed and came to rest, through all rows.
+    /// Where the base set landed and came to rest, through all rows; it need not have one itself.
     void base() {
-        const auto of = std::find_if(rows_.begin(), rows_.end(), [this](const LandingRow& row) {
-            return row.number == book_.base() && row.landed();
-        });
-        if (of == rows_.end() || rows_.size() < 2)
+        if (!(base_.time > 0))
             return;
         pen(mixed(canvas_.background(), ink_, 0.55));
         const auto dashes = static_cast<int>(std::ceil((foot_ - kAboveRows) / kDashes));
-        for (const double yards : {of->figures.carry, of->figures.total})
+        for (const double yards : {base_.carry, base_.total})
             for (int dash = 0; dash < dashes; ++dash) {
                 const double y = kAboveRows + dash * kDashes;
                 canvas_.line({x(yards), y}, {x(yards), std::min(y + kDashes / 2, foot_)});
             }
-        const std::string name = "base: " + std::to_string(of->number);
+        const std::string name = "base: " + std::to_string(book_.base());
         const double half = canvas_.textWidth(name) / 2; // beside the heading of the words
-        canvas_.label({std::min(x((of->figures.carry + of->figures.total) / 2), right_ - half),
-                       kAboveRows - 90},
-                      name, kBottomMiddle);
+        canvas_.label(
+            {std::min(x((base_.carry + base_.total) / 2), right_ - half), kAboveRows - 90}, name,
+            kBottomMiddle);
     }
 
     /// A disc in the colour of the curve where the ball lands, a bar to where it comes to rest.
@@ -171,6 +177,7 @@ private:
     Rgb ink_;
     Rgb faint_;
     std::vector<LandingRow> rows_;
+    Figures base_{};  ///< all zero if there is none to compare with
     double left_ = 0; ///< of the scale, twips
     double right_ = 0;
     double foot_ = 0;

@@ -20,9 +20,9 @@ constexpr double kAcrossApart = 900; ///< between the numbers of an axis, at lea
 constexpr double kUpApart = 400;
 constexpr double kPathMark = 50; ///< radius of the disc at the landing
 constexpr std::size_t kFew = 8;  ///< paths, of which each is drawn broad
-// Where the numbers stand, in shares of their paths: away from tee and landings.
-constexpr double kFirstNumber = 0.22;
-constexpr double kLastNumber = 0.87;
+// Where the numbers stand, in shares of their paths: where these have parted, but before they land.
+constexpr double kFirstNumber = 0.55;
+constexpr double kLastNumber = 0.93;
 
 class PathDrawer {
 public:

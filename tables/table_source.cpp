@@ -46,12 +46,4 @@ TableExtract completeTable(const TableSource& table) {
     return extract;
 }
 
-TableExtract wholeTable(const TableSource& table) {
-    TableExtract extract = completeTable(table);
-    std::erase_if(extract.columns, [&table](std::size_t column) {
-        return table.columns()[column].holds == TableColumn::Holds::Ticks;
-    });
-    return extract;
-}
-
 } // namespace parabolt

@@ -70,7 +70,5 @@ struct TableExtract {
 
 /// All rows and columns.
 TableExtract completeTable(const TableSource& table);
-/// All rows, and all columns but those that hold nothing but ticks.
-TableExtract wholeTable(const TableSource& table);
 
 } // namespace parabolt

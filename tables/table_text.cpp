@@ -23,16 +23,21 @@ std::string asHtml(std::string_view text) {
     return html;
 }
 
-/// A number with all its digits, a lone box as 1 or 0; the text of any other cell.
-std::string inFull(const TableCell& cell) {
+/// The text of a cell, a lone box as 1 or 0.
+std::string asRead(const TableCell& cell) {
     if (cell.ticked && cell.text.empty())
         return *cell.ticked ? "1" : "0";
+    return cell.text;
+}
+
+/// The same, but a number with all its digits.
+std::string inFull(const TableCell& cell) {
     if (const auto* narrow = std::get_if<float>(&cell.number)) {
         CsvWriter digits;
         return digits.field(*narrow).text();
     }
     const auto* wide = std::get_if<double>(&cell.number);
-    return wide != nullptr ? shortestText(*wide) : cell.text;
+    return wide != nullptr ? shortestText(*wide) : asRead(cell);
 }
 
 } // namespace
@@ -87,7 +92,7 @@ std::vector<std::vector<std::string>> tableAsCells(const TableSource& table,
     for (const std::size_t row : extract.rows) {
         rows.emplace_back();
         for (const std::size_t column : extract.columns)
-            rows.back().push_back(table.cell(row, column).text);
+            rows.back().push_back(asRead(table.cell(row, column)));
     }
     return rows;
 }

@@ -4,9 +4,9 @@
 
 namespace parabolt {
 
-// Tables as texts, with a row of headings first.
+// Tables as texts, with a row of headings first and boxes as 1 and 0.
 
-/// Comma-separated values, numbers in full, boxes as 1 and 0.
+/// Comma-separated values, numbers in full.
 std::string tableAsCsv(const TableSource& table, const TableExtract& extract);
 /// Lines of cells between tabs, as people read them. A tab or a line end within a cell becomes a
 /// blank.

@@ -20,9 +20,11 @@
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QTest>
 #include <QToolTip>
+#include <span>
 
 namespace parabolt::support {
 namespace {
@@ -121,6 +123,7 @@ struct DataSetsWindowTest : testing::Test {
 TEST_F(DataSetsWindowTest, NamesTicksAndComparesByKeys) {
     auto* base = find<QComboBox>("dataSetsBase");
     const QImage landing = find<QWidget>("dataSetsLanding")->grab().toImage();
+    select(0, "Carry"); // F2 types the name all the same
     QTest::keyClick(table, Qt::Key_Down);
     type("Low spin");
     EXPECT_EQ(form.Runs.tag(2).name, "Low spin");
@@ -229,11 +232,27 @@ TEST_F(DataSetsWindowTest, SortsWhatHasNoFigureLastAndTellsNamesInFull) {
 
 TEST_F(DataSetsWindowTest, PrintsWhatIsTicked) {
     const TemporaryFolder folder;
+    const auto* base = find<QComboBox>("dataSetsBase");
     printer.file = toQt(folder.path("page.pdf"));
-    type("The driver");
     QTest::keyClick(table, Qt::Key_Down);
     QTest::keyClick(table, Qt::Key_Space);
+    QTest::keyClick(table, Qt::Key_Up);
+    QTest::keyClick(table, Qt::Key_F2); // still being typed when the page comes
+    QTest::keyClicks(QApplication::focusWidget(), "The driver");
     inDialog("sheetPreview", [](QWidget& dialog) {
+        for (const int width : {100, 700}) { // less than its least size, and more
+            dialog.resize(width, 100);
+            const auto parts = dialog.findChildren<QWidget*>(
+                QRegularExpression("sheet(Player|Fitter|Date|Note|Print|Close)"));
+            EXPECT_EQ(parts.size(), 6);
+            std::vector<QRect> places;
+            for (const QWidget* part : parts) {
+                places.emplace_back(part->mapTo(&dialog, QPoint()), part->size());
+                EXPECT_TRUE(dialog.rect().contains(places.back())) << width;
+                for (const QRect& other : std::span(places).first(places.size() - 1))
+                    EXPECT_FALSE(places.back().intersects(other)) << width;
+            }
+        }
         const QImage before = dialog.findChild<QWidget*>("sheetPage")->grab().toImage();
         QTest::keyClicks(dialog.findChild<QLineEdit*>("sheetPlayer"), "Ann");
         QTest::keyClicks(dialog.findChild<QLineEdit*>("sheetNote"), "windy");
@@ -253,7 +272,14 @@ TEST_F(DataSetsWindowTest, PrintsWhatIsTicked) {
           QString("Note: windy"), QString("1 The driver"), QString("Height in yards"), carry})
         EXPECT_TRUE(page.contains(part)) << fromQt(part + page);
     EXPECT_FALSE(page.contains(toQt(text(1, "Carry")))) << "not ticked";
-    EXPECT_EQ(form.windows["dataSets"], "Ann\n\n0000-00-00\nwindy\n");
+    EXPECT_EQ(form.windows["dataSets"], "Ann\n\n\nwindy\n") << "the day of another page is another";
+    form.windows["dataSets"] = std::string("Ann\n\nin May\nwindy\n");
+    inDialog("sheetPreview", [](QWidget& dialog) { dialog.close(); });
+    trigger("dataSetsPrint");
+    EXPECT_EQ(form.windows["dataSets"], "Ann\n\nin May\nwindy\n");
+    sets.resize(512, 384);
+    EXPECT_EQ(sets.size(), QSize(512, 384)) << "a small screen";
+    EXPECT_TRUE(sets.rect().contains(QRect(base->mapTo(&sets, QPoint()), base->size())));
 }
 
 TEST_F(DataSetsWindowTest, GoesOntoTheClipboardAndIntoFiles) {
@@ -267,7 +293,7 @@ TEST_F(DataSetsWindowTest, GoesOntoTheClipboardAndIntoFiles) {
     main.findChild<QAction*>("mnuCopyTable")->trigger();
     copied = QApplication::clipboard()->mimeData();
     EXPECT_TRUE(copied->text().contains("Air density [kg/m3]"));
-    EXPECT_TRUE(copied->data("text/csv").startsWith("No.,Name,Club,"));
+    EXPECT_TRUE(copied->data("text/csv").startsWith("Show,No.,Name,Club,"));
     user.files.choose(folder.path("mine.csv"));
     trigger("dataSetsExport");
     EXPECT_TRUE(contentOf(folder.path("mine.csv")).starts_with("No.,Name,Club,Mode,Carry [yd],"));
@@ -357,6 +383,17 @@ TEST_F(DataSetsWindowTest, ThePlotAnswersToPointerAndKeys) {
     QTest::keyClick(&main, Qt::Key_F6);
     press(Qt::Key_Escape);
     EXPECT_FALSE(readout->isVisible());
+    press(Qt::Key_F6);
+    EXPECT_TRUE(readout->isVisible());
+    press(Qt::Key_F6);
+    EXPECT_EQ(form.focus.active(), &form.txtWind) << "also after Esc";
+    user.messages.answers = {Answer::Yes};
+    user.press(form.Command2);
+    user.form.focus.give(form.txtWind);
+    press(Qt::Key_F6);
+    press(Qt::Key_F6);
+    EXPECT_EQ(form.focus.active(), &form.txtWind) << "also without data sets";
+    user.run(3);
     EXPECT_TRUE(main.statusBar()->currentMessage().startsWith("Data set 3: carry "));
 }
 

@@ -1,7 +1,11 @@
 #include "mainform/form_shot.h"
 #include "maps/carry_map.h"
+#include "numbers/text_number.h"
 #include "sessions/form_desk.h"
 #include "sessions/session_codec.h"
+#include "sets/data_sets.h"
+#include "shots/figures.h"
+#include "tables/table_text.h"
 #include "tests/cli/command_run.h"
 #include "tests/support/scripted_form.h"
 
@@ -144,6 +148,25 @@ TEST(TheCommand, TellsTheDataSetsOfASession) {
     const auto all = runCommand("session --format json", file).out;
     EXPECT_NE(all.find("\"txtBallSpin\": \"2600\""), std::string::npos) << all.substr(0, 500);
     EXPECT_EQ(runCommand("session", "{}").status, 2);
+}
+
+TEST(TheCommand, FliesTheExportedDataSetsAsTheForm) {
+    ScriptedForm on;
+    on.run();
+    on.form.optLaunch.select();
+    on.form.BallOpt2.select();
+    on.enter(on.form.txtWind, "12.5");
+    on.run();
+    const DataSets sets(on.form.Runs);
+    const CommandRun flown = runCommand("batch", tableAsCsv(sets, completeTable(sets)));
+    EXPECT_EQ(flown.status, 0) << flown.err;
+    const auto rows = linesOf(flown.out);
+    ASSERT_EQ(rows.size(), 3U);
+    for (const int number : {1, 2}) {
+        const std::string total = shortestText(figuresOf(on.form.Runs[number]).total);
+        EXPECT_NE(rows[static_cast<std::size_t>(number)].find("," + total + ","), std::string::npos)
+            << total;
+    }
 }
 
 // What the table lacks, the map's readout tells.

@@ -14,6 +14,7 @@
 #include "tests/support/temporary_folder.h"
 
 #include <cmath>
+#include <set>
 
 namespace parabolt::support {
 namespace {
@@ -88,7 +89,7 @@ TEST_F(DataSetsTest, TellWhatCameOfThemAndHowTheyDiffer) {
 }
 
 TEST_F(DataSetsTest, GoIntoTablesWithAllHeadingsOfOurs) {
-    const std::string csv = tableAsCsv(sets, wholeTable(sets));
+    const std::string csv = tableAsCsv(sets, completeTable(sets));
     const std::string headings = csv.substr(0, csv.find('\r'));
     namespace columns = shot_columns;
     for (const std::string_view heading :
@@ -98,9 +99,11 @@ TEST_F(DataSetsTest, GoIntoTablesWithAllHeadingsOfOurs) {
           columns::kPressure, columns::kHumidity})
         EXPECT_NE(("," + headings + ",").find("," + std::string(heading) + ","), std::string::npos)
             << heading;
-    EXPECT_NE(csv.find("\r\n2,\"Low, \"\"new\"\"\",W-3,Launch,101.25,1.25,104.25,-5.75,"),
+    EXPECT_NE(csv.find("\r\n0,2,\"Low, \"\"new\"\"\",W-3,Launch,101.25,1.25,104.25,-5.75,"),
               std::string::npos)
         << csv;
+    book.newest().CurveColor = {255, 9, 160};
+    EXPECT_EQ(text(2, "colour"), "#ff09a0");
     EXPECT_EQ(sets.ticked().rows, (std::vector<std::size_t>{0, 2}));
     EXPECT_EQ(composePaths(book), "Data set,Name,Time [s],x [yd],y [yd]\r\n"
                                   "1,,0,0,0\r\n1,,0.01,50,30\r\n1,,0.02,100,-1\r\n"
@@ -191,6 +194,16 @@ TEST_F(DataSetsTest, StandOnTheLandingChartToScale) {
                     << text.text;
             }
         }
+    for (const int base : {1, 3}) { // the other is shown alone; the second base has not landed
+        book.setBase(base);
+        canvas.cls();
+        drawLandings(canvas, book, std::vector{2});
+        std::set<double> dashed; // places across
+        for (const DrawnLine& line : shapesOf<DrawnLine>(canvas))
+            if (line.from.x == line.to.x && line.to.y - line.from.y == 60)
+                dashed.insert(line.from.x);
+        EXPECT_EQ(dashed.size(), base == 1 ? 2U : 0U) << "carry and total, though not shown";
+    }
     canvas.cls();
     drawLandings(canvas, book, {});
     EXPECT_EQ(canvas.drawings().size(), 1U) << "the word that there is none";
@@ -219,6 +232,7 @@ TEST_F(DataSetsTest, HaveAChartOfPathsWithTheirNumbersOnThem) {
                                 [&](const TrajectoryPoint& point) {
                                     return std::hypot(point.x - number.x, point.y - number.y) < 1;
                                 }));
+        EXPECT_GT(number.x, top.x) << "where paths have parted";
     }
     drawPaths(canvas, book, {});
 }
@@ -315,7 +329,7 @@ TEST(DataSetExports, GoToTheFilesThatTheUserNames) {
     user.run(2);
     user.form.Runs.setTag(2, {"mine", false, 4});
     const std::tuple<MenuItem*, const char*, std::string> table[] = {
-        {&user.form.mnuExportTable, "data sets.csv", "No.,Name,Club,Mode,Carry [yd],"},
+        {&user.form.mnuExportTable, "data sets.csv", "Show,No.,Name,Club,Mode,Carry [yd],"},
         {&user.form.mnuExportPaths, "paths.csv", "Data set,Name,Time [s],x [yd],y [yd]\r\n1,,0,"},
         {&user.form.mnuExportPlot, "plot.png", "picture of png"}};
     user.main.plotFile = [](std::string_view ending) {
