@@ -30,8 +30,8 @@ bool isSummaryWord(std::string_view cell) {
     return std::find(kWords.begin(), kWords.end(), word) != kWords.end();
 }
 
-/// True for a word of summaries that is a club's name as well, of a model or for the driving range.
-bool mayBeClub(std::string_view cell) {
+/// True for a word of summaries that is also the name of a player or a club.
+bool isAlsoName(std::string_view cell) {
     const std::string word = lowerCase(withoutBlanks(cell));
     return word == "max" || word == "range";
 }
@@ -197,12 +197,12 @@ bool ShotRows::isSummary(const CsvRow& row) const {
         if (withoutBlanks(row.cells[i]).empty())
             continue;
         const bool club = means(i, Quantity::Club);
-        const bool counts =
-            std::exchange(first, false) || club || means(i, Quantity::Shot) || anywhere;
         const bool byHand = i < byHand_.size() && byHand_[i];
+        const bool counts = std::exchange(first, false) || club || means(i, Quantity::Shot) ||
+                            (anywhere && !byHand);
         // Averages stand above the greatest and the range.
-        const bool named = club && !afterSummary_ && mayBeClub(row.cells[i]);
-        if (counts && !byHand && !named && isSummaryWord(row.cells[i]))
+        const bool named = (club || byHand) && !afterSummary_ && isAlsoName(row.cells[i]);
+        if (counts && !named && isSummaryWord(row.cells[i]))
             return true;
     }
     return false;

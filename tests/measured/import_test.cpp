@@ -203,6 +203,7 @@ TEST(Import, TellsLabelsOfClubsFromTitlesAndSummaries) {
         {"Player,Club," + headings + "Max,Range," + row, "Range"},
         {"Player,Club," + headings + "Max,Average," + row, "Averageaverage row"},
         {"Club,Note," + headings + "7i,max," + row, "7i"},
+        {"Player,Club," + headings + "Average,," + row, "average row"},
         {"Shot," + headings + "Max," + row, "average row"}};
     for (const auto& [text, club] : cases)
         EXPECT_EQ(clubIn(text), club) << text;
