@@ -64,7 +64,7 @@ std::size_t writeRows(std::span<const MeasuredShot> shots, std::span<const Model
         else if (!shot.device.carry)
             problem = "The device tells no carry.";
         else if (!(flights[i].figures.carry > 0))
-            problem = "The model computes no carry for it, so there is no ratio.";
+            problem = "The model's carry is not above 0 yards: it gives no ratio.";
         else if (!carries[i])
             problem = "The shot can't be flown in the calm air.";
         without += carries[i] ? 0U : 1U;

@@ -105,7 +105,8 @@ TEST(Command, EndsAsItsManualSays) {
          "line 2 is left out: marked as out\n"},
         {"normalise -", kOut + "144,9.5,3200,230,1\n", 2, "",
          "All of its shots are marked as out."},
-        {"normalise -", kOut + "30,0,0,230,0\n", 1, ",230,,,", ""},
+        {"normalise --wind 35 -", kOut + "100,55,22000,230,0\n", 1,
+         "The model's carry is not above 0", ""}, // blown back
         {"normalise --to-altitude-ft 16000 -", "", 2, "", "--to-altitude-ft: Enter a value"},
         // Clubs.
         {"clubs check", "", 0, "", ""},
