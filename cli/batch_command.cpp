@@ -175,9 +175,15 @@ private:
             writable = work.add([&, rows = std::exchange(rows, {})](const std::stop_token& stop) {
                 std::vector<BatchShot> shots;
                 shots.reserve(rows.size());
+                std::string leftOut;
                 for (const CsvRow& row : rows)
-                    shots.push_back(columns.shotOf(row, base_));
-                return flyShots(shots, out.writer(), stop);
+                    if (columns.isOut(row))
+                        leftOut += leftOutText(row.line, kMarkedOut);
+                    else
+                        shots.push_back(columns.shotOf(row, base_));
+                BatchText text = flyShots(shots, out.writer(), stop);
+                text.complaints.insert(0, leftOut);
+                return text;
             });
         };
         Outcome<bool, CsvFault> more{true};

@@ -3,6 +3,7 @@
 #include "cli/shot_rows.h"
 #include "measured/devices.h"
 #include "numbers/characters.h"
+#include "numbers/text_number.h"
 #include "shots/fault_words.h"
 #include "shots/shot_words.h"
 #include "shots/shown_figures.h"
@@ -128,8 +129,11 @@ BatchColumns::BatchColumns(const CsvRow& headings, char delimiter) : delimiter_(
 std::size_t BatchColumns::meaningOf(std::string_view heading) const {
     if (const auto input = shotInputNamed(heading))
         return *input;
-    for (const auto& [name, meaning] :
-         {std::pair("club", Club), {"ball", Ball}, {"mode", Mode}, {"problem", Problem}})
+    for (const auto& [name, meaning] : {std::pair("club", Club),
+                                        {"ball", Ball},
+                                        {"mode", Mode},
+                                        {"problem", Problem},
+                                        {"out", Out}})
         if (lowerCase(heading) == name)
             return meaning;
     return Ignored;
@@ -141,6 +145,10 @@ std::string_view BatchColumns::cellOf(const CsvRow& row, std::size_t meaning) co
     const auto column = static_cast<std::size_t>(found - meanings_.begin());
     return column < row.cells.size() && found != meanings_.end() ? trimmed(row.cells[column])
                                                                  : std::string_view();
+}
+
+bool BatchColumns::isOut(const CsvRow& row) const {
+    return parseNumber(cellOf(row, Out)).value_or(0) != 0;
 }
 
 /// Takes what the cells of a row say; the reason if they say what can't be.

@@ -29,6 +29,8 @@ public:
     /// A heading that stands for what another one has told; empty if there is none.
     const std::string& repeated() const { return repeated_; }
 
+    /// True for a row that counts nowhere: in the window of measured shots it was left out.
+    bool isOut(const CsvRow& row) const;
     /// The shot of a row: `base` with what its cells say. Empty cells say nothing. Beside a ball
     /// speed or a spin, the club is only a name. A row of results is flown by its launch: its mode
     /// says that the swing beside it is told, not asked for. One that had no result has none again,
@@ -36,7 +38,7 @@ public:
     BatchShot shotOf(const CsvRow& row, const ShotRequest& base) const;
 
 private:
-    enum Meaning : std::size_t { Club = kShotInputs, Ball, Mode, Problem, Ignored };
+    enum Meaning : std::size_t { Club = kShotInputs, Ball, Mode, Problem, Out, Ignored };
     std::size_t meaningOf(std::string_view heading) const;
     std::string_view cellOf(const CsvRow& row, std::size_t meaning) const;
     Outcome<void, std::string> take(ShotRequest& request, const CsvRow& row) const;

@@ -63,6 +63,8 @@ std::size_t writeRows(std::span<const MeasuredShot> shots, std::span<const Model
             problem = faultDescription(*fault);
         else if (!shot.device.carry)
             problem = "The device tells no carry.";
+        else if (!(flights[i].figures.carry > 0))
+            problem = "The model's carry is not above 0 yards: it gives no ratio.";
         else if (!carries[i])
             problem = "The shot can't be flown in the calm air.";
         without += carries[i] ? 0U : 1U;

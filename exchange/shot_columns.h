@@ -21,5 +21,7 @@ inline constexpr std::string_view kAltitude = "Altitude [ft]";
 inline constexpr std::string_view kTemperature = "Temperature [deg F]";
 inline constexpr std::string_view kPressure = "Pressure [inHg]"; ///< reduced to sea level
 inline constexpr std::string_view kHumidity = "Humidity [%]";
+inline constexpr std::string_view kPressureAtPlace = "Pressure at the place [inHg]";
+inline constexpr std::string_view kAirDensity = "Air density [kg/m3]";
 
 } // namespace parabolt::shot_columns

@@ -113,6 +113,10 @@ private:
     double down(std::size_t place) const {
         return kAbove + (static_cast<double>(place) + 0.5) * lineHeight_;
     }
+    /// Every line has its name where lines are high enough; else one of so many.
+    std::size_t linesPerName() const {
+        return static_cast<std::size_t>(std::ceil(kRoomForText / std::max(lineHeight_, 1.0)));
+    }
     std::size_t placeOf(std::size_t line) const {
         return static_cast<std::size_t>(std::find(order_.begin(), order_.end(), line) -
                                         order_.begin());
@@ -138,7 +142,8 @@ private:
         const double y = down(place);
         const double half = lineHeight_ / 4;
         pen(ink_);
-        canvas_.label({left_ - kGapToText, y}, shortName(line.name), {1, 0.5});
+        if (place % linesPerName() == 0)
+            canvas_.label({left_ - kGapToText, y}, shortName(line.name), {1, 0.5});
         if (line.measured) {
             const Spread& spread = *line.measured;
             const double deviation = spread.deviation.value_or(0);

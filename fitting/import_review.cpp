@@ -1,11 +1,11 @@
 #include "fitting/import_review.h"
 
 #include "exchange/shot_columns.h"
+#include "measured/cell_number.h"
 #include "measured/columns.h"
 
 #include <algorithm>
 #include <array>
-#include <set>
 
 namespace parabolt {
 namespace {
@@ -98,6 +98,9 @@ Outcome<ImportReview, ImportFault> ImportReview::open(std::string_view bytes,
         return review;
     }
     review.headings_ = guessedHeadings(review.file_);
+    constexpr std::size_t kExamples = 3;
+    const auto examples = exampleRows(review.file_, kExamples);
+    review.examples_.assign(examples.begin(), examples.end());
     const auto known = std::find_if(remembered.begin(), remembered.end(), [&](const auto& choice) {
         return recognises(choice, review.file_);
     });
@@ -112,6 +115,15 @@ void ImportReview::choose(ColumnChoice choice) {
     for (ChosenColumn& column : choice_.columns)
         column.heading = column.column < headings_.size() ? headings_[column.column] : "";
     preview_ = previewOf(file_, choice_);
+    for (ImportRow& row : preview_.rows)
+        row.taken = row.taken && !unticked_.contains(row.line);
+}
+
+void ImportReview::nameDevice(std::string name, bool computesCarry) {
+    choice_.name = std::move(name);
+    choice_.computesCarry = computesCarry;
+    preview_.device = choice_.name;
+    preview_.computesCarry = computesCarry;
 }
 
 std::vector<std::string> ImportReview::columnTitles() const {
@@ -126,10 +138,10 @@ std::vector<std::string> ImportReview::columnTitles() const {
 }
 
 std::vector<std::string> ImportReview::examples(std::size_t column) const {
-    constexpr std::size_t kExamples = 3;
     std::vector<std::string> cells;
-    for (const CsvRow& row : exampleRows(file_, kExamples))
-        cells.push_back(column < row.cells.size() ? row.cells[column] : std::string());
+    cells.reserve(examples_.size());
+    for (const CsvRow& row : examples_)
+        cells.emplace_back(cellOf(row, column));
     return cells;
 }
 
@@ -137,9 +149,12 @@ MeasuredUnit ImportReview::likelyUnit(std::size_t column, Quantity quantity) con
     auto texts = examples(column);
     if (column < headings_.size())
         texts.push_back(headingParts(headings_[column]).unit);
-    for (const std::string& text : texts)
-        if (const auto unit = unitNamed(text); unit && suits(*unit, quantity))
+    for (const std::string& text : texts) {
+        const auto number = cellNumber(text, false, false);
+        if (const auto unit = number ? number->unit : unitNamed(text);
+            unit && suits(*unit, quantity))
             return *unit;
+    }
     return textOf(quantity).unit;
 }
 
@@ -218,8 +233,13 @@ TableCell ImportReview::cell(std::size_t row, std::size_t column) const {
 
 void ImportReview::tick(std::size_t row, std::size_t column, bool ticked) {
     ImportRow& shown = preview_.rows[row];
-    if (static_cast<ReviewColumn>(column) == ReviewColumn::Take && shown.reason.empty())
-        shown.taken = ticked;
+    if (static_cast<ReviewColumn>(column) != ReviewColumn::Take || !shown.reason.empty())
+        return;
+    shown.taken = ticked;
+    if (ticked)
+        unticked_.erase(shown.line);
+    else
+        unticked_.insert(shown.line);
 }
 
 } // namespace parabolt

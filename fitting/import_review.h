@@ -5,6 +5,8 @@
 #include "measured/shot_import.h"
 #include "tables/table_source.h"
 
+#include <set>
+
 namespace parabolt {
 
 /// The choices of columns that the user has made for files that no device knows, the newest first.
@@ -42,8 +44,10 @@ public:
     /// The unit that such a column tells for a quantity, by its heading or below it; otherwise the
     /// program's own.
     MeasuredUnit likelyUnit(std::size_t column, Quantity quantity) const;
+    /// What the user calls the device, and whether it computes its carry, where no device is known.
+    void nameDevice(std::string name, bool computesCarry);
     /// Has another look at the file, by what its columns mean; those of which nothing is said mean
-    /// nothing. Headings are those of the file.
+    /// nothing. Headings are those of the file; lines whose box is empty by the user keep it empty.
     void choose(ColumnChoice choice);
     /// False if there is nothing to take, or if two columns are said to mean the same.
     bool canBeTaken() const { return preview_.count() > 0 && !chosenTwice(); }
@@ -70,6 +74,8 @@ private:
     ColumnChoice choice_;
     ColumnChoice remembered_; ///< the choice of last time; without columns if there was none
     std::vector<std::string> headings_; ///< none if no row has texts
+    std::vector<CsvRow> examples_;      ///< the first rows below them
+    std::set<std::size_t> unticked_;    ///< lines whose box the user has emptied
     ImportPreview preview_;
 };
 

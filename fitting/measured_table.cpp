@@ -200,12 +200,14 @@ void MeasuredTable::addAir() {
         std::optional<double> MeasuredAir::*member;
         std::string_view pattern;
     };
-    static constexpr std::array<Air, 5> kAir = {{
+    static constexpr std::array<Air, 7> kAir = {{
         {"wind", shot_columns::kWind, &MeasuredAir::wind, kTenths},
         {"altitude", shot_columns::kAltitude, &MeasuredAir::altitude, "0"},
         {"temperature", shot_columns::kTemperature, &MeasuredAir::temperature, kTenths},
         {"pressure", shot_columns::kPressure, &MeasuredAir::seaLevelPressure, kHundredths},
         {"humidity", shot_columns::kHumidity, &MeasuredAir::humidity, "0"},
+        {"placePressure", shot_columns::kPressureAtPlace, &MeasuredAir::pressure, kHundredths},
+        {"density", shot_columns::kAirDensity, &MeasuredAir::density, "0.000"},
     }};
     for (const Air& air : kAir)
         add({std::string(air.key), std::string(air.heading), "Of the file, where it brings it",

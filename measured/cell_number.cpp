@@ -1,6 +1,5 @@
 #include "measured/cell_number.h"
 
-#include "measured/quantities.h"
 #include "numbers/characters.h"
 #include "numbers/text_number.h"
 
@@ -31,8 +30,9 @@ void settlePoint(std::string& number, bool decimalComma, bool whole) {
     const bool alone = std::count(number.begin(), number.end(), mark) == 1;
     const bool both = number.find(mark == ',' ? '.' : ',') != std::string::npos;
     const bool threeBehind = number.size() - last == 4;
-    const bool decimal =
-        alone && (both || !threeBehind || (!whole && (mark == '.' || decimalComma)));
+    const std::string_view before = trimmed(std::string_view(number).substr(0, last), "+-");
+    const bool thousands = threeBehind && !before.empty() && before.size() <= 3 && before != "0";
+    const bool decimal = alone && (both || !thousands || (!whole && (mark == '.' || decimalComma)));
     const std::string behind = number.substr(last + 1);
     number.resize(last);
     std::erase_if(number, [](char c) { return c == '.' || c == ','; });
@@ -56,7 +56,7 @@ bool isMissing(std::string_view cell) {
     return std::find(kMissing.begin(), kMissing.end(), text) != kMissing.end();
 }
 
-std::optional<double> cellNumber(std::string_view cell, bool decimalComma, bool whole) {
+std::optional<CellNumber> cellNumber(std::string_view cell, bool decimalComma, bool whole) {
     std::string text = withoutBlanks(cell);
     replaceAll(text, "\u2212", "-");
     bool left = false;
@@ -70,14 +70,15 @@ std::optional<double> cellNumber(std::string_view cell, bool decimalComma, bool 
         takeSide(text.size() - 1);
 
     const std::size_t end = std::min(text.find_first_not_of(".,0123456789eE+-"), text.size());
-    if (end < text.size() && !unitNamed(std::string_view(text).substr(end)))
+    const auto unit = unitNamed(std::string_view(text).substr(end));
+    if (end < text.size() && !unit)
         return std::nullopt;
     text = withoutBlanks(text.substr(0, end));
     settlePoint(text, decimalComma, whole);
     const auto value = parseNumber(text);
     if (!value || !std::isfinite(*value))
         return std::nullopt;
-    return left ? -std::abs(*value) : *value;
+    return CellNumber{left ? -std::abs(*value) : *value, unit};
 }
 
 } // namespace parabolt

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "measured/quantities.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,12 +12,18 @@ namespace parabolt {
 std::string withoutBlanks(std::string_view text);
 /// True for an empty cell and for what devices write in its place: "-", "--", "N/A".
 bool isMissing(std::string_view cell);
-/// The number of a cell; nothing if it holds none. "5.4 L" and "L 5.4" are -5.4, "4.5 R" is 4.5; a
-/// unit may stand behind it.
+
+/// What a cell holds.
+struct CellNumber {
+    double value;
+    std::optional<MeasuredUnit> unit; ///< if one stands behind the number
+};
+/// The number of a cell; nothing if it holds none. "5.4 L" and "L 5.4" are -5.4, "4.5 R" is 4.5.
 ///
 /// `decimalComma` says that "5,4" is 5.4 in this file whatever follows; otherwise a comma before
 /// three last digits stands between thousands. `whole` says that the quantity has no decimals worth
-/// the name: then a point or comma before three last digits always does, as in "2.345" rpm.
-std::optional<double> cellNumber(std::string_view cell, bool decimalComma, bool whole);
+/// the name: then a point or comma before three last digits always does, as in "2.345" rpm. Before
+/// a mark between thousands stand one to three digits that are no 0: "6500.125" has decimals.
+std::optional<CellNumber> cellNumber(std::string_view cell, bool decimalComma, bool whole);
 
 } // namespace parabolt

@@ -23,16 +23,22 @@ const CsvRow* headingRow(const ShotFile& file) {
     return best != rows.end() && textsIn(*best) > 0 ? &*best : nullptr;
 }
 
-/// The column under a heading that some device, or the program itself, writes.
-std::optional<ColumnMeaning> meaningOf(std::size_t column, const std::string& heading) {
-    for (const Device& device : devices()) {
-        CsvRow alone;
-        alone.cells.assign(column + 1, {});
-        alone.cells[column] = heading;
-        if (auto columns = columnsBelow(alone, device); !columns.empty())
-            return columns.front();
-    }
-    return std::nullopt;
+/// The columns under headings that some device, or the program itself, writes; the first device
+/// that knows a heading tells what it means. Each quantity once.
+std::vector<ColumnMeaning> meaningsBelow(const CsvRow& headings) {
+    std::vector<std::optional<ColumnMeaning>> meanings(headings.cells.size());
+    for (const Device& device : devices())
+        for (const ColumnMeaning& column : columnsBelow(headings, device))
+            if (!meanings[column.column])
+                meanings[column.column] = column;
+    std::vector<ColumnMeaning> columns;
+    columns.reserve(meanings.size());
+    for (const auto& meaning : meanings)
+        if (meaning && std::none_of(columns.begin(), columns.end(), [&meaning](const auto& other) {
+                return other.quantity == meaning->quantity;
+            }))
+            columns.push_back(*meaning);
+    return columns;
 }
 
 std::optional<Quantity> quantityNamed(const std::string& name) {
@@ -104,15 +110,7 @@ ColumnChoice guessedChoice(const ShotFile& file) {
     const CsvRow* row = headingRow(file);
     if (row == nullptr)
         return choice;
-    std::vector<ColumnMeaning> columns;
-    for (std::size_t column = 0; column < row->cells.size(); ++column) {
-        const auto meaning = meaningOf(column, row->cells[column]);
-        const auto same = [&meaning](const auto& other) {
-            return other.quantity == meaning->quantity;
-        };
-        if (meaning && std::none_of(columns.begin(), columns.end(), same))
-            columns.push_back(*meaning);
-    }
+    std::vector<ColumnMeaning> columns = meaningsBelow(*row);
     if (const CsvRow* below = row + 1; below != file.rows.data() + file.rows.size())
         takeUnits(*below, columns);
     for (const ColumnMeaning& column : columns) {

@@ -27,6 +27,13 @@ void tellUnit(ColumnMeaning& column, std::string_view cell) {
     column.unknownUnit = known ? std::string() : text;
 }
 
+/// True for what files write as a unit even if nobody knows it: "[slug/ft3]".
+bool isBracketed(std::string_view cell) {
+    const std::string text = withoutBlanks(cell);
+    return text.size() > 2 && ((text.front() == '[' && text.back() == ']') ||
+                               (text.front() == '(' && text.back() == ')'));
+}
+
 bool standIn(std::span<const HeadingParts> parts, std::span<const std::string_view> marks) {
     return std::all_of(marks.begin(), marks.end(), [&parts](std::string_view mark) {
         const std::string name = headingParts(mark).name;
@@ -73,7 +80,7 @@ bool takeUnits(const CsvRow& row, std::vector<ColumnMeaning>& columns) {
         const std::string_view cell = cellOf(row, column.column);
         if (unitNamed(cell))
             units = true;
-        else if (cell.find_first_of("0123456789") != std::string_view::npos)
+        else if (!isBracketed(cell) && cell.find_first_of("0123456789") != std::string_view::npos)
             return false;
     }
     if (units)

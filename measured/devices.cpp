@@ -175,7 +175,7 @@ constexpr std::array<std::string_view, 3> kOwnMarks = {
 constexpr std::array<std::string_view, 4> kOwnMeasuredMarks = {
     shot_columns::kBallSpeed, shot_columns::kLaunchAngle, shot_columns::kSpin,
     "Measured carry [yd]"};
-constexpr std::array<DeviceColumn, 25> kOwnColumns = {{
+constexpr std::array<DeviceColumn, 27> kOwnColumns = {{
     {shot_columns::kClub, Quantity::Club, None},
     {shot_columns::kBallSpeed, Quantity::BallSpeed, Mph},
     {shot_columns::kLaunchAngle, Quantity::LaunchAngle, Degrees},
@@ -190,6 +190,8 @@ constexpr std::array<DeviceColumn, 25> kOwnColumns = {{
     {shot_columns::kTemperature, Quantity::Temperature, Fahrenheit},
     {shot_columns::kPressure, Quantity::SeaLevelPressure, InchesOfMercury},
     {shot_columns::kHumidity, Quantity::Humidity, Percent},
+    {shot_columns::kPressureAtPlace, Quantity::Pressure, InchesOfMercury},
+    {shot_columns::kAirDensity, Quantity::AirDensity, KilogramsPerCubicMetre},
     {"Measured carry [yd]", Quantity::Carry, Yards},
     {"Measured total [yd]", Quantity::Total, Yards},
     {"Measured height [yd]", Quantity::Height, Yards},

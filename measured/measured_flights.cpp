@@ -16,21 +16,17 @@ constexpr std::array<ComparedFigure, 5> kComparedFigures = {{
     {"Time", "s", &DeviceFigures::time, &Figures::time},
 }};
 
-// Limits of the main form's fields for pressure and altitude.
-constexpr double kLowestPressure = 25;
-constexpr float kHighestAltitude = 15000;
-
 /// Gives a shot the pressure of its place: at no altitude as the reading itself, or, where that
 /// lies below what weather services report, at the altitude to which it belongs.
 void setPressureAtPlace(Shot& shot, double pressure) {
     shot.h = 0;
-    if (pressure >= kLowestPressure) {
+    if (pressure >= limits::kPressure.lowest) {
         shot.BaroPressure = store32(pressure);
         return;
     }
     shot.BaroPressure = ShotInputs().BaroPressure;
     float low = 0;
-    float high = kHighestAltitude;
+    float high = store32(limits::kAltitude.highest);
     while (high - low > 1) {
         shot.h = (low + high) / 2;
         const auto state = deriveAir(shot);
@@ -39,16 +35,20 @@ void setPressureAtPlace(Shot& shot, double pressure) {
     }
 }
 
-/// The pressure at which the air of the shot has a density, with its temperature and humidity.
+/// The pressure at which the air of the shot has a density, with its temperature and humidity;
+/// nothing if no weather has it.
 std::optional<double> pressureOf(double density, Shot shot) {
     shot.h = 0;
     const auto state = deriveAir(shot);
     if (!state)
         return std::nullopt;
-    return state->StationPressure * (density / state->AirDensity);
+    const double pressure = state->StationPressure * (density / state->AirDensity);
+    return pressure <= limits::kPressure.highest ? std::optional(pressure) : std::nullopt;
 }
 
-void takeAir(Shot& shot, const MeasuredAir& air) {
+/// A session may be older than the limits of the import, or written by others.
+void takeAir(Shot& shot, MeasuredAir air) {
+    dropImpossible(air);
     if (air.wind)
         shot.WindSpeed = *air.wind;
     if (air.temperature)

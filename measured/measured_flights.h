@@ -33,7 +33,7 @@ std::span<const ComparedFigure> comparedFigures();
 /// conditions. With its own air, all of the weather that the file tells takes the place of that of
 /// the conditions. A pressure at the place then flies at no altitude, or, where it lies below what
 /// the main form's field accepts, at the altitude to which it belongs. Where the file tells no
-/// pressure, the density of the air gives it.
+/// pressure, the density of the air gives it, if that is one that the field accepts or a lower one.
 Shot shotOf(const MeasuredShot& shot, const Shot& conditions, bool ownAir);
 
 /// Flies all shots; flights in their order, each equal to the last bit to that of `fly` for

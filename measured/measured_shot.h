@@ -1,5 +1,6 @@
 #pragma once
 
+#include "measured/quantities.h"
 #include "shots/input_limits.h"
 #include "shots/shot.h"
 
@@ -55,6 +56,22 @@ struct LaunchLimit : InputLimits {
     float ShotInputs::*input;
 };
 std::span<const LaunchLimit> launchLimits();
+
+/// What air a file may bring, in the program's units: what the main form's fields take, and what
+/// they can be made of. Anything else is a cell that was never filled, or one in another unit.
+struct AirLimit {
+    Quantity quantity;
+    std::optional<double> MeasuredAir::*member;
+    double lowest;
+    double highest;
+
+    constexpr bool hold(double value) const { return value >= lowest && value <= highest; }
+};
+std::span<const AirLimit> airLimits();
+
+/// Takes out of the air what lies beyond its limits; tells what: "humidity 5000 % left out". Empty
+/// if nothing does.
+std::string dropImpossible(MeasuredAir& air);
 
 /// Why a shot can't be flown, for the user: "ball speed 12 mph is below 30"; empty if it can.
 std::string whyNotFlown(const MeasuredShot& shot);

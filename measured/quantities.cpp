@@ -43,7 +43,7 @@ struct Spelling {
     std::string_view text;
     MeasuredUnit unit;
 };
-constexpr std::array<Spelling, 43> kSpellings = {{
+constexpr std::array<Spelling, 44> kSpellings = {{
     {"mph", Mph},
     {"mi/h", Mph},
     {"km/h", KilometresPerHour},
@@ -86,6 +86,7 @@ constexpr std::array<Spelling, 43> kSpellings = {{
     {"g/l", KilogramsPerCubicMetre},
     {"kg/m3", KilogramsPerCubicMetre},
     {"kg/m³", KilogramsPerCubicMetre},
+    {"kg/m^3", KilogramsPerCubicMetre},
     {"%", Percent},
 }};
 

@@ -138,6 +138,11 @@ Outcome<ShotFile, ImportFault> readShotFile(std::string_view bytes) {
         });
         if (empty || namesDelimiter(row))
             continue;
+        if (row.cells.size() > kMostShotColumns) // spreadsheets may end a row with empty cells
+            while (withoutBlanks(row.cells.back()).empty())
+                row.cells.pop_back();
+        if (row.cells.size() > kMostShotColumns)
+            return because(aboutLine(row.line, "the file has more than 200 columns."));
         const bool figures = std::any_of(row.cells.begin(), row.cells.end(), [](const auto& cell) {
             return cell.find_first_of("0123456789") != std::string::npos;
         });

@@ -11,6 +11,8 @@ namespace parabolt {
 inline constexpr std::size_t kLongestShotFile = 10'000'000; ///< bytes
 inline constexpr std::size_t kMostShotRows = 10'000; ///< rows with a figure: headings don't count
 
+inline constexpr std::size_t kMostShotColumns = 200; ///< columns with content
+
 /// Why a file isn't taken.
 struct ImportFault {
     std::size_t line;    ///< of the file, from 1; 0 if it is about the file as a whole

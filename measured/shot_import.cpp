@@ -16,8 +16,8 @@
 namespace parabolt {
 namespace {
 
-/// True for a row that sums up others: one of its cells says so.
-bool isSummary(const CsvRow& row) {
+/// True for a cell that says that its row sums up others.
+bool isSummaryWord(std::string_view cell) {
     constexpr auto kWords = std::to_array<std::string_view>(
         {"average", "averages", "avg", "consistency", "deviation", "max", "maximum", "mean",
          "means", "median", "min", "minimum", "range", "sd", "standarddeviation", "stddev", "stdev",
@@ -25,11 +25,24 @@ bool isSummary(const CsvRow& row) {
          // Deutsch
          "durchschnitt", "gesamt", "mittel", "mittelwert", "mittelwerte", "stabw",
          "standardabweichung", "streuung", "summe"});
-    return std::any_of(row.cells.begin(), row.cells.end(), [&kWords](const std::string& cell) {
-        std::string word = lowerCase(cell);
-        std::erase_if(word, [](char c) { return c == ' ' || c == '.' || c == ':' || c == '-'; });
-        return std::find(kWords.begin(), kWords.end(), word) != kWords.end();
-    });
+    std::string word = lowerCase(cell);
+    std::erase_if(word, [](char c) { return c == ' ' || c == '.' || c == ':' || c == '-'; });
+    return std::find(kWords.begin(), kWords.end(), word) != kWords.end();
+}
+
+/// True for a word of summaries that is also the name of a player or a club.
+bool isAlsoName(std::string_view cell) {
+    const std::string word = lowerCase(withoutBlanks(cell));
+    return word == "max" || word == "range";
+}
+
+/// True for a column under which people write what they like, such as their name.
+bool isWrittenByHand(const std::string& heading) {
+    constexpr auto kHeadings =
+        std::to_array<std::string_view>({"comment", "golfer", "name", "note", "notes", "notiz",
+                                         "player", "player name", "spieler"});
+    const std::string name = headingParts(heading).name;
+    return std::find(kHeadings.begin(), kHeadings.end(), name) != kHeadings.end();
 }
 
 /// The text of a row that has no other cell than its first; empty for any other row.
@@ -66,6 +79,8 @@ bool hasDecimalCommas(const ShotFile& file) {
     return file.delimiter != ',' && commas > points;
 }
 
+constexpr std::string_view kAverageRow = "average row";
+
 /// What a row tells of a quantity.
 struct Reading {
     std::optional<double> value; ///< in the program's unit
@@ -99,7 +114,10 @@ private:
     void take(const CsvRow& row) {
         if (auto found = findColumns_(row)) {
             columns_ = std::move(*found);
+            byHand_.assign(row.cells.size(), false);
+            std::transform(row.cells.begin(), row.cells.end(), byHand_.begin(), isWrittenByHand);
             unitsMayFollow_ = true;
+            afterSummary_ = false;
         } else if (std::exchange(unitsMayFollow_, false) && isOfUnits(row)) {
             return;
         } else if (const std::string label = loneText(row);
@@ -109,6 +127,7 @@ private:
             rows_.push_back(rowOf(row));
             ImportRow& last = rows_.back();
             last.taken = last.reason.empty();
+            afterSummary_ = last.reason == kAverageRow;
         }
     }
 
@@ -138,6 +157,14 @@ private:
         return has(Quantity::Shot) && read(row, Quantity::Shot).value.has_value();
     }
 
+    bool means(std::size_t column, Quantity quantity) const {
+        return std::any_of(columns_.begin(), columns_.end(), [&](const auto& known) {
+            return known.column == column && known.quantity == quantity;
+        });
+    }
+
+    bool isSummary(const CsvRow& row) const;
+
     bool has(Quantity quantity) const {
         return std::any_of(columns_.begin(), columns_.end(),
                            [quantity](const auto& column) { return column.quantity == quantity; });
@@ -154,10 +181,32 @@ private:
     bool plainNumbers_;
     bool decimalComma_;
     std::vector<ColumnMeaning> columns_;
+    std::vector<bool> byHand_; ///< columns whose cells people have written
     bool unitsMayFollow_ = false;
-    std::string block_; ///< the club of the rows that follow
+    bool afterSummary_ = false; ///< the row above is a summary
+    std::string block_;         ///< the club of the rows that follow
     std::vector<ImportRow> rows_;
 };
+
+/// True for a row that sums up others. It says so in its first cell or in the place of the shot's
+/// number or club; without such columns, anywhere but where people write what they like.
+bool ShotRows::isSummary(const CsvRow& row) const {
+    const bool anywhere = !has(Quantity::Shot) && !has(Quantity::Club);
+    bool first = true;
+    for (std::size_t i = 0; i < row.cells.size(); ++i) {
+        if (withoutBlanks(row.cells[i]).empty())
+            continue;
+        const bool club = means(i, Quantity::Club);
+        const bool byHand = i < byHand_.size() && byHand_[i];
+        const bool counts = std::exchange(first, false) || club || means(i, Quantity::Shot) ||
+                            (anywhere && !byHand);
+        // Averages stand above the greatest and the range.
+        const bool named = (club || byHand) && !afterSummary_ && isAlsoName(row.cells[i]);
+        if (counts && !named && isSummaryWord(row.cells[i]))
+            return true;
+    }
+    return false;
+}
 
 Reading ShotRows::read(const CsvRow& row, Quantity quantity) const {
     const QuantityText& text = textOf(quantity);
@@ -168,16 +217,24 @@ Reading ShotRows::read(const CsvRow& row, Quantity quantity) const {
         const std::string_view cell = cellOf(row, column.column);
         if (column.quantity != quantity || isMissing(cell))
             continue;
-        const auto value = cellNumber(cell, decimalComma_, whole);
-        if (!column.unknownUnit.empty())
+        const auto number = cellNumber(cell, decimalComma_, whole);
+        const auto own = number ? number->unit : std::nullopt;
+        // "70°" tells no scale.
+        const bool told =
+            own && !(quantity == Quantity::Temperature && *own == MeasuredUnit::Degrees);
+        const MeasuredUnit unit = told ? *own : column.unit;
+        if (!told && !column.unknownUnit.empty())
             reading.problem = lowerCase(text.name) + " in an unknown unit, " + column.unknownUnit;
-        else if (!value)
+        else if (!number)
             reading.problem =
                 lowerCase(text.name) + " \"" + withoutBlanks(cell) + "\" is no number";
         else if (text.units.empty())
-            return {value, {}};
-        else if (column.unit != MeasuredUnit::None)
-            return {inUnitOf(quantity, *value, column.unit), {}};
+            return {number->value, {}};
+        else if (told && !suits(unit, quantity))
+            reading.problem =
+                lowerCase(text.name) + " \"" + withoutBlanks(cell) + "\" is in another unit";
+        else if (unit != MeasuredUnit::None)
+            return {inUnitOf(quantity, number->value, unit), {}};
     }
     return reading;
 }
@@ -240,9 +297,11 @@ ImportRow ShotRows::rowOf(const CsvRow& row) const {
                 value(Quantity::AirDensity), value(Quantity::Temperature),
                 value(Quantity::Pressure),   value(Quantity::SeaLevelPressure),
                 value(Quantity::Humidity)};
+    if (const std::string dropped = dropImpossible(shot.air); !dropped.empty())
+        result.remark += (result.remark.empty() ? "" : "; ") + dropped;
     result.leftOut = value(Quantity::LeftOut).value_or(0) != 0;
     if (isSummary(row))
-        result.reason = "average row";
+        result.reason = kAverageRow;
     else if (has(Quantity::Shot) && !isNumbered(row))
         result.reason = "no shot number";
     else

@@ -118,8 +118,8 @@ QWidget* ImportDialog::deviceRow() {
     computes_->setChecked(review_.choice().computesCarry);
     addLabelled(row, "&Name of the device:", name_);
     row->addWidget(computes_);
-    connect(name_, &QLineEdit::textChanged, this, &ImportDialog::chooseColumns);
-    connect(computes_, &QCheckBox::toggled, this, &ImportDialog::chooseColumns);
+    connect(name_, &QLineEdit::textChanged, this, &ImportDialog::nameDevice);
+    connect(computes_, &QCheckBox::toggled, this, &ImportDialog::nameDevice);
     return panel;
 }
 
@@ -180,10 +180,13 @@ void ImportDialog::offerUnits(std::size_t column) {
     fields.unit->setEnabled(fields.unit->count() > 0);
 }
 
+void ImportDialog::nameDevice() {
+    review_.nameDevice(fromQt(name_->text()), computes_->isChecked());
+    device_->setText(toQt(review_.summary()));
+}
+
 void ImportDialog::chooseColumns() {
     ColumnChoice choice = review_.choice();
-    choice.name = fromQt(name_->text());
-    choice.computesCarry = computes_->isChecked();
     choice.columns.clear();
     for (std::size_t i = 0; i < columns_.size(); ++i) {
         const int meaning = columns_[i].quantity->currentData().toInt();
@@ -199,6 +202,7 @@ void ImportDialog::chooseColumns() {
     }
     review_.choose(std::move(choice));
     rows_->refresh();
+    rows_->fitTexts();
     refresh();
 }
 

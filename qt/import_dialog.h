@@ -50,6 +50,7 @@ private:
     void addColumn(QGridLayout& cells, std::size_t column, const QString& heading);
     void showChoice();
     void offerUnits(std::size_t column);
+    void nameDevice();
     void chooseColumns();
     void refresh();
     void fitNotes();

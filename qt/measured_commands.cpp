@@ -65,6 +65,8 @@ Outcome<void, Failure> MeasuredWindow::importNamed(const std::string& fileName) 
     if (review->device() == nullptr)
         columns_.remember(review->choice());
     fitting_.take(review->preview(), fromQt(name), dialog.answers());
+    shotsView_->fitTexts(); // clubs have other names now
+    clubsView_->fitTexts();
     statusBar()->clearMessage();
     return {};
 }

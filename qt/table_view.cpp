@@ -124,6 +124,13 @@ int TableView::usualWidth(int column) const {
     return std::max(heading, std::clamp(cells, 16 * letter, 32 * letter));
 }
 
+void TableView::fitTexts() {
+    for (int i = 0; i < model_.columnCount(); ++i)
+        if (source_.columns()[static_cast<std::size_t>(i)].holds == TableColumn::Holds::Texts &&
+            !isColumnHidden(i))
+            setColumnWidth(i, usualWidth(i));
+}
+
 std::string TableView::layoutText() const {
     const QHeaderView& headings = *horizontalHeader();
     TableLayout layout;

@@ -27,6 +27,8 @@ public:
 
     /// The source holds something else now. What is selected stays so.
     void refresh() { model_.refresh(); }
+    /// Gives columns of texts the room that what stands in them now needs.
+    void fitTexts();
     /// Shows only those rows of the source for which this says yes; all, if it is empty.
     void setFilter(std::function<bool(std::size_t)> shown) { sorted_.setFilter(std::move(shown)); }
 

@@ -14,6 +14,7 @@ namespace {
 using nlohmann::json;
 
 const std::string kHead = "Ball speed [mph],Launch angle [deg],Spin [rpm]\n";
+const std::string kOut = "Ball speed [mph],Launch angle [deg],Spin [rpm],Device carry [yd],Out\n";
 
 const std::string kSet =
     "club,loft_deg,head_weight_g,head_speed_mph,COR,attack_angle_deg,bend_deg\n";
@@ -98,6 +99,14 @@ TEST(Command, EndsAsItsManualSays) {
          "not read are the columns \"Number\", \"Name\"."},
         {"normalise " PARABOLT_TEST_DATA "/measured/garmin.csv", "", 0, ",7 Iron,",
          "is left out: "},
+        {"batch", kOut + "144,9.5,3200,230,1\n144,9.5,3200,230,0\n", 0, ",Problem\r\n3,,144,",
+         "line 2 is left out: marked as out\n"},
+        {"normalise -", kOut + "144,9.5,3200,230,1\n144,9.5,3200,230,0\n", 0, ",Problem\r\n3,,144,",
+         "line 2 is left out: marked as out\n"},
+        {"normalise -", kOut + "144,9.5,3200,230,1\n", 2, "",
+         "All of its shots are marked as out."},
+        {"normalise --wind 35 -", kOut + "100,55,22000,230,0\n", 1,
+         "The model's carry is not above 0", ""}, // blown back
         {"normalise --to-altitude-ft 16000 -", "", 2, "", "--to-altitude-ft: Enter a value"},
         // Clubs.
         {"clubs check", "", 0, "", ""},

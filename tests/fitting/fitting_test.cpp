@@ -212,6 +212,7 @@ TEST_F(FittingTest, ItsOwnTableReadsBack) {
             EXPECT_EQ(taken[i].ballSpeed, before.entries[i].shot.ballSpeed);
             EXPECT_EQ(taken[i].backSpin, before.entries[i].shot.backSpin);
             EXPECT_EQ(taken[i].device, before.entries[i].shot.device) << name;
+            EXPECT_EQ(taken[i].air, before.entries[i].shot.air) << name;
         }
         fitting.take(back->preview(), "back.csv", {});
         for (std::size_t i = 0; i < taken.size(); ++i)
@@ -256,6 +257,11 @@ TEST(ImportReview, AsksWhatNobodyKnowsAndRemembersIt) {
     EXPECT_TRUE(review->summary().starts_with("No known")) << review->summary();
     review->tick(1, 0, false);
     EXPECT_EQ(review->preview().count(), 1U);
+    review->nameDevice("Radar", true); // sets the name and nothing else
+    EXPECT_EQ(review->preview().count(), 1U);
+    review->choose(twice);
+    review->choose(choice);
+    EXPECT_FALSE(review->preview().rows[1].taken) << "the user has emptied its box";
     EXPECT_EQ(review->unknownClubs(InitClubTables(), {}), Texts{"Seven"});
     EXPECT_TRUE(review->unknownClubs(InitClubTables(), {{"Seven", {true, 7}}}).empty());
 
@@ -406,6 +412,16 @@ TEST(CarryChart, StandsToScale) {
     EXPECT_EQ(carriesInWords(lines, "Device"),
               "7i: computed 150.0 yd, device 140.0 yd \u00b1 10.0; Driver: computed 250.0 yd; "
               "9i: computed 145.0 yd");
+    std::vector<CarryLine> many(60, lines[0]); // names that have no room are left out
+    canvas.setGeometry({0, 0, 9000, 6000});
+    drawCarries(canvas, many, {}, "Device", "nothing");
+    const auto named = shapesOf<DrawnText>(canvas);
+    std::vector<double> heights;
+    for (const DrawnText& text : named)
+        if (text.text == "7i")
+            heights.push_back(text.place.y);
+    ASSERT_GT(heights.size(), 10U);
+    EXPECT_GE(heights[1] - heights[0], 200) << "as high as a line of text";
     drawCarries(canvas, {}, {}, "Device", "nothing");
     EXPECT_EQ(shapesOf<DrawnText>(canvas).at(0).text, "nothing");
 }

@@ -182,6 +182,15 @@ TEST_F(MeasuredWindowTest, LetsTheUserChooseTheColumnsOfAnUnknownFile) {
         choose("importQuantity3", "Launch angle"); // a second time
         EXPECT_FALSE(dialog.findChild<QPushButton*>("importTake")->isEnabled());
         choose("importQuantity3", "Back spin");
+        auto* rows = dialog.findChild<TableView*>("importRows");
+        rows->model()->setData(rows->model()->index(0, 0), Qt::Unchecked, Qt::CheckStateRole);
+        auto* take = dialog.findChild<QPushButton*>("importTake");
+        dialog.findChild<QLineEdit*>("importName")->setText("Radar 2");
+        dialog.findChild<QCheckBox*>("importComputes")->setChecked(false);
+        choose("importUnit1", "m/s");
+        EXPECT_FALSE(take->isEnabled()) << "neither a name nor a unit ticks a row again";
+        dialog.findChild<QLineEdit*>("importName")->setText("Radar");
+        rows->model()->setData(rows->model()->index(0, 0), Qt::Checked, Qt::CheckStateRole);
         takeShots(dialog);
     });
     ASSERT_EQ(fitting.session().entries.size(), 1U);

@@ -87,6 +87,11 @@ TEST(Import, ReadsNumbersAsDevicesWriteThem) {
         std::optional<double> value;
     };
     const Case cases[] = {
+        {"6500.125", false, true, 6500.125}, // more than three digits before a mark: decimals
+        {"0.125", false, true, 0.125},
+        {".125", false, true, 0.125},
+        {"-2.345", false, true, -2345},
+        {"0,125", false, false, 0.125},
         {"5.4 L", false, false, -5.4},
         {"L 3.2", false, false, -3.2},
         {"4.5 R", false, false, 4.5},
@@ -115,8 +120,11 @@ TEST(Import, ReadsNumbersAsDevicesWriteThem) {
         {"12:30", false, false, {}},
         {"1e999", false, false, {}},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(cellNumber(c.cell, c.decimalComma, c.whole), c.value) << c.cell;
+    for (const Case& c : cases) {
+        const auto number = cellNumber(c.cell, c.decimalComma, c.whole);
+        ASSERT_EQ(number.has_value(), c.value.has_value()) << c.cell;
+        EXPECT_EQ(number ? number->value : 0, c.value.value_or(0)) << c.cell;
+    }
 }
 
 TEST(Import, UnderstandsWhatIsNoUtf8) {
@@ -147,6 +155,7 @@ TEST(Import, RefusesAFileAsAWholeAndSaysWhere) {
         {rows + "\n200,140,3000,12\n", "Line 10003: the file has more than 10,000 rows."},
         {headings + "200,140,\"3000,12\n200\n", "Line 2: a quote is opened and never closed."},
         {headings + std::string(2'000'000, 'x'), "Line 2: the row is longer than 1 MB."},
+        {headings + std::string(200, ',') + "x", "Line 2: the file has more than 200 columns."},
         {std::string("PK\3\4 \0 \0\xFF", 9),
          "This is no text file: tables of shots are read from CSV and text files."},
         {"Club,Speed\nD,150\n",
@@ -190,7 +199,12 @@ TEST(Import, TellsLabelsOfClubsFromTitlesAndSummaries) {
         {"Club," + headings + "2026-06-09\n," + row, ""},
         {headings + "140,3000,12,200,AVERAGE\n", "average row"},
         {headings + "140,3000,12,200,Std. Dev.:\n", "average row"},
-        {headings + "140,3000,12,200,Average Joe\n", ""}};
+        {headings + "140,3000,12,200,Average Joe\n", ""},
+        {"Player,Club," + headings + "Max,Range," + row, "Range"},
+        {"Player,Club," + headings + "Max,Average," + row, "Averageaverage row"},
+        {"Club,Note," + headings + "7i,max," + row, "7i"},
+        {"Player,Club," + headings + "Average,," + row, "average row"},
+        {"Shot," + headings + "Max," + row, "average row"}};
     for (const auto& [text, club] : cases)
         EXPECT_EQ(clubIn(text), club) << text;
     for (const char* word : {"Mittelwert", "Minimum", "MAXIMUM:", "Mittel", "Gesamt", "Summe",
@@ -212,7 +226,11 @@ TEST(Import, TakesUnitsFromWhereTheyStand) {
                           {"PEAK  HEIGHT", "[ft]", "30", {}}, // another heading
                           {"peak height [Feet]", "", "30", 10},
                           {"Peak Height", "[rpm]", "30", {}},
-                          {"Peak Height", "[ft]", "--", {}}};
+                          {"Peak Height", "[ft]", "--", {}},
+                          {"Peak Height", "[slug/ft3]", "30", {}}, // the other units hold
+                          {"Peak Height", "[slug/ft3]", "30 ft", 10},
+                          {"Peak Height [m]", "", "30 ft", 10}, // a cell knows best
+                          {"Peak Height", "[ft]", "30 mph", {}}};
     for (const Case& c : cases) {
         const auto preview = importShots(
             std::string("Ball Speed,Launch Angle,Back Spin,Spin Axis Tilt,") + c.heading + "\n" +
@@ -233,7 +251,8 @@ TEST(Import, TakesUnitsFromWhereTheyStand) {
         {Quantity::Altitude, 1609.344, "m", 5280},
         {Quantity::Altitude, 5280, "ft", 5280},
         {Quantity::Carry, 91.44, "metres", 100},
-        {Quantity::AirDensity, 1.2, "g/L", 1.2}};
+        {Quantity::AirDensity, 1.2, "g/L", 1.2},
+        {Quantity::AirDensity, 1.2, "[kg/m^3]", 1.2}};
     for (const auto& [quantity, value, unit, program] : known) {
         EXPECT_TRUE(suits(*unitNamed(unit), quantity)) << unit;
         EXPECT_NEAR(inUnitOf(quantity, value, *unitNamed(unit)), program, 1e-4) << unit;
@@ -241,6 +260,50 @@ TEST(Import, TakesUnitsFromWhereTheyStand) {
     for (const QuantityText& text : quantities()) // what a choice writes, it reads
         for (const MeasuredUnit unit : text.units)
             EXPECT_EQ(unitNamed(nameOf(unit)), unit) << text.name;
+}
+
+TEST(Import, TellsOfAUnitInACellThatDoesNotSuit) {
+    const std::string headings = "BallSpeed,BackSpin,VLA,Carry\n";
+    const std::pair<const char*, const char*> cases[] = {
+        {"53 m/s,3000,12,200", ""},
+        {"53 m,3000,12,200", "ball speed \"53 m\" is in another unit"},
+        {"140,3000 mph,12,200", "spin \"3000 mph\" is in another unit"},
+        {"53 knots,3000,12,200", "ball speed \"53 knots\" is no number"}};
+    for (const auto& [row, reason] : cases) {
+        const ShotFile file = *readShotFile(headings + row + "\n");
+        const ImportRow read = previewOf(file, *recognise(file)).rows.at(0);
+        EXPECT_TRUE(read.reason.ends_with(reason)) << read.reason;
+        EXPECT_EQ(read.taken, *reason == '\0') << row;
+    }
+    EXPECT_NEAR(importShots(headings + "53 m/s,3000,12,180 m")->rows[0].shot.ballSpeed, 118.56,
+                0.01);
+}
+
+TEST(Import, LeavesOutAirThatNobodyBreathes) {
+    struct Case {
+        const char* heading;
+        const char* cell;
+        const char* remark;
+    };
+    const Case cases[] = {
+        {"Wind [mph]", "-36", "wind -36 mph left out"},
+        {"Altitude [ft]", "1e9", "altitude 1E+09 ft left out"},
+        {"Temperature [deg F]", "-300", "temperature -300 deg F left out"},
+        {"Temperature [deg F]", "70\u00B0", ""},
+        {"Humidity [%]", "5000", "humidity 5000 % left out"},
+        {"Pressure [inHg]", "297", "pressure at sea level 297 inHg left out"},
+        {"Pressure at the place [inHg]", "0", "pressure at the place 0 inHg left out"},
+        {"Pressure at the place [inHg]", "17", ""}, // Mount Elbert
+        {"Air density [kg/m3]", "0", "air density 0 kg/m3 left out"},
+        {"Air density [kg/m3]", "0.66", ""},
+        {"Air density [kg/m3]", "1.5", ""}};
+    for (const Case& c : cases) {
+        const auto preview = importShots("Ball speed [mph],Launch angle [deg],Spin [rpm]," +
+                                         std::string(c.heading) + "\n144,12,2600," + c.cell);
+        ASSERT_TRUE(preview && preview->count() == 1) << c.heading;
+        EXPECT_EQ(preview->rows[0].remark, c.remark);
+        EXPECT_EQ(preview->rows[0].shot.air == MeasuredAir(), *c.remark != '\0') << c.heading;
+    }
 }
 
 TEST(Import, AnUnknownFileIsReadByColumnsOfTheUsersChoice) {

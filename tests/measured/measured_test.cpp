@@ -87,6 +87,8 @@ TEST(MeasuredFlights, FlyInTheAirOfTheFile) {
     EXPECT_NEAR(densityOf(air), 1.1, 0.002);
     air.density = 0.9;
     EXPECT_NEAR(densityOf(air), 0.9, 0.002);
+    air.density = 1.45; // no weather of that warmth has it
+    EXPECT_NEAR(densityOf(air), deriveAir(windy())->AirDensity, 0.05);
 
     // What the program has exported flies as it did.
     Shot shot = windy();
