@@ -1,6 +1,7 @@
 #include "fitting/measured_table.h"
 
 #include "exchange/shot_columns.h"
+#include "fitting/measured_words.h"
 #include "numbers/characters.h"
 
 #include <algorithm>
@@ -275,7 +276,7 @@ void ClubsTable::refresh() {
 TableCell ClubsTable::cell(std::size_t row, std::size_t column) const {
     const ClubStatistics& club = clubs_[row];
     if (column == 0)
-        return {club.club.empty() ? "(no club)" : club.club};
+        return {shownClub(club.club)};
     if (column == 1)
         return numberCell(static_cast<double>(club.number), "0");
     const ClubColumn& told = kClubColumns[column - kTextColumns];
