@@ -106,7 +106,7 @@ TEST(Command, EndsAsItsManualSays) {
         {"normalise -", kOut + "144,9.5,3200,230,1\n", 2, "",
          "All of its shots are marked as out."},
         {"normalise --wind 35 -", kOut + "100,55,22000,230,0\n", 1,
-         "The model's carry is not above 0", ""}, // blown back
+         "The model's carry is not above 0", "a file of Parabolt"}, // blown back
         {"normalise --to-altitude-ft 16000 -", "", 2, "", "--to-altitude-ft: Enter a value"},
         // Clubs.
         {"clubs check", "", 0, "", ""},
