@@ -15,7 +15,7 @@ bool isMissing(std::string_view cell);
 
 /// What a cell holds.
 struct CellNumber {
-    double value;
+    double value = 0;
     std::optional<MeasuredUnit> unit; ///< if one stands behind the number
 };
 /// The number of a cell; nothing if it holds none. "5.4 L" and "L 5.4" are -5.4, "4.5 R" is 4.5.
