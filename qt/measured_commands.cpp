@@ -64,9 +64,9 @@ Outcome<void, Failure> MeasuredWindow::importNamed(const std::string& fileName) 
         return {};
     if (review->device() == nullptr)
         columns_.remember(review->choice());
+    otherClubs_ = true;
     fitting_.take(review->preview(), fromQt(name), dialog.answers());
-    shotsView_->fitTexts(); // clubs have other names now
-    clubsView_->fitTexts();
+    shotsView_->fitTexts();
     statusBar()->clearMessage();
     return {};
 }

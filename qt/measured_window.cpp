@@ -239,6 +239,10 @@ void MeasuredWindow::refresh() {
     clubs_.refresh();
     shotsView_->refresh();
     clubsView_->refresh();
+    if (otherClubs_ && clubs_.rowCount() > 0) {
+        otherClubs_ = false;
+        clubsView_->fitTexts();
+    }
     chart_->redraw();
     chart_->setAccessibleDescription(toQt(carriesInWords(carryLines(), whose())));
     showChoices();

@@ -65,6 +65,7 @@ private:
     MeasuredTable shots_;
     ClubsTable clubs_;
     std::uint64_t computing_ = 0; ///< generation at which the background is, or was
+    bool otherClubs_ = false;     ///< shots have come in, and their clubs have no rows yet
     bool formRuns_ = false;       ///< the main form takes no shots: a study or batch runs
 
     QLabel* source_;
