@@ -33,7 +33,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     plot.PreparePrintPlots();
     static_cast<void>(plot.inWords());
     const DataSets sets(form.Runs);
-    static_cast<void>(tableAsCsv(sets, wholeTable(sets)));
+    static_cast<void>(tableAsCsv(sets, completeTable(sets)));
     const std::string once = encodeSession({takeDesk(form), session->time});
     const auto again = decodeSession(once);
     if (!again)

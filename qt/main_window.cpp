@@ -37,7 +37,7 @@ constexpr double kBesideWeather = 7140;
 constexpr double kUpperHeight = 4000;
 constexpr double kLeastPlot = 1850;
 constexpr double kLegendWidth = 12340; ///< of twelve entries
-constexpr int kGap = 8;                ///< pixels around a frame, a half on each side
+constexpr int kAroundFrame = 8;        ///< pixels around a frame, a half on each side
 
 /// The small window of `frmProgress`. It goes when the study ends; Esc, or a desktop that lets it
 /// be closed all the same, stops the study.
@@ -231,8 +231,8 @@ void MainWindow::describePlot() {
 /// The twip grows with the font, so that all that stands above the plot fits into its share.
 double MainWindow::pixelsPerTwip() const {
     const QSize inputs = layout_.inputs->minimumSizeHint();
-    return std::max({1.0 / kTwipsPerPixel, (inputs.width() + kGap) / kInputsWidth,
-                     (layout_.ball->minimumSizeHint().width() + kGap / 2) / kBallWidth,
+    return std::max({1.0 / kTwipsPerPixel, (inputs.width() + kAroundFrame) / kInputsWidth,
+                     (layout_.ball->minimumSizeHint().width() + kAroundFrame / 2) / kBallWidth,
                      layout_.panel->minimumSizeHint().height() / kUpperHeight});
 }
 
@@ -269,8 +269,8 @@ void MainWindow::fitToSize() {
         return area.width() - pixels(width - 120 - twips);
     };
     layout_.panel->setGeometry(0, 0, area.width(), upper);
-    layout_.inputs->setFixedWidth(pixels(kInputsWidth) - kGap);
-    layout_.ball->setFixedWidth(pixels(kBallWidth) - kGap / 2);
+    layout_.inputs->setFixedWidth(pixels(kInputsWidth) - kAroundFrame);
+    layout_.ball->setFixedWidth(pixels(kBallWidth) - kAroundFrame / 2);
     layout_.table->setFixedWidth(reachingRight(logic_.form.txtResult.width()));
     layout_.weather->setFixedWidth(reachingRight(logic_.form.Frame7.width()));
     place(logic_.form.Picture1, upper - kUpperHeight * plotScale);

@@ -26,7 +26,7 @@
 namespace parabolt {
 namespace {
 
-constexpr QSize kStartSize{1180, 760};
+constexpr QSize kMapStartSize{1180, 760};
 constexpr auto kMapWindow = "carryMap";
 constexpr auto kDoubleNote = "Wind and altitude count about double in this model.";
 constexpr auto kKey = "<p><b>Key</b><br>"
@@ -67,7 +67,7 @@ MapWindow::MapWindow(frmMain& logic, const FormServices& services)
     setWindowTitle(toQt(kApplicationTitle) + " - Carry Map");
     setAttribute(Qt::WA_QuitOnClose, false); // the program ends with the main form
     setLocale(QLocale::c());
-    resize(kStartSize.boundedTo(screen()->availableSize() * 0.95));
+    resize(kMapStartSize.boundedTo(screen()->availableSize() * 0.95));
     for (const MapOutcome outcome : mapOutcomes())
         outcome_->addItem(toQt(heading(outcome)));
     readout_->setAccessibleName("Under the cross hair");
