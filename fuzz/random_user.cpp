@@ -176,11 +176,26 @@ private:
         if (desks_ == nullptr)
             require(form_.txtResult.lineCount() == static_cast<std::size_t>(sets) + 4,
                     "the table has another number of rows");
-        const auto& shapes = form_.Picture2.drawings();
-        const auto curves = std::count_if(shapes.begin(), shapes.end(), [](const Drawing& drawing) {
-            return std::holds_alternative<DrawnCurve>(drawing);
-        });
-        require(curves == std::ssize(form_.Runs.ticked()), "the plot shows other data sets");
+        checkPlot();
+    }
+    /// The curves of the ticked data sets and no others; of equal ones one may stand for all.
+    void checkPlot() const {
+        std::vector<const DrawnCurve*> curves;
+        for (const Drawing& drawing : form_.Picture2.drawings())
+            if (const auto* curve = std::get_if<DrawnCurve>(&drawing))
+                curves.push_back(curve);
+        const auto ticked = form_.Runs.ticked();
+        const auto isOf = [this](const DrawnCurve* curve, int number) {
+            const RunRecord& run = form_.Runs[number];
+            return curve->colour == run.CurveColor && std::ranges::equal(curve->points, run.Path);
+        };
+        for (const int number : ticked)
+            require(std::ranges::any_of(
+                        curves, [&](const DrawnCurve* curve) { return isOf(curve, number); }),
+                    "a ticked data set isn't in the plot");
+        for (const DrawnCurve* curve : curves)
+            require(std::ranges::any_of(ticked, [&](int number) { return isOf(curve, number); }),
+                    "the plot shows what isn't ticked");
     }
     void tellDesk(const char* what) const {
         if (desks_ == nullptr)

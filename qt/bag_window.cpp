@@ -92,8 +92,7 @@ BagWindow::BagWindow(frmMain& logic, Fitting& fitting, const FormServices& servi
 }
 
 BagWindow::~BagWindow() {
-    if (isVisible())
-        BagWindow::remember();  // whose parts are still there
+    hide(); // while its parts are there, which take what is still being typed, and remember
     delete takeCentralWidget(); // its tables read what goes before it otherwise
 }
 

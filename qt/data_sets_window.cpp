@@ -104,8 +104,7 @@ DataSetsWindow::DataSetsWindow(frmMain& logic, const FormServices& services, Pri
 }
 
 DataSetsWindow::~DataSetsWindow() {
-    if (isVisible())
-        remember();
+    hide();                     // while its parts are there, which are to be remembered
     delete takeCentralWidget(); // before what it shows
 }
 

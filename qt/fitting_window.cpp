@@ -13,6 +13,7 @@
 #include <QClipboard>
 #include <QDoubleSpinBox>
 #include <QMenu>
+#include <QPointer>
 #include <QShortcut>
 #include <QSignalBlocker>
 
@@ -34,9 +35,10 @@ FittingWindow::FittingWindow(frmMain& logic, Fitting& fitting, const FormService
     setWindowTitle(toQt(kApplicationTitle) + " - " + title);
     setAttribute(Qt::WA_QuitOnClose, false); // the program ends with the main form
     setLocale(QLocale::c());
-    fitting_.Changed.connect([this] {
-        if (isVisible())
-            refresh();
+    // The other window may change the session when this one has gone, as the program ends.
+    fitting_.Changed.connect([window = QPointer(this)] {
+        if (window != nullptr && window->isVisible())
+            window->refresh();
     });
     // The form changes in this thread alone: before it sleeps, and when it wakes, a look is enough.
     const auto* loop = QAbstractEventDispatcher::instance();

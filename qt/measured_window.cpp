@@ -90,9 +90,8 @@ MeasuredWindow::MeasuredWindow(frmMain& logic, Fitting& fitting, const FormServi
 }
 
 MeasuredWindow::~MeasuredWindow() {
-    if (isVisible())
-        MeasuredWindow::remember(); // whose parts are still there
-    delete takeCentralWidget();     // its tables read what goes before it otherwise
+    hide(); // while its parts are there, which take what is still being typed, and remember
+    delete takeCentralWidget(); // its tables read what goes before it otherwise
 }
 
 void MeasuredWindow::buildCommands() {

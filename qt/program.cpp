@@ -88,6 +88,9 @@ Program::Program()
 }
 
 Program::~Program() {
+    // What is still being typed in these becomes part of the desk.
+    measuredWindow_.reset();
+    bagWindow_.reset();
     if (logic_.form.blFormLoaded)
         logic_.sessions.finish();
 }

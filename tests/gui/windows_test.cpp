@@ -12,7 +12,9 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <QDesktopServices>
+#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QTest>
 #include <QTextBrowser>
@@ -177,6 +179,33 @@ TEST_F(ProgramTest, TheSplashGivesWayToTheMainFormWhichEndsTheProgram) {
         }
         ASSERT_TRUE(window("frmMain"));
         window("frmMain")->close();
+    }));
+}
+
+TEST_F(ProgramTest, WhatIsBeingTypedAtItsEndIsKept) {
+    const auto altitude = [] {
+        return window("measuredShots")->findChild<QDoubleSpinBox*>("measuredAltitude");
+    };
+    EXPECT_TRUE(ends([&] {
+        QTest::keyClick(window("frmSplash"), Qt::Key_Space);
+        QTest::mouseClick(window("frmMain")->findChild<QWidget*>("Command1"), Qt::LeftButton);
+        trigger("mnuBag");
+        trigger("mnuMeasured");
+        QTest::qWait(0);
+        window("measuredShots")->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window("measuredShots")));
+        window("measuredShots")->findChild<QCheckBox*>("measuredNormalise")->click();
+        altitude()->setFocus();
+        altitude()->selectAll();
+        QTest::keyClicks(altitude(), "4321");
+        trigger("mnuExit");
+    }));
+    EXPECT_TRUE(ends([&] {
+        QTest::keyClick(window("frmSplash"), Qt::Key_Space);
+        trigger("mnuReopenSession");
+        trigger("mnuMeasured");
+        EXPECT_EQ(altitude()->value(), 4321);
+        trigger("mnuExit");
     }));
 }
 
