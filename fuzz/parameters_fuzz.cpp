@@ -1,3 +1,4 @@
+#include "fuzz/silent_messages.h"
 #include "mainform/defaults.h"
 #include "mainform/form_shot.h"
 #include "mainform/modes.h"
@@ -6,21 +7,10 @@
 
 #include <cstdlib>
 
-namespace {
-
-using namespace parabolt;
-
-struct SilentMessages : MessageBoxes {
-    void show(std::string_view) override {}
-    bool ask(std::string_view) override { return true; }
-    Answer askOrCancel(std::string_view) override { return Answer::Yes; }
-};
-
-} // namespace
-
 // Whatever a parameters file holds, in every mode: it is laid into the form or stops half-way, and
 // the form goes on working.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace parabolt;
     const ParameterRecord record = decodeParameters({data, size});
     const Bytes bytes = encodeParameters(record);
     for (std::size_t i = 0; i < bytes.size(); ++i)

@@ -1,3 +1,4 @@
+#include "fuzz/silent_messages.h"
 #include "mainform/plot_panel.h"
 #include "mainform/validators.h"
 #include "sessions/form_desk.h"
@@ -7,21 +8,10 @@
 
 #include <cstdlib>
 
-namespace {
-
-using namespace parabolt;
-
-struct SilentMessages : MessageBoxes {
-    void show(std::string_view) override {}
-    bool ask(std::string_view) override { return true; }
-    Answer askOrCancel(std::string_view) override { return Answer::Yes; }
-};
-
-} // namespace
-
 // Whatever a session file holds: it is refused, or it can be laid on the form, which shows it and
 // has the same desk again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace parabolt;
     const auto session = decodeSession({reinterpret_cast<const char*>(data), size});
     if (!session)
         return 0;
