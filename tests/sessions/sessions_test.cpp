@@ -214,6 +214,11 @@ TEST_F(WayBackTest, LeadsBackFromEachWipeAndForthAgain) {
             user.act([&] { user.run(); });
         user.messages.answers = {answer};
     };
+    const auto note = [](User& user) {
+        user.press(user.form.Command2);
+        user.form.txtResult.edited({{"a note", kBlack}}, 6);
+        user.main.plot.DrawPlotFrame();
+    };
     const std::tuple<const char*, std::function<void(User&)>, std::function<void(User&)>> wipes[] =
         {
             {"Clear", {}, [](User& user) { user.press(user.form.Command2); }},
@@ -235,11 +240,11 @@ TEST_F(WayBackTest, LeadsBackFromEachWipeAndForthAgain) {
              [](User& user) {
                  user.form.txtResult.edited({{"x", kBlack}}, 1);
              }},
-            {"the first run over a note",
-             [](User& user) {
-                 user.press(user.form.Command2);
-                 user.form.txtResult.edited({{"a note", kBlack}}, 6);
-                 user.main.plot.DrawPlotFrame();
+            {"the first run over a note", note, [](User& user) { user.run(); }},
+            {"Auto over a note",
+             [&](User& user) {
+                 user.form.optAuto.select();
+                 note(user);
              },
              [](User& user) { user.run(); }},
             {"Rewrite Table", {}, [](User& user) { user.form.mnuRewriteTable.Click(); }},
