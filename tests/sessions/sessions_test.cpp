@@ -343,13 +343,16 @@ TEST(Recovery, AsksOnceForTheDeskOfAProgramThatDidNotEndProperly) {
         beside.main.sessions.recover(); // whose program lives
         EXPECT_EQ(beside.messages.texts, Texts());
     }
-    for (const Answer answer : {Answer::Yes, Answer::No}) {
+    for (const auto& [answer, day, when] : {std::tuple{Answer::Yes, "2026-11-23", "10:32"},
+                                            {Answer::No, "2026-11-24", "2026-11-23 10:32"}}) {
         ScriptedForm next(folder.path("state"));
         ScriptedForm beside(folder.path("state"));
+        next.time = day + std::string(" 10:32");
         next.messages.answers = {answer};
         next.main.sessions.recover();
         EXPECT_EQ(next.messages.texts,
-                  Texts{"Parabolt did not end properly. Reopen 2 data sets of 10:32?"});
+                  Texts{std::string("Parabolt did not end properly. Reopen 2 data sets of ") +
+                        when + "?"});
         EXPECT_EQ(takeDesk(next.form) == crashed, answer == Answer::Yes);
         beside.main.sessions.recover();
         EXPECT_EQ(beside.messages.texts, Texts()) << "another has it";
