@@ -364,6 +364,27 @@ TEST(Recovery, AsksOnceForTheDeskOfAProgramThatDidNotEndProperly) {
     EXPECT_EQ(takeDesk(after.form), crashed) << "and nothing is lost by it";
 }
 
+TEST(Recovery, AsksForTheNewestOfSeveralDesks) {
+    const TemporaryFolder folder;
+    {
+        ScriptedForm users[] = {ScriptedForm(folder.path("state")),
+                                ScriptedForm(folder.path("state")),
+                                ScriptedForm(folder.path("state"))};
+        for (const auto& [user, runs] : {std::pair{1, 3}, {2, 1}, {0, 2}}) {
+            users[user].run(runs);
+            users[user].main.sessions.actionEnded();
+            EXPECT_TRUE(users[user].main.sessions.isSafe());
+        }
+    }
+    for (const char* desk : {"2 data sets", "1 data set", "3 data sets"}) {
+        ScriptedForm next(folder.path("state"));
+        next.messages.answers = {Answer::No};
+        next.main.sessions.recover();
+        EXPECT_EQ(next.messages.texts, Texts{"Parabolt did not end properly. Reopen " +
+                                             std::string(desk) + " of 10:32?"});
+    }
+}
+
 TEST(Recovery, AnOrderlyEndLeavesTheDeskAndNoEmptyOneReplacesIt) {
     const TemporaryFolder folder;
     const auto visit = [&](const std::function<void(ScriptedForm&)>& use) {
@@ -374,6 +395,7 @@ TEST(Recovery, AnOrderlyEndLeavesTheDeskAndNoEmptyOneReplacesIt) {
         user.main.sessions.actionEnded();
         user.main.sessions.finish();
     };
+    visit([](ScriptedForm&) {}); // leaves nothing
     visit([](ScriptedForm& user) {
         user.form.mnuReopenSession.Click();
         EXPECT_EQ(user.messages.texts.size(), 1U) << "there is none yet";
