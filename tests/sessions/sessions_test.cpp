@@ -257,12 +257,14 @@ TEST_F(WayBackTest, LeadsBackFromEachWipeAndForthAgain) {
         user.main.sessions.begin();
         const Desk before = user.desk();
         const auto curves = user.curves();
+        const std::string status = user.form.StatusBar1.caption();
         user.act([&, &act = wipe] { act(user); });
         const Desk after = user.desk();
         EXPECT_NE(after, before) << about;
         user.goBack();
         EXPECT_EQ(user.desk(), before) << about;
         EXPECT_EQ(user.curves(), curves) << about;
+        EXPECT_EQ(user.form.StatusBar1.caption(), status) << about;
         user.goBack();
         EXPECT_EQ(user.desk(), after) << about;
     }
@@ -343,6 +345,13 @@ TEST(Recovery, AsksOnceForTheDeskOfAProgramThatDidNotEndProperly) {
         beside.main.sessions.recover(); // whose program lives
         EXPECT_EQ(beside.messages.texts, Texts());
     }
+    {
+        const FailingDisk full(1000);
+        ScriptedForm never(folder.path("state"));
+        never.messages.answers = {Answer::Yes};
+        never.main.sessions.recover();
+        EXPECT_EQ(takeDesk(never.form), crashed);
+    } // whose desk was never safe: the next start asks for the old one
     for (const auto& [answer, day, when] : {std::tuple{Answer::Yes, "2026-11-23", "10:32"},
                                             {Answer::No, "2026-11-24", "2026-11-23 10:32"}}) {
         ScriptedForm next(folder.path("state"));
@@ -463,6 +472,8 @@ TEST(Recovery, TellsAFullDiskAndAFolderThatCannotBeWritten) {
     recovery.keep(work);
     EXPECT_TRUE(recovery.flush());
     EXPECT_TRUE(trouble.empty());
+    EXPECT_EQ(std::filesystem::status(folder.path("state")).permissions(),
+              std::filesystem::perms::owner_all);
     {
         const FailingDisk full(1000);
         recovery.keep({{}, ""});
