@@ -287,6 +287,10 @@ TEST_F(WayBackTest, LosesNoNoteThatWasJustTyped) {
     goBack();
     EXPECT_EQ(form.txtResult.text(), note + "s");
     EXPECT_TRUE(form.optLaunch.selected());
+    for (const char* text : {"four", "fou", "fo", "f"})
+        type(text);
+    goBack();
+    EXPECT_EQ(form.txtResult.text(), "four") << "so do letters taken away one by one";
 }
 
 TEST_F(WayBackTest, KeepsTenWipesWhateverSmallChangesLieBetween) {
