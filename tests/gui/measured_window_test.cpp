@@ -283,6 +283,7 @@ TEST_F(MeasuredWindowTest, GoesOutAsTableChartAndPage) {
               find<ChartView>("measuredGaps")->size() * 2);
     inDialog([](QDialog& dialog) {
         dialog.findChild<QLineEdit*>("sheetPlayer")->setText("Ann");
+        dialog.findChild<QLineEdit*>("sheetNote")->setText("windy");
         dialog.findChild<QPushButton*>("sheetPrint")->click();
     });
     find<QAction>("measuredPrint")->trigger();
@@ -290,6 +291,7 @@ TEST_F(MeasuredWindowTest, GoesOutAsTableChartAndPage) {
     EXPECT_EQ(fitting.session().player, "Ann");
     inDialog([](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QLineEdit*>("sheetPlayer")->text(), "Ann");
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("sheetNote")->text(), "windy");
     });
     bag.findChild<QAction*>("bagPrint")->trigger();
 }
