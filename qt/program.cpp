@@ -89,6 +89,7 @@ Program::Program()
 
 Program::~Program() {
     // What is still being typed in these becomes part of the desk.
+    dataSetsWindow_.reset();
     measuredWindow_.reset();
     bagWindow_.reset();
     if (logic_.form.blFormLoaded)

@@ -4,6 +4,7 @@
 #include "qt/print_view_window.h"
 #include "qt/program.h"
 #include "qt/splash_window.h"
+#include "qt/table_view.h"
 #include "qt/text.h"
 #include "sessions/session_codec.h"
 #include "tests/support/golden.h"
@@ -183,30 +184,46 @@ TEST_F(ProgramTest, TheSplashGivesWayToTheMainFormWhichEndsTheProgram) {
 }
 
 TEST_F(ProgramTest, WhatIsBeingTypedAtItsEndIsKept) {
-    const auto altitude = [] {
-        return window("measuredShots")->findChild<QDoubleSpinBox*>("measuredAltitude");
+    const auto type = [](const char* name, const char* part) {
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window(name)));
+        if (auto* table = window(name)->findChild<TableView*>(part)) {
+            table->setCurrentIndex(table->model()->index(0, 0));
+            QTest::keyClick(table, Qt::Key_F2);
+            return QTest::keyClicks(table->viewport()->findChild<QLineEdit*>(), "4321");
+        }
+        window(name)->findChild<QCheckBox*>("measuredNormalise")->click();
+        auto* number = window(name)->findChild<QDoubleSpinBox*>(part);
+        number->setFocus();
+        number->selectAll();
+        QTest::keyClicks(number, "4321");
     };
-    EXPECT_TRUE(ends([&] {
-        QTest::keyClick(window("frmSplash"), Qt::Key_Space);
-        QTest::mouseClick(window("frmMain")->findChild<QWidget*>("Command1"), Qt::LeftButton);
-        trigger("mnuBag");
-        trigger("mnuMeasured");
-        QTest::qWait(0);
-        window("measuredShots")->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window("measuredShots")));
-        window("measuredShots")->findChild<QCheckBox*>("measuredNormalise")->click();
-        altitude()->setFocus();
-        altitude()->selectAll();
-        QTest::keyClicks(altitude(), "4321");
-        trigger("mnuExit");
-    }));
-    EXPECT_TRUE(ends([&] {
-        QTest::keyClick(window("frmSplash"), Qt::Key_Space);
-        trigger("mnuReopenSession");
-        trigger("mnuMeasured");
-        EXPECT_EQ(altitude()->value(), 4321);
-        trigger("mnuExit");
-    }));
+    const auto shown = [](const char* name, const char* part, int column) {
+        if (const auto* table = window(name)->findChild<TableView*>(part))
+            return table->model()->index(0, column).data().toString();
+        return window(name)->findChild<QDoubleSpinBox*>(part)->cleanText();
+    };
+    for (const auto& [action, name, part, column] :
+         {std::tuple{"mnuDataSets", "dataSets", "dataSetsTable", 2},
+          {"mnuBag", "bag", "bagTable", 1},
+          {"mnuMeasured", "measuredShots", "measuredAltitude", 0}}) {
+        EXPECT_TRUE(ends([&] {
+            QTest::keyClick(window("frmSplash"), Qt::Key_Space);
+            QTest::mouseClick(window("frmMain")->findChild<QWidget*>("Command1"), Qt::LeftButton);
+            trigger("mnuBag"); // it goes after the others
+            trigger(action);
+            QTest::qWait(0);
+            window(name)->activateWindow();
+            type(name, part);
+            trigger("mnuExit");
+        }));
+        EXPECT_TRUE(ends([&] {
+            QTest::keyClick(window("frmSplash"), Qt::Key_Space);
+            trigger("mnuReopenSession");
+            trigger(action);
+            EXPECT_EQ(shown(name, part, column), "4321") << name;
+            trigger("mnuExit");
+        }));
+    }
 }
 
 } // namespace
