@@ -295,6 +295,7 @@ TEST(Import, LeavesOutAirThatNobodyBreathes) {
         {"Pressure at the place [inHg]", "0", "pressure at the place 0 inHg left out"},
         {"Pressure at the place [inHg]", "17", ""}, // Mount Elbert
         {"Air density [kg/m3]", "0", "air density 0 kg/m3 left out"},
+        {"Air density [kg/m3]", "1.9", "air density 1.9 kg/m3 left out"},
         {"Air density [kg/m3]", "0.66", ""},
         {"Air density [kg/m3]", "1.5", ""}};
     for (const Case& c : cases) {
