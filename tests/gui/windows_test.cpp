@@ -202,25 +202,30 @@ TEST_F(ProgramTest, WhatIsBeingTypedAtItsEndIsKept) {
             return table->model()->index(0, column).data().toString();
         return window(name)->findChild<QDoubleSpinBox*>(part)->cleanText();
     };
-    for (const auto& [action, name, part, column] :
-         {std::tuple{"mnuDataSets", "dataSets", "dataSetsTable", 2},
-          {"mnuBag", "bag", "bagTable", 1},
-          {"mnuMeasured", "measuredShots", "measuredAltitude", 0}}) {
+    struct Typing {
+        const char* action;
+        const char* name;
+        const char* part;
+        int column;
+    };
+    for (const Typing& in : {Typing{"mnuDataSets", "dataSets", "dataSetsTable", 2},
+                             {"mnuBag", "bag", "bagTable", 1},
+                             {"mnuMeasured", "measuredShots", "measuredAltitude", 0}}) {
         EXPECT_TRUE(ends([&] {
             QTest::keyClick(window("frmSplash"), Qt::Key_Space);
             QTest::mouseClick(window("frmMain")->findChild<QWidget*>("Command1"), Qt::LeftButton);
             trigger("mnuBag"); // it goes after the others
-            trigger(action);
+            trigger(in.action);
             QTest::qWait(0);
-            window(name)->activateWindow();
-            type(name, part);
+            window(in.name)->activateWindow();
+            type(in.name, in.part);
             trigger("mnuExit");
         }));
         EXPECT_TRUE(ends([&] {
             QTest::keyClick(window("frmSplash"), Qt::Key_Space);
             trigger("mnuReopenSession");
-            trigger(action);
-            EXPECT_EQ(shown(name, part, column), "4321") << name;
+            trigger(in.action);
+            EXPECT_EQ(shown(in.name, in.part, in.column), "4321") << in.name;
             trigger("mnuExit");
         }));
     }
